@@ -1,0 +1,38 @@
+#pragma once
+
+#include <exception>
+#include <memory>
+#include <string>
+
+namespace Ostra {
+
+/// Turns a message into the exception of the library that asked for a document to be read.
+///
+/// The readers of this folder serve two libraries, each with an exception class of its own; the factory travels with
+/// the document, so that every fault found in it surfaces as the exception its reader's caller expects.
+class ExceptionFactory {
+public:
+    virtual ~ExceptionFactory() = default;
+    /// Returns a pointer to an exception that carries the message; throws nothing but what allocation may throw.
+    virtual std::exception_ptr makeException(const std::string& message) const = 0;
+
+    /// Throws the exception made from the message.
+    [[noreturn]] void raise(const std::string& message) const { std::rethrow_exception(makeException(message)); }
+};
+
+/// The factory of one exception class that is constructed from its message.
+template <class Exception>
+class ExceptionFactoryOf final : public ExceptionFactory {
+public:
+    std::exception_ptr makeException(const std::string& message) const override {
+        return std::make_exception_ptr(Exception(message));
+    }
+
+    /// The one factory of this class; it has no state, so every document can share it.
+    static const std::shared_ptr<const ExceptionFactory>& shared() {
+        static const std::shared_ptr<const ExceptionFactory> factory = std::make_shared<ExceptionFactoryOf>();
+        return factory;
+    }
+};
+
+} // namespace Ostra

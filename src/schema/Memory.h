@@ -1,0 +1,31 @@
+#pragma once
+
+#include <rapidjson/allocators.h>
+
+#include <cstddef>
+#include <cstring>
+#include <new>
+
+namespace Ostra {
+
+/// Gives RapidJSON its memory through operator new, so that memory that ends is std::bad_alloc: RapidJSON's own
+/// allocators return null, which it then writes through.
+class ThrowingAllocator {
+public:
+    static constexpr bool kNeedFree = true;
+
+    void* Malloc(std::size_t size) { return size == 0 ? nullptr : ::operator new(size); }
+    void* Realloc(void* block, std::size_t oldSize, std::size_t newSize) {
+        void* moved = Malloc(newSize);
+        if (block != nullptr && moved != nullptr) {
+            std::memcpy(moved, block, oldSize < newSize ? oldSize : newSize);
+        }
+        Free(block);
+        return moved;
+    }
+    static void Free(void* block) { ::operator delete(block); }
+};
+
+using JSONPool = rapidjson::MemoryPoolAllocator<ThrowingAllocator>;
+
+} // namespace Ostra

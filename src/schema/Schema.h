@@ -1,0 +1,53 @@
+#pragma once
+
+#include "schema/BuiltIn.h"
+#include "schema/JSON.h"
+
+#include <array>
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <memory_resource>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Ostra {
+
+/// The generic record of a schema text: its typeid, its one base, and its constants and properties by id.
+/// Everything that it hands out refers into the text's document and lives as long as the record.
+class Schema {
+public:
+    /// Reads a text; every fault in its structure is raised through the factory.
+    Schema(const std::string& text, std::shared_ptr<const ExceptionFactory> factory);
+    Schema(const Schema&) = delete;
+    Schema& operator=(const Schema&) = delete;
+
+    /// Property definitions in ascending byte order of their ids.
+    using Definitions = std::pmr::map<std::string_view, JSONView>;
+
+    std::string_view typeId() const { return typeId_; }
+    /// True when the base is of that built-in identifier's major version.
+    bool inherits(const BuiltIn::Identifier& base) const { return base.isIn(base_); }
+    std::string_view base() const { return base_; }
+    const Definitions& constants() const { return constants_; }
+    const Definitions& properties() const { return properties_; }
+
+    /// Returns the value of a definition: its "value", else its "typedValue"; fails when it has neither.
+    static JSONView valueOf(JSONView definition);
+
+    [[noreturn]] void fail(const std::string& message) const { document_.view().fail(message); }
+
+private:
+    void readDefinitions(const char* name, Definitions& definitions);
+
+    JSON document_;
+    std::string_view typeId_;
+    std::string_view base_;
+    std::array<std::byte, 1024> buffer_; // the definitions of most schemas fit
+    std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size()};
+    Definitions constants_{&memory_};
+    Definitions properties_{&memory_};
+};
+
+} // namespace Ostra
