@@ -87,7 +87,13 @@ function(ostra_install_package target)
         ${PROJECT_SOURCE_DIR}/cmake/Config.cmake.in ${target}Config.cmake INSTALL_DESTINATION ${package_folder}
     )
     write_basic_package_version_file(${target}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
-    install(TARGETS ${target} EXPORT ${target}Targets FILE_SET HEADERS)
+    install(
+        TARGETS ${target}
+        EXPORT ${target}Targets
+        FILE_SET HEADERS
+        INCLUDES # for consumers whose CMake does not know file sets
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+    )
     install(EXPORT ${target}Targets NAMESPACE Ostra:: DESTINATION ${package_folder})
     install(
         FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}Config.cmake ${CMAKE_CURRENT_BINARY_DIR}/${target}ConfigVersion.cmake
