@@ -3,8 +3,6 @@
 #include "schema/ExceptionFactory.h"
 #include "schema/Memory.h"
 
-#include <rapidjson/document.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -15,9 +13,6 @@
 #include <vector>
 
 namespace Ostra {
-
-/// The value type of the parser, with all its memory from operator new.
-using JSONValue = rapidjson::GenericValue<rapidjson::UTF8<>, JSONPool>;
 
 /// A read-only look at one value of a document; valid as long as the JSON it came from.
 class JSONView {
@@ -64,11 +59,12 @@ public:
     /// Fails when a name or a value is not a string.
     std::map<std::string, std::string> toStringMap() const;
 
-    /// Returns the value as text without blanks. Numbers must be finite.
+    /// Returns the value as text without blanks. Does not recurse with the depth of the value.
+    /// @throws std::domain_error if a number is not finite.
     std::string toText() const;
 
-    /// Throws the exception of the library that had the document read.
-    [[noreturn]] void fail(const std::string& message) const { factory_->raise(message); }
+    /// Throws the exception of the library that had the document read; for a value that was built, std::logic_error.
+    [[noreturn]] void fail(const std::string& message) const;
 
 private:
     const JSONValue* value_;
@@ -80,24 +76,27 @@ class JSON {
 public:
     /// Parses a whole text. Neither this nor destruction recurses with the depth of the text.
     /// Fails through the factory with "JSON parsing error at offset N: reason".
-    static JSON parse(const std::string& text, std::shared_ptr<const ExceptionFactory> factory);
+    static JSON parse(std::string_view text, std::shared_ptr<const ExceptionFactory> factory);
 
     JSON(JSON&&) noexcept = default;
     JSON& operator=(JSON&&) noexcept = default;
 
     JSONView view() const { return {value_, factory_.get()}; }
 
-    /// Appends a member to an object; both values must come from one builder.
+    /// Appends a member to an object. After std::bad_alloc the object is only good for destruction.
+    /// @throws std::invalid_argument if the two values come from different builders.
     void add(std::string_view name, JSON member);
-    /// Appends an element to an array; both values must come from one builder.
+    /// Appends an element to an array.
+    /// @throws std::invalid_argument if the two values come from different builders.
     void append(JSON element);
 
-    /// Returns the value as text without blanks. Numbers must be finite.
+    /// Returns the value as text without blanks (see JSONView::toText).
     std::string toText() const { return view().toText(); }
 
 private:
     friend class JSONBuilder;
     JSON(std::shared_ptr<JSONPool> pool, JSONValue&& value, std::shared_ptr<const ExceptionFactory> factory);
+    void checkPool(const JSON& part) const;
 
     std::shared_ptr<JSONPool> pool_; // declared first: the value lives in it
     JSONValue value_;

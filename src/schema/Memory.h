@@ -1,6 +1,6 @@
 #pragma once
 
-#include <rapidjson/allocators.h>
+#include <rapidjson/document.h>
 
 #include <cstddef>
 #include <cstring>
@@ -26,6 +26,12 @@ public:
     static void Free(void* block) { ::operator delete(block); }
 };
 
+/// For those who keep a pointer to their allocator: it has no state, so all can keep the same.
+inline ThrowingAllocator sharedAllocator;
+
 using JSONPool = rapidjson::MemoryPoolAllocator<ThrowingAllocator>;
+
+/// The value type of the parser, with all its memory from operator new.
+using JSONValue = rapidjson::GenericValue<rapidjson::UTF8<>, JSONPool>;
 
 } // namespace Ostra

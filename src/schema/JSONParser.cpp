@@ -1,0 +1,112 @@
+#include "schema/JSONParser.h"
+
+#include "schema/Numbers.h"
+
+#include <rapidjson/reader.h>
+#include <rapidjson/stream.h>
+
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <stdexcept>
+
+namespace Ostra {
+
+namespace {
+
+using Document = rapidjson::GenericDocument<rapidjson::UTF8<>, JSONPool, ThrowingAllocator>;
+using Reader = rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, ThrowingAllocator>;
+using rapidjson::ParseResult;
+using rapidjson::SizeType;
+
+/// Iterative, for texts of any depth. Numbers come as they are written, because the reader's own conversion is not
+/// correctly rounded. In place, so that neither numbers nor strings are copied one by one.
+constexpr unsigned parseFlags =
+    rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseInsituFlag;
+
+/// The reader counts the digits of a fraction in an int, and adds a few hundred.
+constexpr std::size_t maxTextSize = std::numeric_limits<int>::max() - 1000;
+
+/// Hands what the reader finds to a document, numbers converted.
+class ValueHandler {
+public:
+    explicit ValueHandler(Document& document) : document_(document) {}
+
+    bool Null() { return document_.Null(); }
+    bool Bool(bool value) { return document_.Bool(value); }
+    bool String(const char* text, SizeType length, bool copy) { return document_.String(text, length, copy); }
+    bool StartObject() { return document_.StartObject(); }
+    bool Key(const char* text, SizeType length, bool copy) { return document_.Key(text, length, copy); }
+    bool EndObject(SizeType memberCount) { return document_.EndObject(memberCount); }
+    bool StartArray() { return document_.StartArray(); }
+    bool EndArray(SizeType elementCount) { return document_.EndArray(elementCount); }
+
+    /// Stops the reader at a number that no double holds.
+    bool RawNumber(const char* text, SizeType length, bool) {
+        const std::string_view number(text, length);
+        if (const auto integer = toInteger<std::int64_t>(number)) {
+            return document_.Int64(*integer);
+        }
+        if (const auto integer = toInteger<std::uint64_t>(number)) {
+            return document_.Uint64(*integer);
+        }
+        const auto nearest = toDouble(number);
+        return nearest && document_.Double(*nearest);
+    }
+
+    // The reader's template names these too, but never calls them for numbers as they are written.
+    bool Int(int value) { return document_.Int(value); }
+    bool Uint(unsigned value) { return document_.Uint(value); }
+    bool Int64(std::int64_t value) { return document_.Int64(value); }
+    bool Uint64(std::uint64_t value) { return document_.Uint64(value); }
+    bool Double(double value) { return document_.Double(value); }
+
+private:
+    Document& document_;
+};
+
+/// Returns the result that the reader's default flags give, and treats a byte 0 as a byte like any other: the reader
+/// takes it for the end of the text.
+ParseResult adjusted(ParseResult result, std::size_t end, std::size_t textSize) {
+    switch (result.Code()) {
+    case rapidjson::kParseErrorNone:
+        return end < textSize ? ParseResult(rapidjson::kParseErrorDocumentRootNotSingular, end) : result;
+    case rapidjson::kParseErrorDocumentEmpty: // the iterative parser says so of a stray first character, too
+        return result.Offset() < textSize ? ParseResult(rapidjson::kParseErrorValueInvalid, result.Offset()) : result;
+    case rapidjson::kParseErrorTermination: // the handler stops at nothing else
+        return {rapidjson::kParseErrorNumberTooBig, result.Offset()};
+    default:
+        return result;
+    }
+}
+
+char* copyOf(std::string_view text, JSONPool& pool) {
+    auto* const copy = static_cast<char*>(pool.Malloc(text.size() + 1));
+    text.copy(copy, text.size());
+    copy[text.size()] = '\0';
+    return copy;
+}
+
+} // namespace
+
+ParseResult parseText(std::string_view text, JSONPool& pool, JSONValue& value) {
+    if (text.size() > maxTextSize) {
+        throw std::length_error("A JSON text is too long.");
+    }
+    rapidjson::InsituStringStream stream(copyOf(text, pool));
+    ThrowingAllocator allocator;
+    Reader reader(&allocator);
+    Document document(&pool, 1024, &allocator);
+    ParseResult result;
+    auto generate = [&](Document& target) {
+        ValueHandler handler(target);
+        result = reader.Parse<parseFlags>(stream, handler);
+        result = adjusted(result, stream.Tell(), text.size());
+        return !result.IsError();
+    };
+    document.Populate(generate);
+    value.Swap(document);
+    return result;
+}
+
+} // namespace Ostra
