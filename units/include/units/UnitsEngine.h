@@ -1,0 +1,62 @@
+#pragma once
+
+#include <units/Export.h>
+#include <units/Unit.h>
+#include <units/ValidationException.h>
+
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+
+namespace Units {
+
+/// A registry of units: unit schemas in, units out.
+///
+/// A schema is registered first, and counts as registered at once; its unit is handed out after the next
+/// resolveSchemas. An operation that throws leaves the engine as it was. An engine takes no locks.
+///
+/// The text of a unit schema is a JSON object: "typeid", "inherits" with one base that contains
+/// "norvex.unit:unit-1.", and the constants "name" (a non-empty string) and "symbol" (a string, empty by default).
+class UNITS_EXPORT UnitsEngine {
+public:
+    /// Makes an engine without units.
+    UnitsEngine();
+    /// Makes an engine with the same units and registered schemas; independent afterwards. The units share their data.
+    UnitsEngine(const UnitsEngine& other);
+    /// Takes the other engine's units; it may only be assigned to or destroyed afterwards.
+    UnitsEngine(UnitsEngine&& other) noexcept;
+    /// Replaces everything in this engine by a copy of the other's units and registered schemas.
+    UnitsEngine& operator=(const UnitsEngine& other);
+    /// Takes the other engine's units; it may only be assigned to or destroyed afterwards, unless it is this one.
+    UnitsEngine& operator=(UnitsEngine&& other) noexcept;
+    ~UnitsEngine();
+
+    /// True when a schema of that typeid is registered, resolved or not.
+    bool isRegistered(const std::string& typeId) const;
+
+    /// Registers one unit schema. Returns the typeids that it needs and that are missing: none, as units need nothing.
+    /// @throws ValidationException if the text is no schema, its typeid is registered, its base is not that of units,
+    ///         or a constant is missing or of the wrong type.
+    std::set<std::string> registerSchema(const std::string& schemaText);
+
+    /// Makes units of all registered schemas. Costs the same however many there are.
+    void resolveSchemas();
+
+    /// Returns the unit of that typeid.
+    /// @throws ValidationException if there is none, or its schema is not resolved yet.
+    Unit getUnit(const std::string& typeId) const;
+
+    /// Returns all units, by typeid in ascending byte order.
+    std::map<std::string, Unit> getAllUnits() const;
+
+    /// Returns the typeids that the unit names: none, as units need nothing.
+    /// @throws ValidationException if there is no unit of that typeid, or its schema is not resolved yet.
+    std::set<std::string> getDependencies(const std::string& typeId) const;
+
+private:
+    class Registry;
+    std::unique_ptr<Registry> registry_;
+};
+
+} // namespace Units

@@ -1,0 +1,27 @@
+#include "UnitSchema.h"
+
+#include "schema/BuiltIn.h"
+#include "schema/Constants.h"
+#include "schema/Schema.h"
+
+#include <utility>
+
+namespace Units::Internal {
+
+namespace {
+
+constexpr Ostra::BuiltIn::Identifier unitBase("norvex.unit:unit-1.0.0");
+
+} // namespace
+
+Unit readUnit(const Ostra::Schema& schema) {
+    if (!schema.inherits(unitBase)) {
+        schema.fail("Inheritance from an unrecognized base schema.");
+    }
+    const Ostra::Constants constants(schema);
+    std::string name(constants.required<Ostra::NonEmptyString>("name"));
+    std::string symbol(constants.optional<Ostra::String>("symbol", ""));
+    return {std::string(schema.typeId()), std::move(name), std::move(symbol)};
+}
+
+} // namespace Units::Internal

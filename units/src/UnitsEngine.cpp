@@ -1,0 +1,90 @@
+#include <units/UnitsEngine.h>
+
+#include "UnitSchema.h"
+#include "schema/ExceptionFactory.h"
+#include "schema/Schema.h"
+
+#include <cstddef>
+#include <unordered_map>
+#include <utility>
+
+namespace Units {
+
+/// The units in the order in which they were registered. A unit is built when its schema is registered, and only handed
+/// out later, so that resolving is one assignment, which cannot fail.
+class UnitsEngine::Registry {
+public:
+    bool holds(const std::string& typeId) const { return entries_.count(typeId) != 0; }
+
+    void add(const std::string& typeId, const Unit& unit) {
+        entries_.try_emplace(typeId, Entry{unit, entries_.size()});
+    }
+
+    void resolve() noexcept { resolved_ = entries_.size(); }
+
+    const Unit& find(const std::string& typeId) const {
+        const auto found = entries_.find(typeId);
+        if (found == entries_.end() || !isResolved(found->second)) {
+            throw ValidationException("Could not find unit with typeid " + typeId + ".");
+        }
+        return found->second.unit;
+    }
+
+    std::map<std::string, Unit> all() const {
+        std::map<std::string, Unit> units;
+        for (const auto& [typeId, entry] : entries_) {
+            if (isResolved(entry)) {
+                units.emplace(typeId, entry.unit);
+            }
+        }
+        return units;
+    }
+
+private:
+    struct Entry {
+        Unit unit;
+        std::size_t position;
+    };
+
+    bool isResolved(const Entry& entry) const { return entry.position < resolved_; }
+
+    std::unordered_map<std::string, Entry> entries_;
+    std::size_t resolved_ = 0;
+};
+
+UnitsEngine::UnitsEngine() : registry_(std::make_unique<Registry>()) {}
+
+UnitsEngine::UnitsEngine(const UnitsEngine& other) : registry_(std::make_unique<Registry>(*other.registry_)) {}
+
+UnitsEngine::UnitsEngine(UnitsEngine&&) noexcept = default;
+
+UnitsEngine& UnitsEngine::operator=(const UnitsEngine& other) { return *this = UnitsEngine(other); }
+
+UnitsEngine& UnitsEngine::operator=(UnitsEngine&&) noexcept = default;
+
+UnitsEngine::~UnitsEngine() = default;
+
+bool UnitsEngine::isRegistered(const std::string& typeId) const { return registry_->holds(typeId); }
+
+std::set<std::string> UnitsEngine::registerSchema(const std::string& schemaText) {
+    const Ostra::Schema schema(schemaText, Ostra::ExceptionFactoryOf<ValidationException>::shared());
+    const std::string typeId(schema.typeId());
+    if (registry_->holds(typeId)) {
+        schema.fail("Schema with typeid " + typeId + " is already registered.");
+    }
+    registry_->add(typeId, Internal::readUnit(schema));
+    return {};
+}
+
+void UnitsEngine::resolveSchemas() { registry_->resolve(); }
+
+Unit UnitsEngine::getUnit(const std::string& typeId) const { return registry_->find(typeId); }
+
+std::map<std::string, Unit> UnitsEngine::getAllUnits() const { return registry_->all(); }
+
+std::set<std::string> UnitsEngine::getDependencies(const std::string& typeId) const {
+    registry_->find(typeId);
+    return {};
+}
+
+} // namespace Units
