@@ -61,9 +61,8 @@ inline constexpr std::string_view enumeration = "Enum";
 
 /// The identifiers whose typeids are taken: no schema or object may have one of them, and naming one is never naming
 /// something that is missing.
-inline constexpr std::array reserved{stringRange, setStringRange, regexStringRange, floatRange,
-                                     intRange,    familyType,     boolSpec,         intSpec,
-                                     referenceSpec, stringSpec,   discipline,       group};
+inline constexpr std::array reserved{stringRange, setStringRange, regexStringRange, floatRange, intRange,   familyType,
+                                     boolSpec,    intSpec,        referenceSpec,    stringSpec, discipline, group};
 
 /// True when the typeid contains the version prefix of a reserved identifier.
 bool isReserved(std::string_view typeId);

@@ -1,0 +1,153 @@
+#pragma once
+
+#include <parameters/BoolParameter.h>
+#include <parameters/BoolSpec.h>
+#include <parameters/Export.h>
+#include <parameters/GeneralSpec.h>
+#include <parameters/ParameterCore.h>
+#include <parameters/SpecCore.h>
+#include <parameters/Taxon.h>
+#include <parameters/UnrecognizedIdentifierException.h>
+#include <parameters/ValidationException.h>
+#include <parameters/ValueType.h>
+
+#include <units/UnitsEngine.h>
+
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace Parameters {
+
+namespace Internal {
+class Engine;
+} // namespace Internal
+
+/// A registry of parameter definitions.
+///
+/// Schemas enter in two steps: registerSchema reads texts in any order and keeps them pending, resolveSchemas turns all
+/// of them into objects. registerSchemas does both for a batch. Objects made in code enter by registerX at once.
+/// Objects are never replaced or removed.
+///
+/// Every operation that throws, std::bad_alloc included, leaves the engine as it was, save where it says otherwise.
+/// An engine is not to be used from two threads at once while one of them changes it; calls of const operations alone
+/// may run side by side, and so may copies in different threads.
+class PARAMETERS_EXPORT ParametersEngine {
+public:
+    /// Makes an empty engine. Nothing is registered beforehand: built-in identifiers are recognised, not stored.
+    ParametersEngine();
+    /// Copies an engine with all that it holds; the two are independent afterwards. What they hold is shared until one
+    /// of them changes, so that the cost does not grow with the number of objects (the units engine is copied as it
+    /// is); the first change of either then costs a copy of its tables.
+    ParametersEngine(const ParametersEngine& other);
+    ParametersEngine& operator=(const ParametersEngine& other);
+    /// A moved-from engine may only be destroyed or assigned to.
+    ParametersEngine(ParametersEngine&& other) noexcept;
+    ParametersEngine& operator=(ParametersEngine&& other) noexcept;
+    ~ParametersEngine();
+
+    /// Returns the object of a kind and type identifier. Only resolved objects are found. For an identifier that
+    /// contains the version prefix of the kind's built-in identifier, the built-in object of exactly that identifier is
+    /// returned; domains and general specs have none.
+    /// @throws UnrecognizedIdentifierException "Could not find K with typeid T.", where K is the kind's name.
+    /// @{
+    Taxon getDiscipline(const std::string& typeId) const;
+    BoolSpec getBoolSpec(const std::string& typeId) const;
+    GeneralSpec getGeneralSpec(const std::string& typeId) const;
+    Taxon getGroup(const std::string& typeId) const;
+    BoolParameter getBoolParameter(const std::string& typeId) const;
+    Taxon getDomain(const std::string& typeId) const;
+    /// @}
+
+    /// Returns all resolved objects of a kind by type identifier, in its byte order.
+    /// @{
+    std::map<std::string, Taxon> getAllDisciplines() const;
+    std::map<std::string, BoolSpec> getAllBoolSpecs() const;
+    std::map<std::string, GeneralSpec> getAllGeneralSpecs() const;
+    std::map<std::string, Taxon> getAllGroups() const;
+    std::map<std::string, BoolParameter> getAllBoolParameters() const;
+    std::map<std::string, Taxon> getAllDomains() const;
+    /// @}
+
+    /// Registers an object made in code. What it names by type identifier must be registered or built in; the
+    /// registered objects take the place of those that it was made with.
+    /// @throws ValidationException "Typeid must not be empty."
+    /// @throws ValidationException "Schema with typeid T is already registered." if T names anything at all: a schema
+    /// or
+    ///         object of any kind, a unit, or a built-in identifier.
+    /// @throws ValidationException "Could not find K with typeid T." if the object names something that is not there.
+    /// @{
+    void registerDiscipline(const Taxon& discipline);
+    void registerBoolSpec(const BoolSpec& spec);
+    void registerGeneralSpec(const GeneralSpec& spec);
+    void registerGroup(const Taxon& group);
+    void registerBoolParameter(const BoolParameter& parameter);
+    void registerDomain(const Taxon& domain);
+    /// @}
+
+    /// Returns whether a type identifier is taken: by a schema, resolved or not, by an object, by a unit, or because it
+    /// contains a built-in identifier.
+    bool isRegistered(const std::string& typeId) const;
+
+    /// Returns the units engine, through which units can be registered and resolved directly.
+    Units::UnitsEngine& getUnitsEngine();
+
+    /// Returns what values a parameter schema describes; None for other kinds, for enumeration parameters, and for a
+    /// text that its kind refuses. Nothing is registered.
+    /// @throws ValidationException if the text is no schema.
+    ValueType readValueType(const std::string& schemaText) const;
+
+    /// Returns the parameter that a schema text describes, with what it names as registered. Nothing is registered.
+    /// @throws ValidationException if the text is no schema of that kind, or its type identifier is taken, or it names
+    ///         something that is not registered.
+    /// @{
+    BoolParameter readBoolParameter(const std::string& schemaText) const;
+    /// @}
+
+    /// Registers a schema; its object is there after resolveSchemas. Unit schemas are not accepted.
+    /// @return the type identifiers that the schema names and that are not registered yet: schemas first, then units.
+    /// @throws ValidationException if the text is no schema, or its type identifier is taken.
+    /// @throws ValidationException "Inheritance from an unrecognized base schema."
+    std::pair<std::set<std::string>, std::set<std::string>> registerSchema(const std::string& schemaText);
+
+    /// Registers schemas, unit schemas among them, in ascending order of their keys, then resolves. The keys are type
+    /// identifiers; entries whose key is taken are passed over unread, so that a batch may be registered again.
+    /// @throws ValidationException as registerSchema and resolveSchemas do. Entries before a refused one stay pending,
+    ///         entries after it are not looked at, and nothing is resolved.
+    /// @throws Units::ValidationException if the units engine refuses a schema that no kind of this engine accepts.
+    void registerSchemas(const std::map<std::string, std::string>& schemas);
+
+    /// Turns all pending schemas, units first, into objects; schemas may name each other in whatever order they were
+    /// registered. All or nothing: when it throws, pending schemas stay pending and no object is added, save that
+    /// the units engine may have resolved its own.
+    /// @throws ValidationException "Dependency T in schema S is missing or does not represent an object of the expected
+    ///         type."
+    void resolveSchemas();
+
+    /// Returns the type identifiers that a resolved object names, built-in ones included.
+    /// @throws UnrecognizedIdentifierException "Could not find any object with typeid T.", also for the kinds that name
+    ///         nothing: disciplines, domains and groups.
+    std::set<std::string> getDependencies(const std::string& typeId) const;
+    /// Returns the type identifiers that a parameter made in code names. It is checked as if it were registered.
+    /// @throws ValidationException as registering it would.
+    /// @{
+    std::set<std::string> getDependencies(const BoolParameter& parameter) const;
+    /// @}
+
+    /// Returns the schema of a resolved object, as JSON text without blanks. It is written from the object and leaves
+    /// out what equals its default.
+    /// @throws UnrecognizedIdentifierException "Could not find any object with typeid T."
+    std::string getSchema(const std::string& typeId) const;
+    /// Returns the schema of a parameter made in code. It is checked as if it were registered.
+    /// @throws ValidationException as registering it would.
+    /// @{
+    std::string getSchema(const BoolParameter& parameter) const;
+    /// @}
+
+private:
+    std::unique_ptr<Internal::Engine> engine_;
+};
+
+} // namespace Parameters

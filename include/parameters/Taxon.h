@@ -1,0 +1,40 @@
+#pragma once
+
+#include <parameters/Export.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace Parameters {
+
+namespace Internal {
+struct Access;
+struct TaxonData;
+} // namespace Internal
+
+/// A named thing of a taxonomy: a discipline, a domain or a group. Copies share their data.
+class PARAMETERS_EXPORT Taxon {
+public:
+    /// Keeps both texts as they are.
+    Taxon(const std::string& typeId, const std::string& name);
+    Taxon(const Taxon&) noexcept = default;
+    Taxon& operator=(const Taxon&) noexcept = default;
+
+    std::string getTypeId() const;
+    std::string getName() const;
+
+    /// Comparisons are by identity: the bytes of the type identifier alone decide, nothing else takes part.
+    bool operator==(const Taxon& other) const noexcept;
+    bool operator!=(const Taxon& other) const noexcept;
+    bool operator<(const Taxon& other) const noexcept;
+    bool operator>(const Taxon& other) const noexcept;
+
+private:
+    friend struct Internal::Access;
+    explicit Taxon(std::shared_ptr<const Internal::TaxonData> data) noexcept : data_(std::move(data)) {}
+
+    std::shared_ptr<const Internal::TaxonData> data_;
+};
+
+} // namespace Parameters

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <parameters/Export.h>
+
+#include <stdexcept>
+
+namespace Parameters {
+
+/// A look-up by a type identifier under which there is no object. Carries its message only.
+class PARAMETERS_EXPORT UnrecognizedIdentifierException : public std::logic_error {
+public:
+    using std::logic_error::logic_error;
+    UnrecognizedIdentifierException(const UnrecognizedIdentifierException&) noexcept = default;
+    UnrecognizedIdentifierException& operator=(const UnrecognizedIdentifierException&) noexcept = default;
+    ~UnrecognizedIdentifierException() override;
+};
+
+} // namespace Parameters

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <parameters/Export.h>
+
+#include <stdexcept>
+
+namespace Parameters {
+
+/// A malformed schema, a failed check or a refused registration. Carries its message only.
+class PARAMETERS_EXPORT ValidationException : public std::logic_error {
+public:
+    using std::logic_error::logic_error;
+    ValidationException(const ValidationException&) noexcept = default;
+    ValidationException& operator=(const ValidationException&) noexcept = default;
+    ~ValidationException() override;
+};
+
+} // namespace Parameters

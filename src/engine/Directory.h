@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace Parameters::Internal {
+
+/// The typeids of all kinds in one hash table: is a typeid known, of which kind is it, and where in that kind's store.
+///
+/// The typeids themselves live in the records and objects that the entries stand for.
+class Directory {
+public:
+    using EntryId = std::uint32_t;
+
+    struct Entry {
+        std::string_view typeId;
+        std::uint32_t place; // among the pending records or the objects of its kind
+        std::uint8_t kind;
+        bool resolved;
+    };
+
+    /// Returns the entry of a typeid, or null.
+    const Entry* find(std::string_view typeId) const noexcept;
+    Entry& operator[](EntryId id) noexcept { return entries_[id]; }
+    const Entry& operator[](EntryId id) const noexcept { return entries_[id]; }
+
+    /// Makes room for one entry more, so that the next add cannot throw.
+    void reserveOne();
+    /// Adds an entry for a typeid that has none, after reserveOne.
+    EntryId add(const Entry& entry) noexcept;
+
+private:
+    struct Slot {
+        std::uint32_t hash; // tells nearly all others apart, and spares looking at the typeids when the table grows
+        EntryId entry;
+    };
+    static constexpr EntryId none = 0xFFFFFFFF;
+    static constexpr std::size_t limit = std::size_t{1} << 31; // more would need more bits of hash
+
+    void enlarge(std::size_t slotCount);
+    void place(Slot slot) noexcept;
+
+    std::vector<Entry> entries_;
+    std::vector<Slot> slots_; // a power of two of them, or none; collisions go to the next slot
+};
+
+} // namespace Parameters::Internal

@@ -1,0 +1,124 @@
+#include "engine/Engine.h"
+
+#include "schema/BuiltIn.h"
+
+#include <optional>
+
+namespace Parameters::Internal {
+
+namespace {
+
+[[noreturn]] void failUnknown(const std::string& typeId) {
+    throw UnrecognizedIdentifierException("Could not find any object with typeid " + typeId + ".");
+}
+
+} // namespace
+
+bool Engine::isRegistered(std::string_view typeId) const {
+    return registry_.read().find(typeId) != nullptr || Ostra::BuiltIn::isReserved(typeId) ||
+           units_.isRegistered(std::string(typeId));
+}
+
+void Engine::checkNew(std::string_view typeId) const {
+    if (typeId.empty()) {
+        throw ValidationException("Typeid must not be empty.");
+    }
+    if (isRegistered(typeId)) {
+        throw ValidationException("Schema with typeid " + std::string(typeId) + " is already registered.");
+    }
+}
+
+ValueType Engine::valueTypeOf(const std::string& text) const {
+    const Ostra::Schema schema(text, ValidationExceptionFactory::shared());
+    ValueType type = None;
+    try {
+        anyKind(ValueTypeOrder{}, [&]<class K>() {
+            const bool accepts = K::read(schema).has_value();
+            type = accepts ? K::valueType : None;
+            return accepts;
+        });
+    } catch (const ValidationException&) {
+        return None; // of that kind by its base, but no parameter can come of it
+    }
+    return type;
+}
+
+Engine::Missing Engine::registerSchema(const std::string& text) {
+    Missing missing;
+    if (!offer(text, &missing)) {
+        throw ValidationException("Inheritance from an unrecognized base schema.");
+    }
+    return missing;
+}
+
+void Engine::registerSchemas(const std::map<std::string, std::string>& texts) {
+    for (const auto& [typeId, text] : texts) {
+        if (!isRegistered(typeId) && !offer(text, nullptr)) {
+            units_.registerSchema(text);
+        }
+    }
+    resolveSchemas();
+}
+
+bool Engine::offer(const std::string& text, Missing* missing) {
+    const Ostra::Schema schema(text, ValidationExceptionFactory::shared());
+    checkNew(schema.typeId());
+    return anyKind(OfferingOrder{}, [&]<class K>() {
+        auto record = K::read(schema);
+        if (!record) {
+            return false;
+        }
+        if (missing != nullptr) {
+            findMissing<K>(*record, *missing);
+        }
+        registry_.write().addPending<K>(std::move(*record));
+        return true;
+    });
+}
+
+template <class K>
+void Engine::findMissing(const typename K::Record& record, Missing& missing) const {
+    if constexpr (DependentKind<K>) {
+        for (const std::string_view named : record.references) {
+            if (named != record.texts[0] && !isRegistered(named)) {
+                missing.first.emplace(named);
+            }
+        }
+    }
+}
+
+void Engine::resolveSchemas() {
+    units_.resolveSchemas();
+    Registry& registry = registry_.write();
+    Resolution resolution(registry);
+    if (const auto& faults = resolution.run(Resolution::Stop::afterFaultyKind); !faults.empty()) {
+        throw ValidationException(faults.begin()->second);
+    }
+    registry.reserveForPending();
+    forEachKind(StoreOrder{}, [&]<class K>() { registry.commit<K>(resolution.built<K>()); });
+}
+
+std::set<std::string> Engine::dependenciesOf(const std::string& typeId) const {
+    std::optional<std::set<std::string>> named; // none for kinds that name nothing: they are not searched
+    registry_.read().visitObject(typeId, [&]<class K>(const typename K::Object& object) {
+        if constexpr (DependentKind<K>) {
+            named = namedBy<K>(object);
+        }
+    });
+    if (!named) {
+        failUnknown(typeId);
+    }
+    return *std::move(named);
+}
+
+std::string Engine::schemaOf(const std::string& typeId) const {
+    std::string text;
+    const bool found = registry_.read().visitObject(
+        typeId, [&]<class K>(const typename K::Object& object) { text = K::write(object).toText(); });
+    if (!found) {
+        failUnknown(typeId);
+    }
+    return text;
+}
+
+} // namespace Parameters::Internal

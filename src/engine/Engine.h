@@ -1,0 +1,112 @@
+#pragma once
+
+#include "engine/CopyOnWrite.h"
+#include "engine/Kinds.h"
+#include "engine/Registry.h"
+#include "engine/Resolution.h"
+#include "schema/Schema.h"
+#include "schema/ValidationExceptionFactory.h"
+
+#include <parameters/UnrecognizedIdentifierException.h>
+#include <parameters/ValidationException.h>
+#include <parameters/ValueType.h>
+#include <units/UnitsEngine.h>
+
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace Parameters::Internal {
+
+/// The engine behind the public one: each family of operations is one template over the kinds.
+class Engine {
+public:
+    /// Typeids that a schema names and nobody has registered: schemas first, then units.
+    using Missing = std::pair<std::set<std::string>, std::set<std::string>>;
+
+    template <class K>
+    typename K::Object get(const std::string& typeId) const {
+        if constexpr (KindWithStandIn<K>) {
+            if (K::builtIn.isIn(typeId)) {
+                return standInOf<K>(typeId);
+            }
+        }
+        if (const auto* object = registry_.read().findObject<K>(typeId)) {
+            return *object;
+        }
+        throw UnrecognizedIdentifierException("Could not find " + std::string(K::word) + " with typeid " + typeId +
+                                              ".");
+    }
+
+    template <class K>
+    std::map<std::string, typename K::Object> all() const {
+        return registry_.read().store<K>().all();
+    }
+
+    template <class K>
+    void add(const typename K::Object& object) {
+        const auto bound = bind<K>(object);
+        registry_.write().addObject<K>(bound);
+    }
+
+    /// Reads an object from a text and binds it to what is registered, without registering it.
+    template <class K>
+    typename K::Object read(const std::string& text) const {
+        const Ostra::Schema schema(text, ValidationExceptionFactory::shared());
+        checkNew(schema.typeId());
+        const auto record = K::read(schema);
+        if (!record) {
+            throw ValidationException("Inheritance from an incorrect base schema.");
+        }
+        return K::build(*record, RegistryFinder(registry_.read()));
+    }
+
+    template <class K>
+    std::set<std::string> dependenciesOf(const typename K::Object& object) const {
+        return namedBy<K>(bind<K>(object));
+    }
+
+    template <class K>
+    std::string schemaOf(const typename K::Object& object) const {
+        return K::write(bind<K>(object)).toText();
+    }
+
+    bool isRegistered(std::string_view typeId) const;
+    ValueType valueTypeOf(const std::string& text) const;
+    Missing registerSchema(const std::string& text);
+    void registerSchemas(const std::map<std::string, std::string>& texts);
+    void resolveSchemas();
+    std::set<std::string> dependenciesOf(const std::string& typeId) const;
+    std::string schemaOf(const std::string& typeId) const;
+    Units::UnitsEngine& units() noexcept { return units_; }
+
+private:
+    /// Checks an object made in code, and returns it with what it names as registered.
+    template <class K>
+    typename K::Object bind(const typename K::Object& object) const {
+        checkNew(typeIdOf(object));
+        return K::build(K::recordOf(object), RegistryFinder(registry_.read()));
+    }
+
+    template <class K>
+    static std::set<std::string> namedBy(const typename K::Object& object) {
+        const auto record = K::recordOf(object);
+        return {record.references.begin(), record.references.end()};
+    }
+
+    /// @throws ValidationException if something has that typeid already, or nothing may have it.
+    void checkNew(std::string_view typeId) const;
+
+    /// Files a schema as pending with the first kind that accepts it; returns whether one did. What it names and is not
+    /// registered is added to missing, unless that is null.
+    bool offer(const std::string& text, Missing* missing);
+    template <class K>
+    void findMissing(const typename K::Record& record, Missing& missing) const;
+
+    CopyOnWrite<Registry> registry_;
+    Units::UnitsEngine units_;
+};
+
+} // namespace Parameters::Internal

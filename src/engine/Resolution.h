@@ -1,0 +1,81 @@
+#pragma once
+
+#include "engine/Registry.h"
+#include "model/Finder.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+namespace Parameters::Internal {
+
+/// The objects that are being built for pending records, place by place; empty where there is none (yet).
+class Staging {
+public:
+    template <class K>
+    using Objects = std::vector<std::optional<typename K::Object>>;
+
+    template <class K>
+    Objects<K>& of() noexcept {
+        return std::get<kindIndex<K>>(objects_);
+    }
+    template <class K>
+    const Objects<K>& of() const noexcept {
+        return std::get<kindIndex<K>>(objects_);
+    }
+
+private:
+    template <class... Ks>
+    static std::tuple<Objects<Ks>...> objectsOf(KindList<Ks...>);
+
+    decltype(objectsOf(StoreOrder{})) objects_;
+};
+
+/// Finds what is registered and, for resolution, what is staged.
+class RegistryFinder final : public Finder {
+public:
+    /// For binding to what is registered.
+    explicit RegistryFinder(const Registry& registry) : Finder(Purpose::binding), registry_(registry) {}
+    /// For resolution beside what is staged.
+    RegistryFinder(const Registry& registry, const Staging& staging)
+        : Finder(Purpose::resolution), registry_(registry), staging_(&staging) {}
+
+private:
+    const void* lookUp(const char* kind, std::string_view typeId) const override;
+
+    const Registry& registry_;
+    const Staging* staging_ = nullptr;
+};
+
+/// Builds the objects of all pending records of a registry aside. The registry is not changed, and must not change
+/// meanwhile.
+class Resolution {
+public:
+    /// The typeids of records that cannot be built, each with the message of its fault.
+    using Faults = std::map<std::string, std::string>;
+    enum class Stop { afterFaultyKind, never };
+
+    explicit Resolution(const Registry& registry) : registry_(registry), finder_(registry, staging_) {}
+
+    /// Builds kind by kind. What names a record that cannot be built cannot be built either.
+    const Faults& run(Stop stop);
+
+    template <class K>
+    const Staging::Objects<K>& built() const noexcept {
+        return staging_.of<K>();
+    }
+
+private:
+    template <class K>
+    void build();
+
+    const Registry& registry_;
+    Staging staging_;
+    RegistryFinder finder_;
+    Faults faults_;
+};
+
+} // namespace Parameters::Internal

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "model/BoolSpec.h"
+#include "model/ParameterCore.h"
+#include "schema/JSON.h"
+#include "schema/Schema.h"
+
+#include <parameters/BoolParameter.h>
+#include <parameters/ValueType.h>
+
+#include <optional>
+#include <string_view>
+
+namespace Parameters::Internal {
+
+struct BoolParameterData {
+    ParameterCoreData core;
+    BoolSpec spec;
+
+    std::string_view typeId() const { return core.typeId(); }
+};
+
+struct BoolParameterKind {
+    using Object = BoolParameter;
+    struct Record : ParameterRecord {
+        std::optional<BoolSpec> givenSpec; // of an object made in code
+    };
+
+    static constexpr std::string_view word = "Boolean parameter";
+    static constexpr ValueType valueType = Bool;
+
+    static std::optional<Record> read(const Ostra::Schema& schema);
+    static Record recordOf(const BoolParameter& parameter);
+    static BoolParameter build(const Record& record, const Finder& finder);
+    static Ostra::JSON write(const BoolParameter& parameter);
+};
+
+} // namespace Parameters::Internal

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <parameters/ValidationException.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Parameters::Internal {
+
+/// Tells kinds apart by address where their types cannot be named.
+template <class Kind>
+inline constexpr char kindTag = 0;
+
+/// Returns the object that stands in for a typeid of the kind's built-in identifier.
+template <class K>
+typename K::Object standInOf(std::string_view typeId) {
+    if (typeId == K::builtIn.full()) {
+        static const typename K::Object usual = K::standIn(typeId); // nearly all that name a built-in name this one
+        return usual;
+    }
+    return K::standIn(typeId);
+}
+
+/// Answers what object a typeid names. Kinds build their objects with it and know nothing of where it looks.
+///
+/// There are two purposes, which differ in where a finder looks and in the message with which it fails: resolution
+/// builds what is pending from objects that are registered or built in the same pass; binding checks one object
+/// against what is registered.
+class Finder {
+public:
+    enum class Purpose { resolution, binding };
+
+    explicit Finder(Purpose purpose) : purpose_(purpose) {}
+    Finder(const Finder&) = delete;
+    Finder& operator=(const Finder&) = delete;
+    virtual ~Finder() = default;
+
+    bool binds() const { return purpose_ == Purpose::binding; }
+
+    /// Returns the object of that kind and typeid, or null.
+    template <class K>
+    const typename K::Object* find(std::string_view typeId) const {
+        return static_cast<const typename K::Object*>(lookUp(&kindTag<K>, typeId));
+    }
+
+    /// Returns the object of that kind and typeid, which the schema names.
+    /// @throws ValidationException if there is none.
+    template <class K>
+    typename K::Object require(std::string_view typeId, std::string_view schemaTypeId) const {
+        if (const auto* object = find<K>(typeId)) {
+            return *object;
+        }
+        failMissing(K::word, typeId, schemaTypeId);
+    }
+
+    /// As require, but a typeid of the kind's built-in identifier needs no object: for it stands the given one or else
+    /// the built-in object of exactly that typeid.
+    template <class K>
+    typename K::Object requireOrStandIn(std::string_view typeId, std::string_view schemaTypeId,
+                                        const std::optional<typename K::Object>& given = std::nullopt) const {
+        if (const auto* object = find<K>(typeId)) {
+            return *object;
+        }
+        if (!K::builtIn.isIn(typeId)) {
+            failMissing(K::word, typeId, schemaTypeId);
+        }
+        return given ? *given : standInOf<K>(typeId);
+    }
+
+private:
+    /// Returns the object of the kind with that tag, or null.
+    virtual const void* lookUp(const char* kind, std::string_view typeId) const = 0;
+
+    [[noreturn]] void failMissing(std::string_view word, std::string_view typeId, std::string_view schemaTypeId) const {
+        const std::string named(typeId);
+        if (binds()) {
+            throw ValidationException("Could not find " + std::string(word) + " with typeid " + named + ".");
+        }
+        throw ValidationException("Dependency " + named + " in schema " + std::string(schemaTypeId) +
+                                  " is missing or does not represent an object of the expected type.");
+    }
+
+    Purpose purpose_;
+};
+
+} // namespace Parameters::Internal

@@ -1,0 +1,69 @@
+#include "model/ParameterCore.h"
+
+#include "model/Taxon.h"
+#include "schema/BuiltIn.h"
+
+#include <string>
+
+namespace Parameters {
+
+ParameterCore::ParameterCore(const std::string& typeId, const std::string& name, const std::string& description,
+                             const std::string& sampleText, bool readOnly)
+    : ParameterCore(typeId, name, Internal::standInOf<Internal::GroupKind>(Ostra::BuiltIn::group.full()), description,
+                    sampleText, readOnly) {}
+
+ParameterCore::ParameterCore(const std::string& typeId, const std::string& name, const Taxon& group,
+                             const std::string& description, const std::string& sampleText, bool readOnly)
+    : ParameterCore(std::make_shared<const Internal::ParameterCoreData>(
+          Internal::ParameterCoreData{{typeId, name, description, sampleText}, group, readOnly})) {}
+
+std::string ParameterCore::getTypeId() const { return std::string(data_->typeId()); }
+
+std::string ParameterCore::getName() const { return std::string(data_->name()); }
+
+std::string ParameterCore::getDescription() const { return std::string(data_->description()); }
+
+Taxon ParameterCore::getGroup() const { return data_->group; }
+
+std::string ParameterCore::getSampleText() const { return std::string(data_->sampleText()); }
+
+bool ParameterCore::isReadOnly() const { return data_->readOnly; }
+
+PARAMETERS_COMPARE_BY_TYPEID(ParameterCore)
+
+namespace Internal {
+
+ParameterConstants ParameterConstants::read(const Ostra::Constants& constants) {
+    ParameterConstants result;
+    result.name = constants.required<Ostra::NonEmptyString>("name");
+    result.description = constants.optional<Ostra::String>("description", "");
+    result.sampleText = constants.optional<Ostra::String>("sampleText", "");
+    result.group = constants.optional<Ostra::TypedValue>("group", Ostra::BuiltIn::group.full());
+    result.readOnly = constants.optional<Ostra::Boolean>("readOnly", false);
+    return result;
+}
+
+ParameterCoreData buildParameterCore(const ParameterRecord& record, const Finder& finder) {
+    return {record.texts, finder.requireOrStandIn<GroupKind>(record.group(), record.typeId()), record.readOnly};
+}
+
+void writeParameterConstants(Ostra::SchemaWriter& writer, const ParameterCoreData& core) {
+    writer.constant("name", writer.string(core.name()));
+    if (!core.description().empty()) {
+        writer.constant("description", writer.string(core.description()));
+    }
+    if (!core.sampleText().empty()) {
+        writer.constant("sampleText", writer.string(core.sampleText()));
+    }
+    const std::string_view group = typeIdOf(core.group);
+    if (group != Ostra::BuiltIn::group.full()) {
+        writer.typedConstant("group", writer.typedValue(group));
+    }
+    if (core.readOnly) {
+        writer.constant("readOnly", writer.boolean(true));
+    }
+}
+
+} // namespace Internal
+
+} // namespace Parameters

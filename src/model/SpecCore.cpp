@@ -1,0 +1,51 @@
+#include "model/SpecCore.h"
+
+#include "model/Taxon.h"
+#include "schema/BuiltIn.h"
+
+#include <string>
+
+namespace Parameters {
+
+SpecCore::SpecCore(const std::string& typeId, const std::string& name)
+    : SpecCore(std::make_shared<const Internal::SpecCoreData>(Internal::commonSpecCore(typeId, name))) {}
+
+SpecCore::SpecCore(const std::string& typeId, const std::string& name, const Taxon& discipline)
+    : SpecCore(std::make_shared<const Internal::SpecCoreData>(Internal::SpecCoreData{{typeId, name}, discipline})) {}
+
+std::string SpecCore::getTypeId() const { return std::string(data_->typeId()); }
+
+std::string SpecCore::getName() const { return std::string(data_->name()); }
+
+Taxon SpecCore::getDiscipline() const { return data_->discipline; }
+
+PARAMETERS_COMPARE_BY_TYPEID(SpecCore)
+
+namespace Internal {
+
+SpecConstants SpecConstants::read(const Ostra::Constants& constants) {
+    const auto name = constants.required<Ostra::NonEmptyString>("name");
+    const auto discipline = constants.optional<Ostra::TypedValue>("discipline", Ostra::BuiltIn::discipline.full());
+    return {name, discipline};
+}
+
+SpecCoreData buildSpecCore(const SpecRecord& record, const Finder& finder) {
+    const Taxon discipline = finder.requireOrStandIn<DisciplineKind>(record.discipline(), record.typeId());
+    return {record.texts, record.givenDiscipline.value_or(discipline)};
+}
+
+void writeSpecConstants(Ostra::SchemaWriter& writer, const SpecCoreData& core) {
+    writer.constant("name", writer.string(core.name()));
+    const std::string_view discipline = typeIdOf(core.discipline);
+    if (discipline != Ostra::BuiltIn::discipline.full()) {
+        writer.typedConstant("discipline", writer.typedValue(discipline));
+    }
+}
+
+SpecCoreData commonSpecCore(std::string_view typeId, std::string_view name) {
+    return {{typeId, name}, standInOf<DisciplineKind>(DisciplineKind::builtIn.full())};
+}
+
+} // namespace Internal
+
+} // namespace Parameters

@@ -1,0 +1,40 @@
+#include "model/Texts.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <stdexcept>
+
+namespace Parameters::Internal {
+
+Texts::Texts(std::span<const std::string_view> strings) {
+    constexpr std::size_t limit = std::numeric_limits<std::uint32_t>::max();
+    std::size_t length = 0;
+    for (const std::string_view string : strings) {
+        length += std::min(string.size(), limit);
+        if (length > limit) {
+            throw std::length_error("The texts of one object are longer than 4 GiB.");
+        }
+    }
+    if (strings.size() > limit) {
+        throw std::length_error("One object has more than 2^32 - 1 texts.");
+    }
+    void* memory = ::operator new(sizeof(Block) + strings.size() * sizeof(std::uint32_t) + length);
+    block_ = new (memory) Block{{1}, static_cast<std::uint32_t>(strings.size())};
+    auto* end = reinterpret_cast<std::uint32_t*>(block_ + 1);
+    auto* character = reinterpret_cast<char*>(end + strings.size());
+    const char* const first = character;
+    for (const std::string_view string : strings) {
+        character = std::copy(string.begin(), string.end(), character);
+        *end++ = static_cast<std::uint32_t>(character - first);
+    }
+}
+
+void Texts::release() noexcept {
+    if (block_ != nullptr && block_->owners.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+        block_->~Block();
+        ::operator delete(block_);
+    }
+}
+
+} // namespace Parameters::Internal
