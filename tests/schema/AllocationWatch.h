@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+
+namespace Ostra {
+
+/// While it lives, counts what this thread asks of operator new, and can let one request fail with std::bad_alloc.
+class AllocationWatch {
+public:
+    static constexpr long none = -1;
+
+    /// Lets the request of that number fail, counted from 0.
+    explicit AllocationWatch(long failingRequest = none);
+    ~AllocationWatch();
+    AllocationWatch(const AllocationWatch&) = delete;
+    AllocationWatch& operator=(const AllocationWatch&) = delete;
+
+    long requests() const { return requests_; }
+    std::size_t bytes() const { return bytes_; }
+    /// Returns how many more blocks were allocated than freed.
+    long liveBlocks() const { return liveBlocks_; }
+
+    void* allocate(std::size_t size);
+    void free(void* block) noexcept;
+
+private:
+    long failingRequest_;
+    long requests_ = 0;
+    std::size_t bytes_ = 0;
+    long liveBlocks_ = 0;
+};
+
+} // namespace Ostra

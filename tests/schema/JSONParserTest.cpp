@@ -1,0 +1,328 @@
+#include "schema/JSONParser.h"
+
+#include "AllocationWatch.h"
+#include "SmallStack.h"
+#include "schema/JSON.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cfloat>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <new>
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace Ostra {
+
+namespace {
+
+using namespace std::string_literals;
+using namespace std::string_view_literals;
+
+/// The exception of a library that reads documents.
+struct Refusal : std::logic_error {
+    using std::logic_error::logic_error;
+};
+
+JSON parse(std::string_view text) { return JSON::parse(text, ExceptionFactoryOf<Refusal>::shared()); }
+
+std::string refusalOf(std::string_view text) {
+    try {
+        parse(text);
+    } catch (const Refusal& refusal) {
+        return refusal.what();
+    }
+    return "accepted";
+}
+
+std::string repeated(std::string_view part, std::size_t count) {
+    std::string text;
+    for (; count > 0; --count) {
+        text += part;
+    }
+    return text;
+}
+
+std::string zeros(std::size_t count) { return std::string(count, '0'); }
+
+} // namespace
+
+struct Refused {
+    const char* name;
+    std::string text;
+    const char* message;
+};
+
+void PrintTo(const Refused& row, std::ostream* stream) { *stream << row.name; }
+
+class RefusedText : public testing::TestWithParam<Refused> {};
+
+TEST_P(RefusedText, NamesThePlaceAndTheFault) { EXPECT_EQ(refusalOf(GetParam().text), GetParam().message); }
+
+const Refused faults[] = {
+    {"Empty", "", "JSON parsing error at offset 0: The document is empty."},
+    {"BlanksAlone", " \t\r\n", "JSON parsing error at offset 4: The document is empty."},
+    {"SecondRoot", "{} {}", "JSON parsing error at offset 3: The document root must not be followed by other values."},
+    {"StrayBraceAfterRoot", "1 }",
+     "JSON parsing error at offset 2: The document root must not be followed by other values."},
+    {"UnknownWord", "[nul]", "JSON parsing error at offset 4: Invalid value."},
+    {"MissingValue", "[1,]", "JSON parsing error at offset 3: Invalid value."},
+    {"Plus", "+1", "JSON parsing error at offset 0: Invalid value."},
+    {"NotANumber", "NaN", "JSON parsing error at offset 0: Invalid value."},
+    {"Infinity", "-Infinity", "JSON parsing error at offset 1: Invalid value."},
+    {"Comment", "/* */ 1", "JSON parsing error at offset 0: Invalid value."},
+    {"MissingName", "{1:2}", "JSON parsing error at offset 1: Missing a name for object member."},
+    {"CommaAtTheEndOfAnObject", "{\"a\":1,}", "JSON parsing error at offset 7: Missing a name for object member."},
+    {"MissingColon", "{\"a\" 1}", "JSON parsing error at offset 5: Missing a colon after a name of object member."},
+    {"MissingCommaInObject", "{\"a\":1 \"b\":2}",
+     "JSON parsing error at offset 7: Missing a comma or '}' after an object member."},
+    {"MissingCommaInArray", "[1 2]", "JSON parsing error at offset 3: Missing a comma or ']' after an array element."},
+    {"HexadecimalOfAnEscape", "\"\\u00g0\"",
+     "JSON parsing error at offset 1: Incorrect hex digit after \\u escape in string."},
+    {"LoneHighSurrogate", "\"\\ud800\"", "JSON parsing error at offset 1: The surrogate pair in string is invalid."},
+    {"UnknownEscape", "\"a\\x\"", "JSON parsing error at offset 2: Invalid escape character in string."},
+    {"ControlCharacterInString", "\"a\nb\"", "JSON parsing error at offset 2: Invalid escape character in string."},
+    {"UnclosedString", "[\"a", "JSON parsing error at offset 3: Missing a closing quotation mark in string."},
+    {"UnclosedArray", "[[1]", "JSON parsing error at offset 4: Missing a comma or ']' after an array element."},
+    {"UnclosedObject", "{", "JSON parsing error at offset 1: Missing a name for object member."},
+    {"MissingFraction", "[1.]", "JSON parsing error at offset 3: Miss fraction part in number."},
+    {"MissingExponent", "1e+", "JSON parsing error at offset 3: Miss exponent in number."},
+    {"LeadingZero", "[01]", "JSON parsing error at offset 2: Missing a comma or ']' after an array element."},
+    {"ByteOrderMark", "\xEF\xBB\xBF{}", "JSON parsing error at offset 0: Invalid value."},
+    {"ByteOrderMarkAlone", "\xEF\xBB\xBF", "JSON parsing error at offset 0: Invalid value."},
+    {"LeadingClosingBracket", "]", "JSON parsing error at offset 0: Invalid value."},
+    {"LeadingClosingBrace", " }", "JSON parsing error at offset 1: Invalid value."},
+    {"LeadingComma", "\n\t,1", "JSON parsing error at offset 2: Invalid value."},
+    {"LeadingColon", ":", "JSON parsing error at offset 0: Invalid value."},
+    {"ByteZeroAlone", "\0"s, "JSON parsing error at offset 0: Invalid value."},
+    {"ByteZeroAfterBlanks", "  \0{}"s, "JSON parsing error at offset 2: Invalid value."},
+    {"ByteZeroAfterRoot", "{}\0"s,
+     "JSON parsing error at offset 2: The document root must not be followed by other values."},
+    {"ByteZeroAfterRootAndBlanks", "12 \n\0 "s,
+     "JSON parsing error at offset 4: The document root must not be followed by other values."},
+    {"ByteZeroForAnElement", "[\0]"s, "JSON parsing error at offset 1: Invalid value."},
+    {"ByteZeroAfterAnElement", "[1\0]"s,
+     "JSON parsing error at offset 2: Missing a comma or ']' after an array element."},
+    {"ByteZeroForAName", "{\0}"s, "JSON parsing error at offset 1: Missing a name for object member."},
+    {"ByteZeroInAString", "\"a\0b\""s, "JSON parsing error at offset 2: Missing a closing quotation mark in string."},
+    {"ByteZeroInANumber", "[1.\0]"s, "JSON parsing error at offset 3: Miss fraction part in number."},
+    {"ByteZeroInAWord", "tru\0e"s, "JSON parsing error at offset 3: Invalid value."},
+    {"NumberTooBigByItsExponent", "[1, 1e400]",
+     "JSON parsing error at offset 4: Number too big to be stored in double."},
+    {"NegativeNumberTooBig", "[1, -1e309]", "JSON parsing error at offset 4: Number too big to be stored in double."},
+    {"NumberThatRoundsToInfinity", "{\"a\": 10e308}",
+     "JSON parsing error at offset 6: Number too big to be stored in double."},
+    {"NumberJustBeyondMax", " 1.797693134862315808e308",
+     "JSON parsing error at offset 1: Number too big to be stored in double."},
+    {"NumberBeforeALaterFault", "[10e308, x]",
+     "JSON parsing error at offset 1: Number too big to be stored in double."},
+    {"ZeroWithATooBigExponent", "0e309", "JSON parsing error at offset 0: Number too big to be stored in double."},
+    {"IntegerTooLong", "1" + zeros(100'000), "JSON parsing error at offset 0: Number too big to be stored in double."},
+    {"IntegerTooLongThoughItsExponentCancelsIt", "1" + zeros(400) + "e-400",
+     "JSON parsing error at offset 0: Number too big to be stored in double."},
+};
+
+INSTANTIATE_TEST_SUITE_P(Parsing, RefusedText, testing::ValuesIn(faults),
+                         [](const auto& test) { return test.param.name; });
+
+/// The types as which RapidJSON knows a number.
+struct Classified {
+    const char* name;
+    const char* text;
+    bool int32;
+    bool unsigned32;
+    bool int64;
+    bool unsigned64;
+    bool real;
+};
+
+void PrintTo(const Classified& row, std::ostream* stream) { *stream << row.name; }
+
+class NumberType : public testing::TestWithParam<Classified> {};
+
+TEST_P(NumberType, IsThatOfTheDefaultFlags) {
+    JSONPool pool;
+    JSONValue value;
+    ASSERT_FALSE(parseText(GetParam().text, pool, value).IsError());
+    EXPECT_TRUE(value.IsNumber());
+    EXPECT_EQ(value.IsInt(), GetParam().int32);
+    EXPECT_EQ(value.IsUint(), GetParam().unsigned32);
+    EXPECT_EQ(value.IsInt64(), GetParam().int64);
+    EXPECT_EQ(value.IsUint64(), GetParam().unsigned64);
+    EXPECT_EQ(value.IsDouble(), GetParam().real);
+}
+
+const Classified classified[] = {
+    {"Zero", "0", true, true, true, true, false},
+    {"NegativeZero", "-0", true, true, true, true, false},
+    {"MaxOf32Bits", "2147483647", true, true, true, true, false},
+    {"BeyondMaxOf32Bits", "2147483648", false, true, true, true, false},
+    {"UnsignedMaxOf32Bits", "4294967295", false, true, true, true, false},
+    {"BeyondUnsignedMaxOf32Bits", "4294967296", false, false, true, true, false},
+    {"MinOf32Bits", "-2147483648", true, false, true, false, false},
+    {"BelowMinOf32Bits", "-2147483649", false, false, true, false, false},
+    {"MaxOf64Bits", "9223372036854775807", false, false, true, true, false},
+    {"BeyondMaxOf64Bits", "9223372036854775808", false, false, false, true, false},
+    {"UnsignedMaxOf64Bits", "18446744073709551615", false, false, false, true, false},
+    {"BeyondUnsignedMaxOf64Bits", "18446744073709551616", false, false, false, false, true},
+    {"MinOf64Bits", "-9223372036854775808", false, false, true, false, false},
+    {"BelowMinOf64Bits", "-9223372036854775809", false, false, false, false, true},
+    {"Fraction", "1.0", false, false, false, false, true},
+    {"Exponent", "1e0", false, false, false, false, true},
+    {"NegativeZeroWithAFraction", "-0.0", false, false, false, false, true},
+};
+
+INSTANTIATE_TEST_SUITE_P(Parsing, NumberType, testing::ValuesIn(classified),
+                         [](const auto& test) { return test.param.name; });
+
+struct ReadNumber {
+    const char* name;
+    std::string text;
+    double expected;
+};
+
+void PrintTo(const ReadNumber& row, std::ostream* stream) { *stream << row.name; }
+
+class ExtremeNumber : public testing::TestWithParam<ReadNumber> {};
+
+TEST_P(ExtremeNumber, IsRoundedToTheNearestDouble) {
+    const JSON json = parse(GetParam().text);
+    EXPECT_EQ(std::bit_cast<std::uint64_t>(json.view().number()), std::bit_cast<std::uint64_t>(GetParam().expected))
+        << json.view().number();
+}
+
+const ReadNumber extremeNumbers[] = {
+    {"BelowTheSmallestDenormal", "5e-325", 0.0},
+    {"FarBelowTheSmallestDenormal", "1e-400", 0.0},
+    {"NegativeFarBelowTheSmallestDenormal", "-1e-400", -0.0},
+    {"SmallestDenormal", "5e-324", 0x1p-1074},
+    {"LargestDenormal", "2.225073858507201e-308", 0x0.fffffffffffffp-1022},
+    {"SmallestNormal", "2.2250738585072014e-308", DBL_MIN},
+    {"PowerOfTenNearMax", "1e308", 1e308},
+    {"Max", "1.7976931348623157e308", DBL_MAX},
+    {"NegativeMax", "-1.7976931348623157e+308", -DBL_MAX},
+    {"MaxAsAnInteger", "17976931348623157" + zeros(292), DBL_MAX},
+    {"BetweenTwoDoubles", "9007199254740993.0", 9007199254740992.0},
+    {"IntegerBeyond64Bits", "18446744073709551617", 0x1p64},
+    {"NegativeIntegerBeyond64Bits", "-9223372036854775809", -0x1p63},
+    {"FractionOf100000Digits", "0." + std::string(100'000, '3'), 1.0 / 3.0},
+    {"ExponentThatCancelsAFraction", "0." + zeros(400) + "1e400", 0.1},
+    {"ExponentBeyond32BitsAfterALongFraction", "0." + zeros(100'000) + "1e-2147483639", 0.0},
+};
+
+INSTANTIATE_TEST_SUITE_P(Parsing, ExtremeNumber, testing::ValuesIn(extremeNumbers),
+                         [](const auto& test) { return test.param.name; });
+
+TEST(Parsing, KeepsIntegersOf64BitsExact) {
+    EXPECT_EQ(parse("9007199254740993").view().integer(), 9007199254740993);
+    EXPECT_EQ(parse("9223372036854775807").view().integer(), std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(parse("-9223372036854775808").view().integer(), std::numeric_limits<std::int64_t>::min());
+}
+
+TEST(Parsing, DecodesEscapes) {
+    EXPECT_EQ(parse(R"("\"\\\/\b\f\n\r\t\u0041\u00e9\u20ac\ud83d\ude00")").view().string(),
+              "\"\\/\b\f\n\r\tA\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80");
+}
+
+TEST(Parsing, KeepsEveryByteOfAString) {
+    EXPECT_EQ(parse("\"a\\u0000b\x7F\xFF\xC0\x80\"").view().string(), "a\0b\x7F\xFF\xC0\x80"sv);
+}
+
+TEST(Parsing, LeavesTheTextAlone) {
+    const std::string text = R"({"a\n": ["\u0041", 1.5]})";
+    const std::string before = text;
+    EXPECT_EQ(parse(text).toText(), R"({"a\n":["A",1.5]})");
+    EXPECT_EQ(text, before);
+}
+
+TEST(Parsing, NeedsTheTextNoLongerAfterwards) {
+    std::string text = R"({"a name that is not short": "a string that is not short"})";
+    const JSON json = parse(text);
+    text.assign(text.size(), '?');
+    EXPECT_EQ(json.toText(), R"({"a name that is not short":"a string that is not short"})");
+}
+
+TEST(Parsing, ReadsNoFurtherThanTheView) { EXPECT_EQ(parse("123"sv.substr(0, 2)).view().integer(), 12); }
+
+TEST(Parsing, RefusesATextThatIsTooLongBeforeReadingIt) {
+    const std::string_view text("{}", std::size_t{1} << 31);
+    EXPECT_THROW(parse(text), std::length_error);
+}
+
+TEST(Parsing, AcceptsAnyRoot) {
+    EXPECT_EQ(parse(" null ").toText(), "null");
+    EXPECT_EQ(parse("true\n").toText(), "true");
+    EXPECT_EQ(parse("\t\"x\"").toText(), "\"x\"");
+    EXPECT_EQ(parse("\r-1").toText(), "-1");
+}
+
+TEST(Parsing, DoesNotRecurseWithTheDepthOfArrays) {
+    const std::string text = repeated("[", 1'000'000) + repeated("]", 1'000'000);
+    runOnSmallStack([&] { EXPECT_TRUE(parse(text).toText() == text); });
+}
+
+TEST(Parsing, DoesNotRecurseWithTheDepthOfObjects) {
+    const std::string text = repeated("{\"a\":", 1'000'000) + "1" + repeated("}", 1'000'000);
+    runOnSmallStack([&] { EXPECT_TRUE(parse(text).toText() == text); });
+}
+
+TEST(Parsing, DoesNotRecurseWithTheDepthOfAFaultyText) {
+    const std::string text = repeated("[{\"a\":", 500'000);
+    runOnSmallStack([&] { EXPECT_EQ(refusalOf(text), "JSON parsing error at offset 3000000: Invalid value."); });
+}
+
+TEST(Parsing, LeaksNothingWhenMemoryEnds) {
+    const std::string text = R"({"a": [1, 2.5, "x"], "b": )" + repeated("[", 500) + repeated("]", 500) + "}";
+    parse(text); // what is made once for all documents
+    bool complete = false;
+    for (long failing = 0; !complete; ++failing) {
+        AllocationWatch watch(failing);
+        try {
+            const JSON json = parse(text);
+            complete = true;
+        } catch (const std::bad_alloc&) {
+            complete = false;
+        }
+        ASSERT_EQ(watch.liveBlocks(), 0) << "request " << failing;
+        ASSERT_LE(watch.requests(), 100);
+    }
+}
+
+TEST(Parsing, LeaksNothingWhenMemoryEndsWithAFaultyText) {
+    const std::string text = R"({"a": [1, 2.5, "x"], "b": )" + repeated("[", 500);
+    refusalOf(text);
+    bool complete = false;
+    for (long failing = 0; !complete; ++failing) {
+        AllocationWatch watch(failing);
+        try {
+            complete = !refusalOf(text).empty();
+        } catch (const std::bad_alloc&) {
+            complete = false;
+        }
+        ASSERT_EQ(watch.liveBlocks(), 0) << "request " << failing;
+        ASSERT_LE(watch.requests(), 100);
+    }
+}
+
+TEST(Parsing, TakesFewAndSmallBlocksForASchemaText) {
+    const std::string text =
+        R"({"typeid":"plant.pumps:parameter.flowRate-1.0.0","inherits":["base.measurable-3.0.0"],)"
+        R"("constants":[{"id":"name","value":"Flow Rate"},{"id":"description","value":"Water that a pump moves."},)"
+        R"({"id":"group","typedValue":{"typeid":"plant.group:hydraulics-1.0.0"}},)"
+        R"({"id":"spec","typedValue":{"typeid":"plant.pumps:spec.flow-1.0.0"}},)"
+        R"({"id":"range","typedValue":{"typeid":"plant.range:float.positive-1.0.0","value":{}}},{"id":"x","value":1.5}]})";
+    parse(text); // what is made once for all documents
+    AllocationWatch watch;
+    const JSON json = parse(text);
+    const long requests = watch.requests();
+    const std::size_t bytes = watch.bytes();
+    EXPECT_LE(requests, 4);
+    EXPECT_LE(bytes, 4096U);
+}
+
+} // namespace Ostra
