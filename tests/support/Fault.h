@@ -1,0 +1,21 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+namespace Support {
+
+/// A row of a table of refused texts.
+struct Fault {
+    const char* name;
+    std::string text;
+    std::string message;
+
+    friend void PrintTo(const Fault& fault, std::ostream* out) { *out << fault.name; }
+};
+
+inline std::string nameOfFault(const testing::TestParamInfo<Fault>& test) { return test.param.name; }
+
+} // namespace Support
