@@ -1,5 +1,7 @@
 #include <units/UnitsEngine.h>
 
+#include "support/Messages.h"
+
 #include <gtest/gtest.h>
 
 #include <set>
@@ -32,14 +34,9 @@ std::string unitOfBase(const std::string& base) {
     return R"({"typeid": "u", "inherits": [")" + base + R"("], "constants": [{"id": "name", "value": "N"}]})";
 }
 
-template <class Operation>
-std::string messageOf(Operation&& operation) {
-    try {
-        operation();
-    } catch (const ValidationException& exception) {
-        return exception.what();
-    }
-    return "nothing thrown";
+template <class Call>
+std::string messageOf(Call&& call) {
+    return Support::messageOf<ValidationException>(std::forward<Call>(call));
 }
 
 UnitsEngine resolved(const std::string& text) {
