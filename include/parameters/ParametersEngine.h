@@ -2,10 +2,28 @@
 
 #include <parameters/BoolParameter.h>
 #include <parameters/BoolSpec.h>
+#include <parameters/Category.h>
+#include <parameters/Enumeration.h>
+#include <parameters/EnumerationParameter.h>
 #include <parameters/Export.h>
+#include <parameters/FloatRange.h>
 #include <parameters/GeneralSpec.h>
+#include <parameters/IntParameter.h>
+#include <parameters/IntRange.h>
+#include <parameters/IntSpec.h>
+#include <parameters/MajorCategoryComponent.h>
+#include <parameters/MeasurableParameter.h>
+#include <parameters/MeasurableSpec.h>
 #include <parameters/ParameterCore.h>
+#include <parameters/ReferenceParameter.h>
+#include <parameters/ReferenceSpec.h>
+#include <parameters/RegexStringRangeComponent.h>
+#include <parameters/SetStringRangeComponent.h>
 #include <parameters/SpecCore.h>
+#include <parameters/StringParameter.h>
+#include <parameters/StringRange.h>
+#include <parameters/StringSpec.h>
+#include <parameters/SubCategoryComponent.h>
 #include <parameters/Taxon.h>
 #include <parameters/UnrecognizedIdentifierException.h>
 #include <parameters/ValidationException.h>
@@ -53,22 +71,50 @@ public:
     /// returned; domains and general specs have none.
     /// @throws UnrecognizedIdentifierException "Could not find K with typeid T.", where K is the kind's name.
     /// @{
+    Enumeration getEnumeration(const std::string& typeId) const;
+    FloatRange getFloatRange(const std::string& typeId) const;
+    IntRange getIntRange(const std::string& typeId) const;
+    StringRange getStringRange(const std::string& typeId) const;
     Taxon getDiscipline(const std::string& typeId) const;
     BoolSpec getBoolSpec(const std::string& typeId) const;
     GeneralSpec getGeneralSpec(const std::string& typeId) const;
+    IntSpec getIntSpec(const std::string& typeId) const;
+    MeasurableSpec getMeasurableSpec(const std::string& typeId) const;
+    ReferenceSpec getReferenceSpec(const std::string& typeId) const;
+    StringSpec getStringSpec(const std::string& typeId) const;
     Taxon getGroup(const std::string& typeId) const;
+    EnumerationParameter getEnumerationParameter(const std::string& typeId) const;
     BoolParameter getBoolParameter(const std::string& typeId) const;
+    IntParameter getIntParameter(const std::string& typeId) const;
+    MeasurableParameter getMeasurableParameter(const std::string& typeId) const;
+    ReferenceParameter getReferenceParameter(const std::string& typeId) const;
+    StringParameter getStringParameter(const std::string& typeId) const;
     Taxon getDomain(const std::string& typeId) const;
+    Category getCategory(const std::string& typeId) const;
     /// @}
 
     /// Returns all resolved objects of a kind by type identifier, in its byte order.
     /// @{
+    std::map<std::string, Enumeration> getAllEnumerations() const;
+    std::map<std::string, FloatRange> getAllFloatRanges() const;
+    std::map<std::string, IntRange> getAllIntRanges() const;
+    std::map<std::string, StringRange> getAllStringRanges() const;
     std::map<std::string, Taxon> getAllDisciplines() const;
     std::map<std::string, BoolSpec> getAllBoolSpecs() const;
     std::map<std::string, GeneralSpec> getAllGeneralSpecs() const;
+    std::map<std::string, IntSpec> getAllIntSpecs() const;
+    std::map<std::string, MeasurableSpec> getAllMeasurableSpecs() const;
+    std::map<std::string, ReferenceSpec> getAllReferenceSpecs() const;
+    std::map<std::string, StringSpec> getAllStringSpecs() const;
     std::map<std::string, Taxon> getAllGroups() const;
+    std::map<std::string, EnumerationParameter> getAllEnumerationParameters() const;
     std::map<std::string, BoolParameter> getAllBoolParameters() const;
+    std::map<std::string, IntParameter> getAllIntParameters() const;
+    std::map<std::string, MeasurableParameter> getAllMeasurableParameters() const;
+    std::map<std::string, ReferenceParameter> getAllReferenceParameters() const;
+    std::map<std::string, StringParameter> getAllStringParameters() const;
     std::map<std::string, Taxon> getAllDomains() const;
+    std::map<std::string, Category> getAllCategories() const;
     /// @}
 
     /// Registers an object made in code. What it names by type identifier must be registered or built in; the
@@ -79,12 +125,26 @@ public:
     ///         object of any kind, a unit, or a built-in identifier.
     /// @throws ValidationException "Could not find K with typeid T." if the object names something that is not there.
     /// @{
+    void registerEnumeration(const Enumeration& enumeration);
+    void registerFloatRange(const FloatRange& range);
+    void registerIntRange(const IntRange& range);
+    void registerStringRange(const StringRange& range);
     void registerDiscipline(const Taxon& discipline);
     void registerBoolSpec(const BoolSpec& spec);
     void registerGeneralSpec(const GeneralSpec& spec);
+    void registerIntSpec(const IntSpec& spec);
+    void registerMeasurableSpec(const MeasurableSpec& spec);
+    void registerReferenceSpec(const ReferenceSpec& spec);
+    void registerStringSpec(const StringSpec& spec);
     void registerGroup(const Taxon& group);
+    void registerEnumerationParameter(const EnumerationParameter& parameter);
     void registerBoolParameter(const BoolParameter& parameter);
+    void registerIntParameter(const IntParameter& parameter);
+    void registerMeasurableParameter(const MeasurableParameter& parameter);
+    void registerReferenceParameter(const ReferenceParameter& parameter);
+    void registerStringParameter(const StringParameter& parameter);
     void registerDomain(const Taxon& domain);
+    void registerCategory(const Category& category);
     /// @}
 
     /// Returns whether a type identifier is taken: by a schema, resolved or not, by an object, by a unit, or because it
@@ -104,6 +164,10 @@ public:
     ///         something that is not registered.
     /// @{
     BoolParameter readBoolParameter(const std::string& schemaText) const;
+    IntParameter readIntParameter(const std::string& schemaText) const;
+    MeasurableParameter readMeasurableParameter(const std::string& schemaText) const;
+    ReferenceParameter readReferenceParameter(const std::string& schemaText) const;
+    StringParameter readStringParameter(const std::string& schemaText) const;
     /// @}
 
     /// Registers a schema; its object is there after resolveSchemas. Unit schemas are not accepted.
@@ -134,6 +198,10 @@ public:
     /// @throws ValidationException as registering it would.
     /// @{
     std::set<std::string> getDependencies(const BoolParameter& parameter) const;
+    std::set<std::string> getDependencies(const IntParameter& parameter) const;
+    std::set<std::string> getDependencies(const MeasurableParameter& parameter) const;
+    std::set<std::string> getDependencies(const ReferenceParameter& parameter) const;
+    std::set<std::string> getDependencies(const StringParameter& parameter) const;
     /// @}
 
     /// Returns the schema of a resolved object, as JSON text without blanks. It is written from the object and leaves
@@ -144,6 +212,10 @@ public:
     /// @throws ValidationException as registering it would.
     /// @{
     std::string getSchema(const BoolParameter& parameter) const;
+    std::string getSchema(const IntParameter& parameter) const;
+    std::string getSchema(const MeasurableParameter& parameter) const;
+    std::string getSchema(const ReferenceParameter& parameter) const;
+    std::string getSchema(const StringParameter& parameter) const;
     /// @}
 
 private:

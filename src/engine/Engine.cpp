@@ -79,10 +79,17 @@ bool Engine::offer(const std::string& text, Missing* missing) {
 template <class K>
 void Engine::findMissing(const typename K::Record& record, Missing& missing) const {
     if constexpr (DependentKind<K>) {
-        for (const std::string_view named : record.references) {
-            if (named != record.texts[0] && !isRegistered(named)) {
-                missing.first.emplace(named);
-            }
+        findMissing(record.references, record.texts[0], missing.first);
+    }
+    if constexpr (KindWithUnits<K>) {
+        findMissing(record.units, record.texts[0], missing.second);
+    }
+}
+
+void Engine::findMissing(const Texts& named, std::string_view ownTypeId, std::set<std::string>& missing) const {
+    for (const std::string_view typeId : named) {
+        if (typeId != ownTypeId && !isRegistered(typeId)) {
+            missing.emplace(typeId);
         }
     }
 }
@@ -90,7 +97,7 @@ void Engine::findMissing(const typename K::Record& record, Missing& missing) con
 void Engine::resolveSchemas() {
     units_.resolveSchemas();
     Registry& registry = registry_.write();
-    Resolution resolution(registry);
+    Resolution resolution(registry, units_);
     if (const auto& faults = resolution.run(Resolution::Stop::afterFaultyKind); !faults.empty()) {
         throw ValidationException(faults.begin()->second);
     }

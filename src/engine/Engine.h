@@ -60,7 +60,7 @@ public:
         if (!record) {
             throw ValidationException("Inheritance from an incorrect base schema.");
         }
-        return K::build(*record, RegistryFinder(registry_.read()));
+        return K::build(*record, RegistryFinder(registry_.read(), units_));
     }
 
     template <class K>
@@ -87,13 +87,17 @@ private:
     template <class K>
     typename K::Object bind(const typename K::Object& object) const {
         checkNew(typeIdOf(object));
-        return K::build(K::recordOf(object), RegistryFinder(registry_.read()));
+        return K::build(K::recordOf(object), RegistryFinder(registry_.read(), units_));
     }
 
     template <class K>
     static std::set<std::string> namedBy(const typename K::Object& object) {
         const auto record = K::recordOf(object);
-        return {record.references.begin(), record.references.end()};
+        std::set<std::string> named(record.references.begin(), record.references.end());
+        if constexpr (KindWithUnits<K>) {
+            named.insert(record.units.begin(), record.units.end());
+        }
+        return named;
     }
 
     /// @throws ValidationException if something has that typeid already, or nothing may have it.
@@ -104,6 +108,7 @@ private:
     bool offer(const std::string& text, Missing* missing);
     template <class K>
     void findMissing(const typename K::Record& record, Missing& missing) const;
+    void findMissing(const Texts& named, std::string_view ownTypeId, std::set<std::string>& missing) const;
 
     CopyOnWrite<Registry> registry_;
     Units::UnitsEngine units_;

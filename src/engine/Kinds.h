@@ -2,8 +2,22 @@
 
 #include "model/BoolParameter.h"
 #include "model/BoolSpec.h"
+#include "model/Category.h"
+#include "model/Enumeration.h"
+#include "model/EnumerationParameter.h"
+#include "model/FloatRange.h"
 #include "model/GeneralSpec.h"
+#include "model/IntParameter.h"
+#include "model/IntRange.h"
+#include "model/IntSpec.h"
 #include "model/Kind.h"
+#include "model/MeasurableParameter.h"
+#include "model/MeasurableSpec.h"
+#include "model/ReferenceParameter.h"
+#include "model/ReferenceSpec.h"
+#include "model/StringParameter.h"
+#include "model/StringRange.h"
+#include "model/StringSpec.h"
 #include "model/Taxon.h"
 
 #include <cstddef>
@@ -31,17 +45,29 @@ bool anyKind(KindList<Ks...>, Test&& test) {
 // The order of the kinds is stated here, once for each thing that depends on it, and nowhere else.
 
 /// How stores are counted and listed.
-using StoreOrder = KindList<DisciplineKind, BoolSpecKind, GeneralSpecKind, GroupKind, BoolParameterKind, DomainKind>;
+using StoreOrder =
+    KindList<EnumerationKind, FloatRangeKind, IntRangeKind, StringRangeKind, DisciplineKind, BoolSpecKind,
+             GeneralSpecKind, IntSpecKind, MeasurableSpecKind, ReferenceSpecKind, StringSpecKind, GroupKind,
+             EnumerationParameterKind, BoolParameterKind, IntParameterKind, MeasurableParameterKind,
+             ReferenceParameterKind, StringParameterKind, DomainKind, CategoryKind>;
 
 /// Who may accept a schema first: kinds that name nothing, then kinds that name others.
-using OfferingOrder = KindList<DisciplineKind, GroupKind, DomainKind, BoolSpecKind, GeneralSpecKind, BoolParameterKind>;
+using OfferingOrder =
+    KindList<EnumerationKind, FloatRangeKind, IntRangeKind, StringRangeKind, DisciplineKind, GroupKind, DomainKind,
+             BoolSpecKind, GeneralSpecKind, IntSpecKind, MeasurableSpecKind, ReferenceSpecKind, StringSpecKind,
+             EnumerationParameterKind, BoolParameterKind, IntParameterKind, MeasurableParameterKind,
+             ReferenceParameterKind, StringParameterKind, CategoryKind>;
 
 /// What is built first: kinds that are named come before kinds that name them.
 using ResolutionOrder =
-    KindList<DisciplineKind, DomainKind, GroupKind, BoolSpecKind, GeneralSpecKind, BoolParameterKind>;
+    KindList<EnumerationKind, FloatRangeKind, IntRangeKind, StringRangeKind, DisciplineKind, DomainKind, GroupKind,
+             CategoryKind, BoolSpecKind, GeneralSpecKind, IntSpecKind, MeasurableSpecKind, ReferenceSpecKind,
+             StringSpecKind, EnumerationParameterKind, BoolParameterKind, IntParameterKind, MeasurableParameterKind,
+             ReferenceParameterKind, StringParameterKind>;
 
 /// The parameters that have a value type, in the order in which a text is tried.
-using ValueTypeOrder = KindList<BoolParameterKind>;
+using ValueTypeOrder =
+    KindList<BoolParameterKind, IntParameterKind, MeasurableParameterKind, ReferenceParameterKind, StringParameterKind>;
 
 namespace Detail {
 

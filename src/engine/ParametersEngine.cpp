@@ -19,6 +19,20 @@ ParametersEngine& ParametersEngine::operator=(ParametersEngine&& other) noexcept
 
 ParametersEngine::~ParametersEngine() = default;
 
+Enumeration ParametersEngine::getEnumeration(const std::string& typeId) const {
+    return engine_->get<EnumerationKind>(typeId);
+}
+
+FloatRange ParametersEngine::getFloatRange(const std::string& typeId) const {
+    return engine_->get<FloatRangeKind>(typeId);
+}
+
+IntRange ParametersEngine::getIntRange(const std::string& typeId) const { return engine_->get<IntRangeKind>(typeId); }
+
+StringRange ParametersEngine::getStringRange(const std::string& typeId) const {
+    return engine_->get<StringRangeKind>(typeId);
+}
+
 Taxon ParametersEngine::getDiscipline(const std::string& typeId) const { return engine_->get<DisciplineKind>(typeId); }
 
 BoolSpec ParametersEngine::getBoolSpec(const std::string& typeId) const { return engine_->get<BoolSpecKind>(typeId); }
@@ -27,13 +41,61 @@ GeneralSpec ParametersEngine::getGeneralSpec(const std::string& typeId) const {
     return engine_->get<GeneralSpecKind>(typeId);
 }
 
+IntSpec ParametersEngine::getIntSpec(const std::string& typeId) const { return engine_->get<IntSpecKind>(typeId); }
+
+MeasurableSpec ParametersEngine::getMeasurableSpec(const std::string& typeId) const {
+    return engine_->get<MeasurableSpecKind>(typeId);
+}
+
+ReferenceSpec ParametersEngine::getReferenceSpec(const std::string& typeId) const {
+    return engine_->get<ReferenceSpecKind>(typeId);
+}
+
+StringSpec ParametersEngine::getStringSpec(const std::string& typeId) const {
+    return engine_->get<StringSpecKind>(typeId);
+}
+
 Taxon ParametersEngine::getGroup(const std::string& typeId) const { return engine_->get<GroupKind>(typeId); }
+
+EnumerationParameter ParametersEngine::getEnumerationParameter(const std::string& typeId) const {
+    return engine_->get<EnumerationParameterKind>(typeId);
+}
 
 BoolParameter ParametersEngine::getBoolParameter(const std::string& typeId) const {
     return engine_->get<BoolParameterKind>(typeId);
 }
 
+IntParameter ParametersEngine::getIntParameter(const std::string& typeId) const {
+    return engine_->get<IntParameterKind>(typeId);
+}
+
+MeasurableParameter ParametersEngine::getMeasurableParameter(const std::string& typeId) const {
+    return engine_->get<MeasurableParameterKind>(typeId);
+}
+
+ReferenceParameter ParametersEngine::getReferenceParameter(const std::string& typeId) const {
+    return engine_->get<ReferenceParameterKind>(typeId);
+}
+
+StringParameter ParametersEngine::getStringParameter(const std::string& typeId) const {
+    return engine_->get<StringParameterKind>(typeId);
+}
+
 Taxon ParametersEngine::getDomain(const std::string& typeId) const { return engine_->get<DomainKind>(typeId); }
+
+Category ParametersEngine::getCategory(const std::string& typeId) const { return engine_->get<CategoryKind>(typeId); }
+
+std::map<std::string, Enumeration> ParametersEngine::getAllEnumerations() const {
+    return engine_->all<EnumerationKind>();
+}
+
+std::map<std::string, FloatRange> ParametersEngine::getAllFloatRanges() const { return engine_->all<FloatRangeKind>(); }
+
+std::map<std::string, IntRange> ParametersEngine::getAllIntRanges() const { return engine_->all<IntRangeKind>(); }
+
+std::map<std::string, StringRange> ParametersEngine::getAllStringRanges() const {
+    return engine_->all<StringRangeKind>();
+}
 
 std::map<std::string, Taxon> ParametersEngine::getAllDisciplines() const { return engine_->all<DisciplineKind>(); }
 
@@ -43,13 +105,57 @@ std::map<std::string, GeneralSpec> ParametersEngine::getAllGeneralSpecs() const 
     return engine_->all<GeneralSpecKind>();
 }
 
+std::map<std::string, IntSpec> ParametersEngine::getAllIntSpecs() const { return engine_->all<IntSpecKind>(); }
+
+std::map<std::string, MeasurableSpec> ParametersEngine::getAllMeasurableSpecs() const {
+    return engine_->all<MeasurableSpecKind>();
+}
+
+std::map<std::string, ReferenceSpec> ParametersEngine::getAllReferenceSpecs() const {
+    return engine_->all<ReferenceSpecKind>();
+}
+
+std::map<std::string, StringSpec> ParametersEngine::getAllStringSpecs() const { return engine_->all<StringSpecKind>(); }
+
 std::map<std::string, Taxon> ParametersEngine::getAllGroups() const { return engine_->all<GroupKind>(); }
+
+std::map<std::string, EnumerationParameter> ParametersEngine::getAllEnumerationParameters() const {
+    return engine_->all<EnumerationParameterKind>();
+}
 
 std::map<std::string, BoolParameter> ParametersEngine::getAllBoolParameters() const {
     return engine_->all<BoolParameterKind>();
 }
 
+std::map<std::string, IntParameter> ParametersEngine::getAllIntParameters() const {
+    return engine_->all<IntParameterKind>();
+}
+
+std::map<std::string, MeasurableParameter> ParametersEngine::getAllMeasurableParameters() const {
+    return engine_->all<MeasurableParameterKind>();
+}
+
+std::map<std::string, ReferenceParameter> ParametersEngine::getAllReferenceParameters() const {
+    return engine_->all<ReferenceParameterKind>();
+}
+
+std::map<std::string, StringParameter> ParametersEngine::getAllStringParameters() const {
+    return engine_->all<StringParameterKind>();
+}
+
 std::map<std::string, Taxon> ParametersEngine::getAllDomains() const { return engine_->all<DomainKind>(); }
+
+std::map<std::string, Category> ParametersEngine::getAllCategories() const { return engine_->all<CategoryKind>(); }
+
+void ParametersEngine::registerEnumeration(const Enumeration& enumeration) {
+    engine_->add<EnumerationKind>(enumeration);
+}
+
+void ParametersEngine::registerFloatRange(const FloatRange& range) { engine_->add<FloatRangeKind>(range); }
+
+void ParametersEngine::registerIntRange(const IntRange& range) { engine_->add<IntRangeKind>(range); }
+
+void ParametersEngine::registerStringRange(const StringRange& range) { engine_->add<StringRangeKind>(range); }
 
 void ParametersEngine::registerDiscipline(const Taxon& discipline) { engine_->add<DisciplineKind>(discipline); }
 
@@ -57,13 +163,43 @@ void ParametersEngine::registerBoolSpec(const BoolSpec& spec) { engine_->add<Boo
 
 void ParametersEngine::registerGeneralSpec(const GeneralSpec& spec) { engine_->add<GeneralSpecKind>(spec); }
 
+void ParametersEngine::registerIntSpec(const IntSpec& spec) { engine_->add<IntSpecKind>(spec); }
+
+void ParametersEngine::registerMeasurableSpec(const MeasurableSpec& spec) { engine_->add<MeasurableSpecKind>(spec); }
+
+void ParametersEngine::registerReferenceSpec(const ReferenceSpec& spec) { engine_->add<ReferenceSpecKind>(spec); }
+
+void ParametersEngine::registerStringSpec(const StringSpec& spec) { engine_->add<StringSpecKind>(spec); }
+
 void ParametersEngine::registerGroup(const Taxon& group) { engine_->add<GroupKind>(group); }
+
+void ParametersEngine::registerEnumerationParameter(const EnumerationParameter& parameter) {
+    engine_->add<EnumerationParameterKind>(parameter);
+}
 
 void ParametersEngine::registerBoolParameter(const BoolParameter& parameter) {
     engine_->add<BoolParameterKind>(parameter);
 }
 
+void ParametersEngine::registerIntParameter(const IntParameter& parameter) {
+    engine_->add<IntParameterKind>(parameter);
+}
+
+void ParametersEngine::registerMeasurableParameter(const MeasurableParameter& parameter) {
+    engine_->add<MeasurableParameterKind>(parameter);
+}
+
+void ParametersEngine::registerReferenceParameter(const ReferenceParameter& parameter) {
+    engine_->add<ReferenceParameterKind>(parameter);
+}
+
+void ParametersEngine::registerStringParameter(const StringParameter& parameter) {
+    engine_->add<StringParameterKind>(parameter);
+}
+
 void ParametersEngine::registerDomain(const Taxon& domain) { engine_->add<DomainKind>(domain); }
+
+void ParametersEngine::registerCategory(const Category& category) { engine_->add<CategoryKind>(category); }
 
 bool ParametersEngine::isRegistered(const std::string& typeId) const { return engine_->isRegistered(typeId); }
 
@@ -75,6 +211,22 @@ ValueType ParametersEngine::readValueType(const std::string& schemaText) const {
 
 BoolParameter ParametersEngine::readBoolParameter(const std::string& schemaText) const {
     return engine_->read<BoolParameterKind>(schemaText);
+}
+
+IntParameter ParametersEngine::readIntParameter(const std::string& schemaText) const {
+    return engine_->read<IntParameterKind>(schemaText);
+}
+
+MeasurableParameter ParametersEngine::readMeasurableParameter(const std::string& schemaText) const {
+    return engine_->read<MeasurableParameterKind>(schemaText);
+}
+
+ReferenceParameter ParametersEngine::readReferenceParameter(const std::string& schemaText) const {
+    return engine_->read<ReferenceParameterKind>(schemaText);
+}
+
+StringParameter ParametersEngine::readStringParameter(const std::string& schemaText) const {
+    return engine_->read<StringParameterKind>(schemaText);
 }
 
 std::pair<std::set<std::string>, std::set<std::string>>
@@ -96,10 +248,42 @@ std::set<std::string> ParametersEngine::getDependencies(const BoolParameter& par
     return engine_->dependenciesOf<BoolParameterKind>(parameter);
 }
 
+std::set<std::string> ParametersEngine::getDependencies(const IntParameter& parameter) const {
+    return engine_->dependenciesOf<IntParameterKind>(parameter);
+}
+
+std::set<std::string> ParametersEngine::getDependencies(const MeasurableParameter& parameter) const {
+    return engine_->dependenciesOf<MeasurableParameterKind>(parameter);
+}
+
+std::set<std::string> ParametersEngine::getDependencies(const ReferenceParameter& parameter) const {
+    return engine_->dependenciesOf<ReferenceParameterKind>(parameter);
+}
+
+std::set<std::string> ParametersEngine::getDependencies(const StringParameter& parameter) const {
+    return engine_->dependenciesOf<StringParameterKind>(parameter);
+}
+
 std::string ParametersEngine::getSchema(const std::string& typeId) const { return engine_->schemaOf(typeId); }
 
 std::string ParametersEngine::getSchema(const BoolParameter& parameter) const {
     return engine_->schemaOf<BoolParameterKind>(parameter);
+}
+
+std::string ParametersEngine::getSchema(const IntParameter& parameter) const {
+    return engine_->schemaOf<IntParameterKind>(parameter);
+}
+
+std::string ParametersEngine::getSchema(const MeasurableParameter& parameter) const {
+    return engine_->schemaOf<MeasurableParameterKind>(parameter);
+}
+
+std::string ParametersEngine::getSchema(const ReferenceParameter& parameter) const {
+    return engine_->schemaOf<ReferenceParameterKind>(parameter);
+}
+
+std::string ParametersEngine::getSchema(const StringParameter& parameter) const {
+    return engine_->schemaOf<StringParameterKind>(parameter);
 }
 
 } // namespace Parameters

@@ -1,9 +1,12 @@
 #include "engine/Resolution.h"
 
 #include <parameters/ValidationException.h>
+#include <units/ValidationException.h>
 
+#include <algorithm>
 #include <array>
-#include <cstddef>
+#include <numeric>
+#include <utility>
 
 namespace Parameters::Internal {
 
@@ -44,26 +47,65 @@ const void* RegistryFinder::lookUp(const char* kind, std::string_view typeId) co
     return lookUps[entry->kind].address(registry_, staging_, *entry);
 }
 
+std::optional<Units::Unit> RegistryFinder::findUnit(const std::string& typeId) const {
+    if (binds()) {
+        try {
+            return units_.getUnit(typeId);
+        } catch (const Units::ValidationException&) {
+            return std::nullopt;
+        }
+    }
+    if (!allUnits_) {
+        allUnits_ = units_.getAllUnits();
+    }
+    const auto found = allUnits_->find(typeId);
+    return found != allUnits_->end() ? std::optional(found->second) : std::nullopt;
+}
+
 const Resolution::Faults& Resolution::run(Stop stop) {
     anyKind(ResolutionOrder{}, [this, stop]<class K>() {
-        build<K>();
-        return stop == Stop::afterFaultyKind && !faults_.empty();
+        build<K>(stop);
+        return isFaulty(stop);
     });
     return faults_;
 }
 
 template <class K>
-void Resolution::build() {
+void Resolution::build(Stop stop) {
     const auto& pending = registry_.store<K>().pending;
-    auto& staged = staging_.of<K>();
-    staged.resize(pending.size());
-    for (std::size_t place = 0; place < pending.size(); ++place) {
-        const auto& record = pending[place].record;
-        try {
-            staged[place].emplace(K::build(record, finder_));
-        } catch (const ValidationException& fault) {
-            faults_.emplace(record.texts[0], fault.what());
+    staging_.of<K>().resize(pending.size());
+    if constexpr (KindWithPasses<K>) {
+        // Within a pass in ascending order too, since whether an object of this kind is there yet can now matter.
+        std::vector<std::size_t> places(pending.size());
+        std::iota(places.begin(), places.end(), std::size_t{0});
+        std::sort(places.begin(), places.end(), [&pending](std::size_t a, std::size_t b) {
+            const auto key = [&](std::size_t place) {
+                return std::pair(K::passOf(pending[place].record), pending[place].record.texts[0]);
+            };
+            return key(a) < key(b);
+        });
+        int pass = 0;
+        for (const std::size_t place : places) {
+            if (K::passOf(pending[place].record) != pass && isFaulty(stop)) {
+                return;
+            }
+            pass = K::passOf(pending[place].record);
+            build<K>(place);
         }
+    } else {
+        for (std::size_t place = 0; place < pending.size(); ++place) {
+            build<K>(place);
+        }
+    }
+}
+
+template <class K>
+void Resolution::build(std::size_t place) {
+    const auto& record = registry_.store<K>().pending[place].record;
+    try {
+        staging_.of<K>()[place].emplace(K::build(record, finder_));
+    } catch (const ValidationException& fault) {
+        faults_.emplace(record.texts[0], fault.what());
     }
 }
 

@@ -3,6 +3,10 @@
 #include "engine/Registry.h"
 #include "model/Finder.h"
 
+#include <units/Unit.h>
+#include <units/UnitsEngine.h>
+
+#include <cstddef>
 #include <map>
 #include <optional>
 #include <string>
@@ -38,16 +42,21 @@ private:
 class RegistryFinder final : public Finder {
 public:
     /// For binding to what is registered.
-    explicit RegistryFinder(const Registry& registry) : Finder(Purpose::binding), registry_(registry) {}
+    RegistryFinder(const Registry& registry, const Units::UnitsEngine& units)
+        : Finder(Purpose::binding), registry_(registry), units_(units) {}
     /// For resolution beside what is staged.
-    RegistryFinder(const Registry& registry, const Staging& staging)
-        : Finder(Purpose::resolution), registry_(registry), staging_(&staging) {}
+    RegistryFinder(const Registry& registry, const Units::UnitsEngine& units, const Staging& staging)
+        : Finder(Purpose::resolution), registry_(registry), units_(units), staging_(&staging) {}
 
 private:
     const void* lookUp(const char* kind, std::string_view typeId) const override;
+    std::optional<Units::Unit> findUnit(const std::string& typeId) const override;
 
     const Registry& registry_;
+    const Units::UnitsEngine& units_;
     const Staging* staging_ = nullptr;
+    // For resolution all units at once, but only when one is asked for: most often none is.
+    mutable std::optional<std::map<std::string, Units::Unit>> allUnits_;
 };
 
 /// Builds the objects of all pending records of a registry aside. The registry is not changed, and must not change
@@ -58,7 +67,8 @@ public:
     using Faults = std::map<std::string, std::string>;
     enum class Stop { afterFaultyKind, never };
 
-    explicit Resolution(const Registry& registry) : registry_(registry), finder_(registry, staging_) {}
+    Resolution(const Registry& registry, const Units::UnitsEngine& units)
+        : registry_(registry), finder_(registry, units, staging_) {}
 
     /// Builds kind by kind. What names a record that cannot be built cannot be built either.
     const Faults& run(Stop stop);
@@ -70,7 +80,10 @@ public:
 
 private:
     template <class K>
-    void build();
+    void build(Stop stop);
+    template <class K>
+    void build(std::size_t place);
+    bool isFaulty(Stop stop) const { return stop == Stop::afterFaultyKind && !faults_.empty(); }
 
     const Registry& registry_;
     Staging staging_;

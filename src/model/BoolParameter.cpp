@@ -51,9 +51,7 @@ Ostra::JSON BoolParameterKind::write(const BoolParameter& parameter) {
     const auto& [core, spec] = Access::data(parameter);
     Ostra::SchemaWriter writer = schemaWriter(core.typeId(), BuiltIn::boolParameter);
     writeParameterConstants(writer, core);
-    if (typeIdOf(spec) != BuiltIn::boolSpec.full()) {
-        writer.typedConstant("spec", writer.typedValue(typeIdOf(spec)));
-    }
+    writeSpecConstant(writer, typeIdOf(spec), BuiltIn::boolSpec.full());
     return std::move(writer).finish();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <parameters/ValidationException.h>
+#include <units/Unit.h>
 
 #include <optional>
 #include <string>
@@ -68,18 +68,24 @@ public:
         return given ? *given : standInOf<K>(typeId);
     }
 
+    /// As requireOrStandIn, but binding takes the stand-in of the full identifier whatever version is named.
+    template <class K>
+    typename K::Object requireOrUsualStandIn(std::string_view typeId, std::string_view schemaTypeId) const {
+        const bool usual = binds() && K::builtIn.isIn(typeId);
+        return requireOrStandIn<K>(usual ? K::builtIn.full() : typeId, schemaTypeId);
+    }
+
+    /// Returns the unit of that typeid, which a measurable spec's schema names in a constant.
+    /// @throws ValidationException if there is none.
+    Units::Unit requireUnit(std::string_view typeId, std::string_view inConstant, std::string_view schemaTypeId) const;
+
 private:
+    /// Returns the unit of that typeid, unless it is unknown or not resolved.
+    virtual std::optional<Units::Unit> findUnit(const std::string& typeId) const = 0;
     /// Returns the object of the kind with that tag, or null.
     virtual const void* lookUp(const char* kind, std::string_view typeId) const = 0;
 
-    [[noreturn]] void failMissing(std::string_view word, std::string_view typeId, std::string_view schemaTypeId) const {
-        const std::string named(typeId);
-        if (binds()) {
-            throw ValidationException("Could not find " + std::string(word) + " with typeid " + named + ".");
-        }
-        throw ValidationException("Dependency " + named + " in schema " + std::string(schemaTypeId) +
-                                  " is missing or does not represent an object of the expected type.");
-    }
+    [[noreturn]] void failMissing(std::string_view word, std::string_view typeId, std::string_view schemaTypeId) const;
 
     Purpose purpose_;
 };

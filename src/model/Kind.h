@@ -40,4 +40,16 @@ concept KindWithStandIn = Kind<K> && requires(std::string_view typeId) {
     { K::standIn(typeId) } -> std::same_as<typename K::Object>;
 };
 
+/// A kind whose objects name others of it: what is named is built in an earlier pass.
+template <class K>
+concept KindWithPasses = Kind<K> && requires(const typename K::Record& record) {
+    { K::passOf(record) } -> std::same_as<int>;
+};
+
+/// A kind whose records name units beside other objects.
+template <class K>
+concept KindWithUnits = Kind<K> && requires(const typename K::Record& record) {
+    { record.units } -> std::convertible_to<const Texts&>;
+};
+
 } // namespace Parameters::Internal

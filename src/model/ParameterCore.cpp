@@ -64,6 +64,12 @@ void writeParameterConstants(Ostra::SchemaWriter& writer, const ParameterCoreDat
     }
 }
 
+void writeSpecConstant(Ostra::SchemaWriter& writer, std::string_view spec, std::string_view defaultSpec) {
+    if (spec != defaultSpec) {
+        writer.typedConstant("spec", writer.typedValue(spec));
+    }
+}
+
 } // namespace Internal
 
 } // namespace Parameters

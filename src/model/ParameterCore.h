@@ -56,6 +56,9 @@ ParameterCoreData buildParameterCore(const ParameterRecord& record, const Finder
 /// Writes the constants that all parameters share, those that differ from their defaults.
 void writeParameterConstants(Ostra::SchemaWriter& writer, const ParameterCoreData& core);
 
+/// Writes the constant that names a parameter's spec, unless that is the default.
+void writeSpecConstant(Ostra::SchemaWriter& writer, std::string_view spec, std::string_view defaultSpec = {});
+
 /// Returns the core that is a part of a parameter's data and lives as long as that.
 template <class Data>
 ParameterCore parameterCoreOf(const std::shared_ptr<const Data>& data) {

@@ -86,6 +86,10 @@ std::vector<std::string_view> UniqueStrings::read(JSONView value) {
     return strings;
 }
 
+std::string_view readTypeId(JSONView typeId) {
+    return String::read(typeId).empty() ? NonEmptyString::read(typeId) : typeId.string();
+}
+
 std::optional<JSONView> Constants::find(std::string_view id) const {
     const auto found = schema_.constants().find(id);
     if (found == schema_.constants().end()) {

@@ -56,6 +56,10 @@ struct UniqueStrings {
     static Value read(JSONView value);
 };
 
+/// Returns the typeid that is the "typeid" of a typedValue of a looser form; a wrong type and an empty string have
+/// messages of their own here.
+std::string_view readTypeId(JSONView typeId);
+
 /// The constants of a schema, read one by one. The order of the calls is the order in which faults are reported.
 class Constants {
 public:

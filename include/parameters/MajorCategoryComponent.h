@@ -1,0 +1,36 @@
+#pragma once
+
+#include <parameters/Export.h>
+#include <parameters/Taxon.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace Parameters {
+
+namespace Internal {
+struct Access;
+struct MajorCategoryComponentData;
+} // namespace Internal
+
+/// What makes a category a major one: its domain and the disciplines that use it. Copies share their data.
+class PARAMETERS_EXPORT MajorCategoryComponent {
+public:
+    MajorCategoryComponent(const Taxon& domain, const std::vector<Taxon>& disciplines);
+    MajorCategoryComponent(const MajorCategoryComponent&) noexcept = default;
+    MajorCategoryComponent& operator=(const MajorCategoryComponent&) noexcept = default;
+
+    Taxon getDomain() const;
+    /// Returns the disciplines in the order given; there may be none.
+    std::vector<Taxon> getDisciplines() const;
+
+private:
+    friend struct Internal::Access;
+    explicit MajorCategoryComponent(std::shared_ptr<const Internal::MajorCategoryComponentData> data) noexcept
+        : data_(std::move(data)) {}
+
+    std::shared_ptr<const Internal::MajorCategoryComponentData> data_;
+};
+
+} // namespace Parameters

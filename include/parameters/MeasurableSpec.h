@@ -1,0 +1,48 @@
+#pragma once
+
+#include <parameters/Export.h>
+#include <parameters/SpecCore.h>
+
+#include <units/Unit.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace Parameters {
+
+namespace Internal {
+struct Access;
+struct MeasurableSpecData;
+} // namespace Internal
+
+/// The spec of a measurable parameter: a physical quantity with its units. Copies share their data.
+class PARAMETERS_EXPORT MeasurableSpec {
+public:
+    /// The storage unit need not be among the applicable units, which are kept in their order, repeated ones too.
+    MeasurableSpec(const SpecCore& core, const std::vector<Units::Unit>& applicableUnits,
+                   const Units::Unit& storageUnit);
+    MeasurableSpec(const MeasurableSpec&) noexcept = default;
+    MeasurableSpec& operator=(const MeasurableSpec&) noexcept = default;
+
+    SpecCore getCore() const;
+    /// Returns the units in which values may be shown, in the order given; there may be none.
+    std::vector<Units::Unit> getApplicableUnits() const;
+    /// Returns the unit in which values are stored.
+    Units::Unit getStorageUnit() const;
+
+    /// Comparisons are by identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    bool operator==(const MeasurableSpec& other) const noexcept;
+    bool operator!=(const MeasurableSpec& other) const noexcept;
+    bool operator<(const MeasurableSpec& other) const noexcept;
+    bool operator>(const MeasurableSpec& other) const noexcept;
+
+private:
+    friend struct Internal::Access;
+    explicit MeasurableSpec(std::shared_ptr<const Internal::MeasurableSpecData> data) noexcept
+        : data_(std::move(data)) {}
+
+    std::shared_ptr<const Internal::MeasurableSpecData> data_;
+};
+
+} // namespace Parameters

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <parameters/Export.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Parameters {
+
+namespace Internal {
+struct Access;
+struct SetStringRangeComponentData;
+} // namespace Internal
+
+/// The limitation of a string range to certain values. Copies share their data.
+class PARAMETERS_EXPORT SetStringRangeComponent {
+public:
+    /// Keeps the values in their order, without any check.
+    explicit SetStringRangeComponent(const std::vector<std::string>& allowedValues);
+    SetStringRangeComponent(const SetStringRangeComponent&) noexcept = default;
+    SetStringRangeComponent& operator=(const SetStringRangeComponent&) noexcept = default;
+
+    /// Returns the allowed values in the order given.
+    std::vector<std::string> getAllowedValues() const;
+
+private:
+    friend struct Internal::Access;
+    explicit SetStringRangeComponent(std::shared_ptr<const Internal::SetStringRangeComponentData> data) noexcept
+        : data_(std::move(data)) {}
+
+    std::shared_ptr<const Internal::SetStringRangeComponentData> data_;
+};
+
+} // namespace Parameters

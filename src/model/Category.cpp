@@ -1,0 +1,162 @@
+#include "model/Category.h"
+
+#include "model/Taxon.h"
+#include "model/Writing.h"
+#include "schema/BuiltIn.h"
+#include "schema/Constants.h"
+
+#include <parameters/ValidationException.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace Parameters {
+
+namespace BuiltIn = Ostra::BuiltIn;
+
+namespace {
+
+using Internal::Access;
+using Internal::CategoryData;
+
+Category categoryOf(CategoryData data) {
+    return Access::make<Category>(std::make_shared<const CategoryData>(std::move(data)));
+}
+
+MajorCategoryComponent majorOf(Internal::MajorCategoryComponentData data) {
+    return Access::make<MajorCategoryComponent>(
+        std::make_shared<const Internal::MajorCategoryComponentData>(std::move(data)));
+}
+
+SubCategoryComponent subOf(std::string_view parentCategory) {
+    using Data = Internal::SubCategoryComponentData;
+    return Access::make<SubCategoryComponent>(std::make_shared<const Data>(Data{{parentCategory}}));
+}
+
+std::string_view parentOf(const SubCategoryComponent& component) { return Access::data(component).parentCategory[0]; }
+
+} // namespace
+
+MajorCategoryComponent::MajorCategoryComponent(const Taxon& domain, const std::vector<Taxon>& disciplines)
+    : MajorCategoryComponent(majorOf({domain, disciplines})) {}
+
+Taxon MajorCategoryComponent::getDomain() const { return data_->domain; }
+
+std::vector<Taxon> MajorCategoryComponent::getDisciplines() const { return data_->disciplines; }
+
+SubCategoryComponent::SubCategoryComponent(const std::string& parentCategory)
+    : SubCategoryComponent(subOf(parentCategory)) {}
+
+std::string SubCategoryComponent::getParentCategory() const { return std::string(parentOf(*this)); }
+
+Category::Category(const std::string& typeId, const std::string& name, const MajorCategoryComponent& component)
+    : Category(categoryOf({{typeId, name}, component})) {}
+
+Category::Category(const std::string& typeId, const std::string& name, const SubCategoryComponent& component)
+    : Category(categoryOf({{typeId, name}, component})) {}
+
+std::string Category::getTypeId() const { return std::string(data_->typeId()); }
+
+std::string Category::getName() const { return std::string(data_->name()); }
+
+std::optional<MajorCategoryComponent> Category::getMajorCategoryComponent() const {
+    const auto* major = data_->major();
+    return major != nullptr ? std::optional(*major) : std::nullopt;
+}
+
+std::optional<SubCategoryComponent> Category::getSubCategoryComponent() const {
+    const auto* sub = data_->sub();
+    return sub != nullptr ? std::optional(*sub) : std::nullopt;
+}
+
+PARAMETERS_COMPARE_BY_TYPEID(Category)
+
+namespace Internal {
+
+namespace {
+
+MajorCategoryComponent buildMajor(const CategoryKind::Record& record, const Finder& finder) {
+    auto domain = finder.require<DomainKind>(record.references[0], record.texts[0]);
+    std::vector<Taxon> disciplines;
+    disciplines.reserve(record.references.size() - 1);
+    for (std::size_t i = 1; i < record.references.size(); ++i) {
+        disciplines.push_back(finder.requireOrStandIn<DisciplineKind>(record.references[i], record.texts[0]));
+    }
+    return majorOf({std::move(domain), std::move(disciplines)});
+}
+
+SubCategoryComponent buildSub(const CategoryKind::Record& record, const Finder& finder) {
+    const std::string_view parentTypeId = record.references[0];
+    const auto parent = finder.require<CategoryKind>(parentTypeId, record.texts[0]);
+    if (Access::data(parent).major() == nullptr) {
+        throw ValidationException("Parent " + std::string(parentTypeId) +
+                                  (finder.binds() ? " of subcategory " : " of subcategory schema ") +
+                                  std::string(record.texts[0]) + " is not a major category.");
+    }
+    return subOf(parentTypeId);
+}
+
+} // namespace
+
+std::optional<CategoryKind::Record> CategoryKind::read(const Ostra::Schema& schema) {
+    const bool major = schema.inherits(BuiltIn::majorCategory);
+    if (!major && !schema.inherits(BuiltIn::subCategory)) {
+        return std::nullopt;
+    }
+    const Ostra::Constants constants(schema);
+    const auto name = constants.required<Ostra::NonEmptyString>("name");
+    std::vector<std::string_view> references;
+    if (major) {
+        references = constants.optional<Ostra::TypedValues>("disciplines", {});
+        references.insert(references.begin(), constants.required<Ostra::TypedValue>("domain"));
+    } else {
+        references = {constants.required<Ostra::TypedValue>("parent")};
+    }
+    return Record{{schema.typeId(), name}, Texts(references), major};
+}
+
+CategoryKind::Record CategoryKind::recordOf(const Category& category) {
+    const CategoryData& data = Access::data(category);
+    if (data.sub() != nullptr) {
+        return {data.texts, {parentOf(*data.sub())}, false};
+    }
+    const auto& [domain, disciplines] = Access::data(*data.major());
+    std::vector<std::string_view> references{typeIdOf(domain)};
+    for (const Taxon& discipline : disciplines) {
+        references.push_back(typeIdOf(discipline));
+    }
+    return {data.texts, Texts(references), true};
+}
+
+Category CategoryKind::build(const Record& record, const Finder& finder) {
+    if (record.major) {
+        return categoryOf({record.texts, buildMajor(record, finder)});
+    }
+    return categoryOf({record.texts, buildSub(record, finder)});
+}
+
+Ostra::JSON CategoryKind::write(const Category& category) {
+    const CategoryData& data = Access::data(category);
+    Ostra::SchemaWriter writer =
+        schemaWriter(data.typeId(), data.major() != nullptr ? BuiltIn::majorCategory : BuiltIn::subCategory);
+    writer.constant("name", writer.string(data.name()));
+    if (data.sub() != nullptr) {
+        writer.typedConstant("parent", writer.typedValue(parentOf(*data.sub())));
+        return std::move(writer).finish();
+    }
+    const auto& [domain, disciplines] = Access::data(*data.major());
+    writer.typedConstant("domain", writer.typedValue(typeIdOf(domain)));
+    if (!disciplines.empty()) {
+        Ostra::JSON typedValues = writer.array();
+        for (const Taxon& discipline : disciplines) {
+            typedValues.append(writer.typedValue(typeIdOf(discipline)));
+        }
+        writer.typedConstant("disciplines", std::move(typedValues));
+    }
+    return std::move(writer).finish();
+}
+
+} // namespace Internal
+
+} // namespace Parameters

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "model/Access.h"
+#include "model/Finder.h"
+#include "model/Texts.h"
+#include "schema/JSON.h"
+#include "schema/Schema.h"
+
+#include <parameters/Category.h>
+
+#include <optional>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace Parameters::Internal {
+
+struct MajorCategoryComponentData {
+    Taxon domain;
+    std::vector<Taxon> disciplines;
+};
+
+struct SubCategoryComponentData {
+    Texts parentCategory; // one
+};
+
+struct CategoryData {
+    Texts texts; // typeid, name
+    std::variant<MajorCategoryComponent, SubCategoryComponent> component;
+
+    std::string_view typeId() const { return texts[0]; }
+    std::string_view name() const { return texts[1]; }
+    const MajorCategoryComponent* major() const { return std::get_if<MajorCategoryComponent>(&component); }
+    const SubCategoryComponent* sub() const { return std::get_if<SubCategoryComponent>(&component); }
+};
+
+struct CategoryKind {
+    using Object = Category;
+    struct Record {
+        Texts texts;      // typeid, name
+        Texts references; // typeids: domain and disciplines, or the parent
+        bool major;
+    };
+
+    static constexpr std::string_view word = "category";
+
+    /// Subcategories name categories of this very kind, which therefore is resolved in two passes.
+    static int passOf(const Record& record) { return record.major ? 0 : 1; }
+
+    static std::optional<Record> read(const Ostra::Schema& schema);
+    static Record recordOf(const Category& category);
+    static Category build(const Record& record, const Finder& finder);
+    static Ostra::JSON write(const Category& category);
+};
+
+} // namespace Parameters::Internal

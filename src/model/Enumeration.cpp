@@ -1,0 +1,122 @@
+#include "model/Enumeration.h"
+
+#include "schema/BuiltIn.h"
+#include "schema/SchemaWriter.h"
+#include "schema/ValidationExceptionFactory.h"
+
+#include <parameters/ValidationException.h>
+
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace Parameters {
+
+namespace {
+
+using Internal::EnumerationData;
+using Internal::Texts;
+
+EnumerationData dataOf(std::string_view typeId, const std::vector<std::pair<std::string, std::int64_t>>& values) {
+    std::vector<std::string_view> texts{typeId};
+    std::vector<std::int64_t> integers;
+    texts.reserve(values.size() + 1);
+    integers.reserve(values.size());
+    for (const auto& [identifier, integer] : values) {
+        texts.emplace_back(identifier);
+        integers.push_back(integer);
+    }
+    return {Texts(texts), std::move(integers)};
+}
+
+} // namespace
+
+Enumeration::Enumeration(const std::string& typeId, const std::vector<std::pair<std::string, std::int64_t>>& values)
+    : Enumeration(std::make_shared<const EnumerationData>(dataOf(typeId, values))) {}
+
+std::string Enumeration::getTypeId() const { return std::string(data_->typeId()); }
+
+std::vector<std::pair<std::string, std::int64_t>> Enumeration::getValues() const {
+    std::vector<std::pair<std::string, std::int64_t>> values;
+    values.reserve(data_->integers.size());
+    for (std::size_t value = 0; value < data_->integers.size(); ++value) {
+        values.emplace_back(data_->identifier(value), data_->integers[value]);
+    }
+    return values;
+}
+
+PARAMETERS_COMPARE_BY_TYPEID(Enumeration)
+
+namespace Internal {
+
+namespace {
+
+/// Returns the integer of a value in a schema.
+std::int64_t readInteger(const std::string& enumeration, std::string_view identifier, Ostra::JSONView definition) {
+    if (identifier.empty()) {
+        definition.fail("ID of value in enumeration schema " + enumeration + " must not be empty.");
+    }
+    const auto integer = definition.member("value");
+    if (!integer || !integer->isInteger()) {
+        definition.fail("Value " + std::string(identifier) + " in enumeration schema " + enumeration +
+                        " must specify an integer value.");
+    }
+    return integer->integer();
+}
+
+/// Checks the values of an enumeration made in code.
+void check(const EnumerationData& data) {
+    if (data.integers.empty()) {
+        throw ValidationException("Enumeration must specify at least one value.");
+    }
+    std::set<std::string_view> seen;
+    for (std::size_t value = 0; value < data.integers.size(); ++value) {
+        const std::string_view identifier = data.identifier(value);
+        if (identifier.empty()) {
+            throw ValidationException("ID of value in enumeration must not be empty.");
+        }
+        if (!seen.insert(identifier).second) {
+            throw ValidationException("Value " + std::string(identifier) + " must appear only once.");
+        }
+    }
+}
+
+} // namespace
+
+std::optional<EnumerationKind::Record> EnumerationKind::read(const Ostra::Schema& schema) {
+    if (schema.base() != Ostra::BuiltIn::enumeration) {
+        return std::nullopt;
+    }
+    const std::string typeId(schema.typeId());
+    std::vector<std::string_view> texts{typeId};
+    std::vector<std::int64_t> integers;
+    for (const auto& [identifier, definition] : schema.properties()) {
+        integers.push_back(readInteger(typeId, identifier, definition));
+        texts.push_back(identifier);
+    }
+    if (integers.empty()) {
+        schema.fail("Enumeration schema " + typeId + " must specify at least one value.");
+    }
+    return Record{Texts(texts), std::move(integers)};
+}
+
+Enumeration EnumerationKind::build(const Record& record, const Finder& finder) {
+    if (finder.binds()) {
+        check(record); // a text's values have been checked since they were read
+    }
+    return Access::make<Enumeration>(std::make_shared<const EnumerationData>(record));
+}
+
+Ostra::JSON EnumerationKind::write(const Enumeration& enumeration) {
+    const EnumerationData& data = Access::data(enumeration);
+    Ostra::SchemaWriter writer(data.typeId(), Ostra::BuiltIn::enumeration, ValidationExceptionFactory::shared());
+    for (std::size_t value = 0; value < data.integers.size(); ++value) {
+        writer.property(data.identifier(value), writer.integer(data.integers[value]));
+    }
+    return std::move(writer).finish();
+}
+
+} // namespace Internal
+
+} // namespace Parameters

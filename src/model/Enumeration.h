@@ -1,0 +1,38 @@
+#pragma once
+
+#include "model/Access.h"
+#include "model/Finder.h"
+#include "model/Texts.h"
+#include "schema/JSON.h"
+#include "schema/Schema.h"
+
+#include <parameters/Enumeration.h>
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace Parameters::Internal {
+
+struct EnumerationData {
+    Texts texts;                        // typeid, then the identifiers of the values
+    std::vector<std::int64_t> integers; // of the values
+
+    std::string_view typeId() const { return texts[0]; }
+    std::string_view identifier(std::size_t value) const { return texts[value + 1]; }
+};
+
+struct EnumerationKind {
+    using Object = Enumeration;
+    using Record = EnumerationData;
+
+    static constexpr std::string_view word = "enumeration";
+
+    static std::optional<Record> read(const Ostra::Schema& schema);
+    static Record recordOf(const Enumeration& enumeration) { return Access::data(enumeration); }
+    static Enumeration build(const Record& record, const Finder& finder);
+    static Ostra::JSON write(const Enumeration& enumeration);
+};
+
+} // namespace Parameters::Internal

@@ -1,0 +1,128 @@
+#include "model/EnumerationParameter.h"
+
+#include "model/Writing.h"
+#include "schema/BuiltIn.h"
+#include "schema/Constants.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace Parameters {
+
+namespace {
+
+EnumerationParameter parameterOf(Internal::EnumerationParameterData data) {
+    return Internal::Access::make<EnumerationParameter>(
+        std::make_shared<const Internal::EnumerationParameterData>(std::move(data)));
+}
+
+} // namespace
+
+EnumerationParameter::EnumerationParameter(const ParameterCore& core, const GeneralSpec& spec,
+                                           const Enumeration& enumeration)
+    : EnumerationParameter(parameterOf({Internal::Access::data(core), spec, enumeration})) {}
+
+ParameterCore EnumerationParameter::getCore() const { return Internal::parameterCoreOf(data_); }
+
+GeneralSpec EnumerationParameter::getSpec() const { return data_->spec; }
+
+Enumeration EnumerationParameter::getEnumeration() const { return data_->enumeration; }
+
+PARAMETERS_COMPARE_BY_TYPEID(EnumerationParameter)
+
+namespace Internal {
+
+namespace {
+
+/// Returns the definition's "typedValue" if it has one, else its "value". Unlike a constant that is plainly typed, the
+/// "value" beside a "typedValue" is an inline value.
+std::optional<Ostra::JSONView> typedValueIn(Ostra::JSONView definition) {
+    const auto typedValue = definition.member("typedValue");
+    return typedValue ? typedValue : definition.member("value");
+}
+
+bool isEmptyObject(Ostra::JSONView value) { return value.isObject() && value.size() == 0; }
+
+/// Returns the typeid of the general spec.
+std::string_view readSpec(const Ostra::Schema& schema, const std::string& typeId) {
+    const auto found = schema.constants().find("spec");
+    if (found == schema.constants().end()) {
+        schema.fail("Enumeration parameter schema " + typeId + " has an undefined spec constant.");
+    }
+    const Ostra::JSONView definition = found->second;
+    const auto typedValue = typedValueIn(definition);
+    if (!typedValue) {
+        schema.fail("A spec definition must contain either a value or a typedValue.");
+    }
+    const auto spec = typedValue->member("typeid");
+    if (!spec || !spec->isString() || spec->string().empty()) {
+        schema.fail("Spec constant in enumeration parameter schema " + typeId +
+                    " must specify a nonempty typeid string.");
+    }
+    const auto beside = definition.hasMember("typedValue") ? definition.member("value") : std::nullopt;
+    const auto inside = typedValue->member("value");
+    if ((beside && !isEmptyObject(*beside)) || (inside && !isEmptyObject(*inside))) {
+        schema.fail("Value of spec constant in enumeration parameter schema " + typeId + " must be an empty object.");
+    }
+    return spec->string();
+}
+
+/// Returns the typeid of the enumeration.
+std::string_view readEnumeration(const Ostra::Schema& schema, const std::string& typeId) {
+    const auto found = schema.properties().find("value");
+    if (found == schema.properties().end()) {
+        schema.fail("Enumeration parameter schema " + typeId + " has an undefined value property.");
+    }
+    const auto typedValue = typedValueIn(found->second);
+    const auto enumeration = (typedValue ? *typedValue : Ostra::Schema::valueOf(found->second)).member("typeid");
+    if (!enumeration) {
+        schema.fail("Value property in enumeration parameter schema " + typeId +
+                    " must specify a nonempty typeid string.");
+    }
+    return Ostra::readTypeId(*enumeration);
+}
+
+} // namespace
+
+std::optional<ParameterRecord> EnumerationParameterKind::read(const Ostra::Schema& schema) {
+    if (!schema.inherits(Ostra::BuiltIn::enumerationParameter)) {
+        return std::nullopt;
+    }
+    const std::string typeId(schema.typeId());
+    const auto common = ParameterConstants::read(Ostra::Constants(schema));
+    const auto spec = readSpec(schema, typeId);
+    const auto enumeration = readEnumeration(schema, typeId);
+    return Record{common.texts(typeId), {common.group, spec, enumeration}, common.readOnly};
+}
+
+ParameterRecord EnumerationParameterKind::recordOf(const EnumerationParameter& parameter) {
+    const auto& [core, spec, enumeration] = Access::data(parameter);
+    return {core.texts, {typeIdOf(core.group), typeIdOf(spec), typeIdOf(enumeration)}, core.readOnly};
+}
+
+EnumerationParameter EnumerationParameterKind::build(const Record& record, const Finder& finder) {
+    const auto findSpec = [&] { return finder.require<GeneralSpecKind>(record.spec(), record.typeId()); };
+    const auto findEnumeration = [&] { return finder.require<EnumerationKind>(record.references[2], record.typeId()); };
+    auto core = buildParameterCore(record, finder);
+    // Of two things missing, resolution names the spec, binding the enumeration.
+    if (finder.binds()) {
+        auto enumeration = findEnumeration();
+        return parameterOf({std::move(core), findSpec(), std::move(enumeration)});
+    }
+    auto spec = findSpec();
+    return parameterOf({std::move(core), std::move(spec), findEnumeration()});
+}
+
+Ostra::JSON EnumerationParameterKind::write(const EnumerationParameter& parameter) {
+    const auto& [core, spec, enumeration] = Access::data(parameter);
+    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), Ostra::BuiltIn::enumerationParameter);
+    writeParameterConstants(writer, core);
+    writeSpecConstant(writer, typeIdOf(spec));
+    writer.typedProperty("value", writer.typedValue(typeIdOf(enumeration)));
+    return std::move(writer).finish();
+}
+
+} // namespace Internal
+
+} // namespace Parameters

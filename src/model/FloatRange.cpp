@@ -1,0 +1,25 @@
+#include "model/FloatRange.h"
+
+namespace Parameters {
+
+FloatRange::FloatRange(const std::string& typeId, bool fromBottom, double bottomBoundary, bool fromTop,
+                       double topBoundary)
+    : FloatRange(Internal::FloatRangeKind::of({{typeId}, fromBottom, bottomBoundary, fromTop, topBoundary})) {}
+
+FloatRange::FloatRange(bool fromBottom, double bottomBoundary, bool fromTop, double topBoundary)
+    : FloatRange(Internal::FloatRangeKind::of(
+          {Internal::FloatRangeKind::baseTexts(), fromBottom, bottomBoundary, fromTop, topBoundary})) {}
+
+std::string FloatRange::getTypeId() const { return std::string(data_->typeId()); }
+
+bool FloatRange::isBoundFromBottom() const { return data_->fromBottom; }
+
+double FloatRange::getBottomBoundary() const { return data_->bottomBoundary; }
+
+bool FloatRange::isBoundFromTop() const { return data_->fromTop; }
+
+double FloatRange::getTopBoundary() const { return data_->topBoundary; }
+
+PARAMETERS_COMPARE_BY_TYPEID(FloatRange)
+
+} // namespace Parameters

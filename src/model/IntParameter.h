@@ -1,0 +1,32 @@
+#pragma once
+
+#include "model/IntRange.h"
+#include "model/IntSpec.h"
+#include "model/RangedParameter.h"
+#include "schema/JSON.h"
+#include "schema/Schema.h"
+
+#include <parameters/IntParameter.h>
+#include <parameters/ValueType.h>
+
+#include <optional>
+#include <string_view>
+
+namespace Parameters::Internal {
+
+struct IntParameterKind {
+    using Object = IntParameter;
+    struct Record : RangedParameterRecord<IntRange> {
+        std::optional<IntSpec> givenSpec; // of an object made in code
+    };
+
+    static constexpr std::string_view word = "integer parameter";
+    static constexpr ValueType valueType = Int;
+
+    static std::optional<Record> read(const Ostra::Schema& schema);
+    static Record recordOf(const IntParameter& parameter);
+    static IntParameter build(const Record& record, const Finder& finder);
+    static Ostra::JSON write(const IntParameter& parameter);
+};
+
+} // namespace Parameters::Internal

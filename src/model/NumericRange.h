@@ -1,0 +1,144 @@
+#pragma once
+
+#include "model/Access.h"
+#include "model/Finder.h"
+#include "model/RangeConstant.h"
+#include "model/Texts.h"
+#include "model/Writing.h"
+#include "schema/BuiltIn.h"
+#include "schema/Constants.h"
+#include "schema/JSON.h"
+#include "schema/Schema.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace Parameters::Internal {
+
+template <class Number>
+struct NumericRangeData {
+    Texts texts; // typeid
+    bool fromBottom;
+    Number bottomBoundary;
+    bool fromTop;
+    Number topBoundary;
+
+    std::string_view typeId() const { return texts[0]; }
+};
+
+/// The kind of a range between two numbers; integer and floating-point ranges differ in the numbers alone.
+///
+/// Traits names the Range class, its Number, the Reader of a number from JSON, and the base.
+template <class Traits>
+class NumericRangeKind {
+public:
+    using Object = typename Traits::Range;
+    using Number = typename Traits::Number;
+    using Record = NumericRangeData<Number>;
+
+    static constexpr const Ostra::BuiltIn::Identifier& base = Traits::base;
+
+    static std::optional<Record> read(const Ostra::Schema& schema) {
+        if (!schema.inherits(base)) {
+            return std::nullopt;
+        }
+        const Ostra::Constants constants(schema);
+        const bool fromBottom = constants.required<Ostra::Boolean>("fromBottom");
+        const bool fromTop = constants.required<Ostra::Boolean>("fromTop");
+        const Number bottom = constants.optional<typename Traits::Reader>("bottomBoundary", 0);
+        const Number top = constants.optional<typename Traits::Reader>("topBoundary", 0);
+        return Record{{schema.typeId()}, fromBottom, bottom, fromTop, top};
+    }
+
+    static Record recordOf(const Object& range) { return Access::data(range); }
+
+    static Object build(const Record& record, const Finder&) { return of(record); }
+
+    static Ostra::JSON write(const Object& range) {
+        const Record& data = Access::data(range);
+        Ostra::SchemaWriter writer = schemaWriter(data.typeId(), base);
+        writeSide(writer, "fromBottom", data.fromBottom, "bottomBoundary", data.bottomBoundary);
+        writeSide(writer, "fromTop", data.fromTop, "topBoundary", data.topBoundary);
+        return std::move(writer).finish();
+    }
+
+    /// Reads the value of a range that is written inside a parameter's schema.
+    static Object readInline(Ostra::JSONView value) {
+        const bool fromBottom = readInlineFlag(value, "fromBottom");
+        const Number bottom = readInlineBoundary(value, "bottomBoundary");
+        const bool fromTop = readInlineFlag(value, "fromTop");
+        const Number top = readInlineBoundary(value, "topBoundary");
+        return Object(fromBottom, bottom, fromTop, top);
+    }
+
+    /// Reads the range constant of a parameter; without it the range has no bounds.
+    static RangeReference<Object> readConstant(const Ostra::Schema& schema, const Ostra::Constants& constants) {
+        if (const auto typedValue = constants.find("range")) {
+            return readRangeConstant<Object>(schema, *typedValue, {{base, &readInline}});
+        }
+        static const Object unbounded(false, Number{}, false, Number{});
+        return {std::nullopt, unbounded};
+    }
+
+    /// Returns what a parameter made in code says of its range.
+    static RangeReference<Object> referenceTo(const Object& range) {
+        if (base.isIn(typeIdOf(range))) {
+            return {std::nullopt, range};
+        }
+        return {typeIdOf(range), std::nullopt};
+    }
+
+    /// Writes the range constant of a parameter. A range without bounds is what stands there when nothing is written.
+    static void writeConstant(Ostra::SchemaWriter& writer, const Object& range) {
+        const Record& data = Access::data(range);
+        if (!data.fromBottom && !data.fromTop) {
+            return;
+        }
+        Ostra::JSON typedValue = writer.typedValue(data.typeId());
+        if (data.typeId() == base.full()) {
+            Ostra::JSON value = writer.object();
+            value.add("fromBottom", writer.boolean(data.fromBottom));
+            value.add("bottomBoundary", Traits::json(writer, data.bottomBoundary));
+            value.add("fromTop", writer.boolean(data.fromTop));
+            value.add("topBoundary", Traits::json(writer, data.topBoundary));
+            typedValue.add("value", std::move(value));
+        }
+        writer.typedConstant("range", std::move(typedValue));
+    }
+
+    static Object of(Record record) { return Access::make<Object>(std::make_shared<const Record>(std::move(record))); }
+
+    /// Returns the texts of a range that belongs to a parameter; all of them share one block.
+    static Texts baseTexts() {
+        static const Texts texts{base.full()};
+        return texts;
+    }
+
+private:
+    static void writeSide(Ostra::SchemaWriter& writer, std::string_view flagId, bool flag, std::string_view boundaryId,
+                          Number boundary) {
+        writer.constant(flagId, writer.boolean(flag));
+        if (flag && boundary != Number{}) {
+            writer.constant(boundaryId, Traits::json(writer, boundary));
+        }
+    }
+
+    static bool readInlineFlag(Ostra::JSONView value, std::string_view name) {
+        const auto flag = value.member(name);
+        if (!flag || !flag->isBoolean()) {
+            value.fail("Inline value override in range constant typedValue must specify a Boolean value for constant " +
+                       std::string(name) + ".");
+        }
+        return flag->boolean();
+    }
+
+    static Number readInlineBoundary(Ostra::JSONView value, std::string_view name) {
+        const auto boundary = value.member(name);
+        return boundary ? Number{Traits::Reader::read(*boundary)} : Number{};
+    }
+};
+
+} // namespace Parameters::Internal

@@ -1,0 +1,156 @@
+#include "model/ReferenceParameter.h"
+
+#include "model/Category.h"
+#include "model/Writing.h"
+#include "schema/BuiltIn.h"
+#include "schema/Constants.h"
+
+#include <parameters/ValidationException.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace Parameters {
+
+namespace BuiltIn = Ostra::BuiltIn;
+
+namespace {
+
+ReferenceParameter parameterOf(Internal::ReferenceParameterData data) {
+    return Internal::Access::make<ReferenceParameter>(
+        std::make_shared<const Internal::ReferenceParameterData>(std::move(data)));
+}
+
+} // namespace
+
+ReferenceParameter::ReferenceParameter(const ParameterCore& core, const Category& category, bool ranged)
+    : ReferenceParameter(core, Internal::ReferenceSpecKind::familyType(BuiltIn::familyType.full(), category), ranged) {}
+
+ReferenceParameter::ReferenceParameter(const ParameterCore& core, const ReferenceSpec& spec, bool ranged)
+    : ReferenceParameter(parameterOf({Internal::Access::data(core), spec, ranged})) {}
+
+ReferenceParameter::ReferenceParameter(const ParameterCore& core, bool ranged)
+    : ReferenceParameter(core, Internal::standInOf<Internal::ReferenceSpecKind>(BuiltIn::referenceSpec.full()),
+                         ranged) {}
+
+ParameterCore ReferenceParameter::getCore() const { return Internal::parameterCoreOf(data_); }
+
+ReferenceSpec ReferenceParameter::getSpec() const { return data_->spec; }
+
+bool ReferenceParameter::isRanged() const { return data_->ranged; }
+
+PARAMETERS_COMPARE_BY_TYPEID(ReferenceParameter)
+
+namespace Internal {
+
+namespace {
+
+/// Returns the typeid of the category that stands beside the typeid of the family type base.
+std::string_view readCategory(std::string_view spec, Ostra::JSONView typedValue) {
+    const auto inlined = typedValue.member("typedValue");
+    if (!inlined) {
+        typedValue.fail("Inline typedValue override is required when specifying the family type base schema " +
+                        std::string(spec) + " in spec constant typedValue.");
+    }
+    if (!inlined->isObject()) {
+        typedValue.fail("Inline typedValue override in spec constant typedValue must be an object.");
+    }
+    const auto category = inlined->member("category");
+    const auto typeId = category ? category->member("typeid") : std::nullopt;
+    if (!typeId) {
+        typedValue.fail("Inline typedValue override in spec constant typedValue must specify an object with a typeid "
+                        "string attribute for constant category.");
+    }
+    return Ostra::readTypeId(*typeId);
+}
+
+struct SpecReference {
+    std::string_view spec;
+    std::optional<std::string_view> category; // of a family type
+};
+
+SpecReference readSpec(const Ostra::Schema& schema, const Ostra::Constants& constants) {
+    const auto typedValue = constants.find("spec");
+    if (!typedValue) {
+        return {BuiltIn::referenceSpec.full(), std::nullopt};
+    }
+    const auto typeId = typedValue->member("typeid");
+    if (!typeId) {
+        schema.fail("Parameter schema " + std::string(schema.typeId()) +
+                    " must specify a typeid string attribute in its spec constant typedValue.");
+    }
+    const std::string_view spec = Ostra::readTypeId(*typeId);
+    if (BuiltIn::familyType.isIn(spec)) {
+        return {spec, readCategory(spec, *typedValue)};
+    }
+    if (typedValue->hasMember("value") || typedValue->hasMember("typedValue")) {
+        schema.fail("Inline value override for spec " + std::string(spec) + " is not permitted.");
+    }
+    return {spec, std::nullopt};
+}
+
+Texts referencesOf(std::string_view group, std::string_view spec, std::optional<std::string_view> category) {
+    return category ? Texts{group, spec, *category} : Texts{group, spec};
+}
+
+ReferenceSpec buildFamilyType(const ParameterRecord& record, const Finder& finder) {
+    if (record.references.size() < 3) {
+        throw ValidationException("Family Type parameter must specify a category.");
+    }
+    const auto category = finder.require<CategoryKind>(record.references[2], record.typeId());
+    return ReferenceSpecKind::familyType(finder.binds() ? BuiltIn::familyType.full() : record.spec(), category);
+}
+
+} // namespace
+
+std::optional<ReferenceParameterKind::Record> ReferenceParameterKind::read(const Ostra::Schema& schema) {
+    const bool ranged = schema.inherits(BuiltIn::rangedReferenceParameter);
+    if (!ranged && !schema.inherits(BuiltIn::referenceParameter)) {
+        return std::nullopt;
+    }
+    const Ostra::Constants constants(schema);
+    const auto common = ParameterConstants::read(constants);
+    const auto [spec, category] = readSpec(schema, constants);
+    return Record{{common.texts(schema.typeId()), referencesOf(common.group, spec, category), common.readOnly}, ranged};
+}
+
+ReferenceParameterKind::Record ReferenceParameterKind::recordOf(const ReferenceParameter& parameter) {
+    const auto& [core, spec, ranged] = Access::data(parameter);
+    const auto& category = Access::data(spec).category;
+    std::optional<std::string_view> named;
+    if (category && BuiltIn::familyType.isIn(typeIdOf(spec))) { // another spec brings its own category
+        named = typeIdOf(*category);
+    }
+    return {{core.texts, referencesOf(typeIdOf(core.group), typeIdOf(spec), named), core.readOnly}, ranged};
+}
+
+ReferenceParameter ReferenceParameterKind::build(const Record& record, const Finder& finder) {
+    auto core = buildParameterCore(record, finder);
+    auto spec = BuiltIn::familyType.isIn(record.spec())
+                    ? buildFamilyType(record, finder)
+                    : finder.requireOrUsualStandIn<ReferenceSpecKind>(record.spec(), record.typeId());
+    return parameterOf({std::move(core), std::move(spec), record.ranged});
+}
+
+Ostra::JSON ReferenceParameterKind::write(const ReferenceParameter& parameter) {
+    const auto& [core, spec, ranged] = Access::data(parameter);
+    const auto& base = ranged ? BuiltIn::rangedReferenceParameter : BuiltIn::referenceParameter;
+    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
+    writeParameterConstants(writer, core);
+    const auto& category = Access::data(spec).category;
+    if (category && BuiltIn::familyType.isIn(typeIdOf(spec))) {
+        Ostra::JSON inlined = writer.object();
+        inlined.add("category", writer.typedValue(typeIdOf(*category)));
+        Ostra::JSON typedValue = writer.typedValue(BuiltIn::familyType.full());
+        typedValue.add("typedValue", std::move(inlined));
+        writer.typedConstant("spec", std::move(typedValue));
+    } else {
+        writeSpecConstant(writer, typeIdOf(spec), BuiltIn::referenceSpec.full());
+    }
+    return std::move(writer).finish();
+}
+
+} // namespace Internal
+
+} // namespace Parameters

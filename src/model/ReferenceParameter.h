@@ -1,0 +1,39 @@
+#pragma once
+
+#include "model/ParameterCore.h"
+#include "model/ReferenceSpec.h"
+#include "schema/JSON.h"
+#include "schema/Schema.h"
+
+#include <parameters/ReferenceParameter.h>
+#include <parameters/ValueType.h>
+
+#include <optional>
+#include <string_view>
+
+namespace Parameters::Internal {
+
+struct ReferenceParameterData {
+    ParameterCoreData core;
+    ReferenceSpec spec;
+    bool ranged;
+
+    std::string_view typeId() const { return core.typeId(); }
+};
+
+struct ReferenceParameterKind {
+    using Object = ReferenceParameter;
+    struct Record : ParameterRecord { // the category of a family type is the third reference
+        bool ranged;
+    };
+
+    static constexpr std::string_view word = "reference parameter";
+    static constexpr ValueType valueType = Reference;
+
+    static std::optional<Record> read(const Ostra::Schema& schema);
+    static Record recordOf(const ReferenceParameter& parameter);
+    static ReferenceParameter build(const Record& record, const Finder& finder);
+    static Ostra::JSON write(const ReferenceParameter& parameter);
+};
+
+} // namespace Parameters::Internal

@@ -1,0 +1,230 @@
+#include "model/StringRange.h"
+
+#include "model/Writing.h"
+#include "schema/BuiltIn.h"
+
+#include <parameters/ValidationException.h>
+
+#include <memory>
+#include <set>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Parameters {
+
+namespace BuiltIn = Ostra::BuiltIn;
+
+namespace {
+
+using Internal::Access;
+using Internal::StringRangeData;
+using Internal::Texts;
+
+StringRange rangeOf(StringRangeData data) {
+    return Access::make<StringRange>(std::make_shared<const StringRangeData>(std::move(data)));
+}
+
+SetStringRangeComponent setOf(std::span<const std::string_view> values) {
+    using Data = Internal::SetStringRangeComponentData;
+    return Access::make<SetStringRangeComponent>(std::make_shared<const Data>(Data{Texts(values)}));
+}
+
+RegexStringRangeComponent regexOf(std::string_view regex) {
+    using Data = Internal::RegexStringRangeComponentData;
+    return Access::make<RegexStringRangeComponent>(std::make_shared<const Data>(Data{{regex}}));
+}
+
+std::string_view regexIn(const RegexStringRangeComponent& component) { return Access::data(component).regex[0]; }
+
+} // namespace
+
+SetStringRangeComponent::SetStringRangeComponent(const std::vector<std::string>& allowedValues)
+    : SetStringRangeComponent(setOf(std::vector<std::string_view>(allowedValues.begin(), allowedValues.end()))) {}
+
+std::vector<std::string> SetStringRangeComponent::getAllowedValues() const {
+    return {data_->allowedValues.begin(), data_->allowedValues.end()};
+}
+
+RegexStringRangeComponent::RegexStringRangeComponent(const std::string& regex)
+    : RegexStringRangeComponent(regexOf(regex)) {}
+
+std::string RegexStringRangeComponent::getRegex() const { return std::string(regexIn(*this)); }
+
+StringRange::StringRange() : StringRange(rangeOf({{BuiltIn::stringRange.full()}, {}})) {}
+
+StringRange::StringRange(const SetStringRangeComponent& set)
+    : StringRange(rangeOf({{BuiltIn::setStringRange.full()}, set})) {}
+
+StringRange::StringRange(const RegexStringRangeComponent& regex)
+    : StringRange(rangeOf({{BuiltIn::regexStringRange.full()}, regex})) {}
+
+StringRange::StringRange(const std::string& typeId, const SetStringRangeComponent& set)
+    : StringRange(rangeOf({{typeId}, set})) {}
+
+StringRange::StringRange(const std::string& typeId, const RegexStringRangeComponent& regex)
+    : StringRange(rangeOf({{typeId}, regex})) {}
+
+std::string StringRange::getTypeId() const { return std::string(data_->typeId()); }
+
+std::optional<SetStringRangeComponent> StringRange::getSetStringRangeComponent() const {
+    const auto* set = data_->set();
+    return set != nullptr ? std::optional(*set) : std::nullopt;
+}
+
+std::optional<RegexStringRangeComponent> StringRange::getRegexStringRangeComponent() const {
+    const auto* regex = data_->regex();
+    return regex != nullptr ? std::optional(*regex) : std::nullopt;
+}
+
+PARAMETERS_COMPARE_BY_TYPEID(StringRange)
+
+namespace Internal {
+
+namespace {
+
+const Texts& allowedValuesIn(const SetStringRangeComponent& component) { return Access::data(component).allowedValues; }
+
+void checkUnique(const StringRangeData& range) {
+    const auto* set = range.set();
+    if (set == nullptr) {
+        return;
+    }
+    std::set<std::string_view> seen;
+    for (const std::string_view value : allowedValuesIn(*set)) {
+        if (!seen.insert(value).second) {
+            throw ValidationException("Value " + std::string(value) + " must appear only once.");
+        }
+    }
+}
+
+Ostra::JSON allowedValuesJSON(const Ostra::SchemaWriter& writer, const SetStringRangeComponent& set) {
+    Ostra::JSON values = writer.array();
+    for (const std::string_view value : allowedValuesIn(set)) {
+        values.append(writer.string(value));
+    }
+    return values;
+}
+
+StringRange readInlineSet(Ostra::JSONView value) {
+    const auto allowedValues = value.member("allowedValues");
+    // An empty set, as no set, would allow nothing at all.
+    if (!allowedValues || (allowedValues->isArray() && allowedValues->size() == 0)) {
+        value.fail("Inline value override in range constant typedValue must specify a non-empty array of unique string "
+                   "values for constant allowedValues.");
+    }
+    return StringRange(setOf(Ostra::UniqueStrings::read(*allowedValues)));
+}
+
+StringRange readInlineRegex(Ostra::JSONView value) {
+    const auto regex = value.member("regex");
+    if (!regex) {
+        value.fail("Inline value override in range constant typedValue must specify a string value for constant "
+                   "regex.");
+    }
+    return StringRange(regexOf(Ostra::String::read(*regex)));
+}
+
+StringRange readInlineDefault(Ostra::JSONView value) {
+    if (value.size() != 0) {
+        value.fail("Inline value override for default string range in range constant typedValue, if present, must be "
+                   "an empty object.");
+    }
+    return StringRange();
+}
+
+} // namespace
+
+std::optional<StringRangeKind::Record> StringRangeKind::read(const Ostra::Schema& schema) {
+    const Ostra::Constants constants(schema);
+    if (schema.inherits(BuiltIn::setStringRange)) {
+        return Record{{schema.typeId()}, setOf(constants.required<Ostra::UniqueStrings>("allowedValues"))};
+    }
+    if (schema.inherits(BuiltIn::regexStringRange)) {
+        return Record{{schema.typeId()}, regexOf(constants.required<Ostra::String>("regex"))};
+    }
+    if (schema.inherits(BuiltIn::stringRange)) {
+        return Record{{schema.typeId()}, {}};
+    }
+    return std::nullopt;
+}
+
+StringRange StringRangeKind::build(const Record& record, const Finder& finder) {
+    if (finder.binds()) {
+        checkUnique(record); // a text's values are unique since they were read
+    }
+    return rangeOf(record);
+}
+
+Ostra::JSON StringRangeKind::write(const StringRange& range) {
+    const StringRangeData& data = Access::data(range);
+    const auto* set = data.set();
+    Ostra::SchemaWriter writer =
+        schemaWriter(data.typeId(), set != nullptr ? BuiltIn::setStringRange : BuiltIn::regexStringRange);
+    if (set != nullptr) {
+        writer.constant("allowedValues", allowedValuesJSON(writer, *set));
+    } else {
+        const auto* regex = data.regex(); // none: a range without limitation is written as an empty expression
+        writer.constant("regex", writer.string(regex != nullptr ? regexIn(*regex) : std::string_view()));
+    }
+    return std::move(writer).finish();
+}
+
+RangeReference<StringRange> StringRangeKind::readConstant(const Ostra::Schema& schema,
+                                                          const Ostra::Constants& constants) {
+    if (const auto typedValue = constants.find("range")) {
+        return readRangeConstant<StringRange>(schema, *typedValue,
+                                              {{BuiltIn::stringRange, &readInlineDefault},
+                                               {BuiltIn::setStringRange, &readInlineSet},
+                                               {BuiltIn::regexStringRange, &readInlineRegex}});
+    }
+    static const StringRange anyText;
+    return {std::nullopt, anyText};
+}
+
+RangeReference<StringRange> StringRangeKind::referenceTo(const StringRange& range) {
+    const std::string_view typeId = typeIdOf(range);
+    if (BuiltIn::stringRange.isIn(typeId) || BuiltIn::setStringRange.isIn(typeId) ||
+        BuiltIn::regexStringRange.isIn(typeId)) {
+        return {std::nullopt, range};
+    }
+    return {typeId, range};
+}
+
+void StringRangeKind::writeConstant(Ostra::SchemaWriter& writer, const StringRange& range) {
+    const StringRangeData& data = Access::data(range);
+    Ostra::JSON typedValue = writer.typedValue(data.typeId());
+    Ostra::JSON value = writer.object();
+    if (data.set() != nullptr && BuiltIn::setStringRange.isIn(data.typeId())) {
+        value.add("allowedValues", allowedValuesJSON(writer, *data.set()));
+    } else if (data.regex() != nullptr && BuiltIn::regexStringRange.isIn(data.typeId())) {
+        value.add("regex", writer.string(regexIn(*data.regex())));
+    } else if (BuiltIn::stringRange.isIn(data.typeId())) {
+        return;
+    }
+    if (value.view().size() != 0) {
+        typedValue.add("value", std::move(value));
+    }
+    writer.typedConstant("range", std::move(typedValue));
+}
+
+void StringRangeKind::check(const StringRange& range) {
+    const StringRangeData& data = Access::data(range);
+    const std::string typeId(data.typeId());
+    checkUnique(data);
+    const std::string subject = "String range using base schema typeid " + typeId;
+    if (BuiltIn::stringRange.isIn(typeId) && (data.set() != nullptr || data.regex() != nullptr)) {
+        throw ValidationException(subject + " may not specify a limited range of values.");
+    }
+    if (BuiltIn::setStringRange.isIn(typeId) && (data.set() == nullptr || allowedValuesIn(*data.set()).size() == 0)) {
+        throw ValidationException(subject + " must specify an explicit set of allowed values.");
+    }
+    if (BuiltIn::regexStringRange.isIn(typeId) && data.regex() == nullptr) {
+        throw ValidationException(subject + " must specify a regular expression matching permitted values.");
+    }
+}
+
+} // namespace Internal
+
+} // namespace Parameters

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "model/Access.h"
+#include "model/Finder.h"
+#include "model/RangeConstant.h"
+#include "model/Texts.h"
+#include "schema/Constants.h"
+#include "schema/JSON.h"
+#include "schema/Schema.h"
+#include "schema/SchemaWriter.h"
+
+#include <parameters/StringRange.h>
+
+#include <optional>
+#include <string_view>
+#include <variant>
+
+namespace Parameters::Internal {
+
+struct SetStringRangeComponentData {
+    Texts allowedValues;
+};
+
+struct RegexStringRangeComponentData {
+    Texts regex; // one
+};
+
+struct StringRangeData {
+    Texts texts; // typeid
+    std::variant<std::monostate, SetStringRangeComponent, RegexStringRangeComponent> limitation;
+
+    std::string_view typeId() const { return texts[0]; }
+    const SetStringRangeComponent* set() const { return std::get_if<SetStringRangeComponent>(&limitation); }
+    const RegexStringRangeComponent* regex() const { return std::get_if<RegexStringRangeComponent>(&limitation); }
+};
+
+struct StringRangeKind {
+    using Object = StringRange;
+    using Record = StringRangeData;
+
+    static constexpr std::string_view word = "string range";
+
+    static std::optional<Record> read(const Ostra::Schema& schema);
+    static Record recordOf(const StringRange& range) { return Access::data(range); }
+    static StringRange build(const Record& record, const Finder& finder);
+    static Ostra::JSON write(const StringRange& range);
+
+    /// Reads the range constant of a parameter; without it any text is allowed.
+    static RangeReference<StringRange> readConstant(const Ostra::Schema& schema, const Ostra::Constants& constants);
+    /// Returns what a parameter made in code says of its range.
+    static RangeReference<StringRange> referenceTo(const StringRange& range);
+    /// Writes the range constant of a parameter. The default range is what stands there when nothing is written.
+    static void writeConstant(Ostra::SchemaWriter& writer, const StringRange& range);
+
+    /// Checks a range made in code: its allowed values must be unique, and its limitation that of the base it names.
+    static void check(const StringRange& range);
+};
+
+} // namespace Parameters::Internal
