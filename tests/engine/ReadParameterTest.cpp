@@ -1,0 +1,217 @@
+#include "support/Messages.h"
+#include "support/Picture.h"
+#include "support/SchemaTexts.h"
+
+#include <parameters/ParametersEngine.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+using Parameters::BoolParameter;
+using Parameters::BoolSpec;
+using Parameters::ParameterCore;
+using Parameters::ParametersEngine;
+using Parameters::SpecCore;
+using Parameters::Taxon;
+using Parameters::ValidationException;
+using Parameters::ValueType;
+using Support::boolParameterText;
+using Support::messageOf;
+using Support::pictureOf;
+using Support::schemaText;
+
+/// An engine with objects and with schemas that are pending.
+ParametersEngine prepared() {
+    ParametersEngine engine;
+    engine.registerDiscipline(Taxon("discipline", "The discipline"));
+    engine.registerGroup(Taxon("group", "The group"));
+    engine.registerBoolSpec(BoolSpec(SpecCore("spec", "The spec", Taxon("discipline", "The discipline"))));
+    engine.registerSchema(Support::groupText("pending group"));
+    engine.registerSchema(Support::boolSpecText("pending spec", "discipline"));
+    engine.getUnitsEngine().registerSchema(Support::unitText("unit"));
+    return engine;
+}
+
+const std::string parameterBase = "norvex.parameter:parameter.bool-2.0.0";
+
+TEST(ReadBoolParameter, ReturnsWhatTheTextSays) {
+    const ParametersEngine engine = prepared();
+    const BoolParameter parameter = engine.readBoolParameter(
+        schemaText("p", parameterBase,
+                   R"({"id": "name", "value": "Fire rated"}, {"id": "description", "value": "Whether it is"},
+                      {"id": "sampleText", "value": "Yes"}, {"id": "readOnly", "value": true},
+                      {"id": "group", "typedValue": {"typeid": "group"}},
+                      {"id": "spec", "typedValue": {"typeid": "spec"}})"));
+    EXPECT_EQ(parameter.getCore().getTypeId(), "p");
+    EXPECT_EQ(parameter.getCore().getName(), "Fire rated");
+    EXPECT_EQ(parameter.getCore().getDescription(), "Whether it is");
+    EXPECT_EQ(parameter.getCore().getSampleText(), "Yes");
+    EXPECT_TRUE(parameter.getCore().isReadOnly());
+    EXPECT_EQ(parameter.getCore().getGroup().getName(), "The group");
+    EXPECT_EQ(parameter.getSpec().getCore().getName(), "The spec");
+    EXPECT_EQ(parameter.getSpec().getCore().getDiscipline().getName(), "The discipline");
+}
+
+TEST(ReadBoolParameter, NeedsNoObjectsForBuiltInTypeIds) {
+    const ParametersEngine engine;
+    const BoolParameter parameter =
+        engine.readBoolParameter(boolParameterText("p", "norvex.parameter:group-1.9.0", "norvex.spec:spec.bool-1.4.0"));
+    EXPECT_EQ(parameter.getCore().getGroup().getTypeId(), "norvex.parameter:group-1.9.0");
+    EXPECT_EQ(parameter.getCore().getGroup().getName(), "Other");
+    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), "norvex.spec:spec.bool-1.4.0");
+    EXPECT_EQ(parameter.getSpec().getCore().getName(), "Yes/No");
+}
+
+TEST(ReadBoolParameter, StoresNothing) {
+    const ParametersEngine engine = prepared();
+    const std::string before = pictureOf(engine, {"p"});
+    engine.readBoolParameter(boolParameterText("p", "group", "spec"));
+    EXPECT_EQ(pictureOf(engine, {"p"}), before);
+    EXPECT_FALSE(engine.isRegistered("p"));
+    EXPECT_NO_THROW(engine.readBoolParameter(boolParameterText("p", "group", "spec")));
+}
+
+TEST(ReadBoolParameter, ReadsWhatCanThenBeRegistered) {
+    ParametersEngine engine = prepared();
+    engine.registerBoolParameter(engine.readBoolParameter(boolParameterText("p", "group", "spec")));
+    EXPECT_EQ(engine.getBoolParameter("p").getSpec().getCore().getName(), "The spec");
+}
+
+struct Fault {
+    const char* name;
+    std::string text;
+    const char* message;
+};
+
+const Fault faults[] = {
+    {"UnknownGroup", boolParameterText("p", "x", "spec"), "Could not find group with typeid x."},
+    {"PendingGroup", boolParameterText("p", "pending group", "spec"),
+     "Could not find group with typeid pending group."},
+    {"DisciplineAsAGroup", boolParameterText("p", "discipline", "spec"),
+     "Could not find group with typeid discipline."},
+    {"UnknownSpec", boolParameterText("p", "group", "x"), "Could not find Boolean spec with typeid x."},
+    {"PendingSpec", boolParameterText("p", "group", "pending spec"),
+     "Could not find Boolean spec with typeid pending spec."},
+    {"UnitAsASpec", boolParameterText("p", "group", "unit"), "Could not find Boolean spec with typeid unit."},
+    {"SpecThatIsItself", boolParameterText("p", "group", "p"), "Could not find Boolean spec with typeid p."},
+    {"GroupBeforeSpec", boolParameterText("p", "y", "x"), "Could not find group with typeid y."},
+    {"TypeIdOfAnObject", boolParameterText("discipline", "group", "spec"),
+     "Schema with typeid discipline is already registered."},
+    {"TypeIdOfAPendingSchema", boolParameterText("pending spec", "group", "spec"),
+     "Schema with typeid pending spec is already registered."},
+    {"TypeIdOfAUnit", boolParameterText("unit", "group", "spec"), "Schema with typeid unit is already registered."},
+    {"BuiltInTypeId", boolParameterText("norvex.spec:spec.bool-1.0.0", "group", "spec"),
+     "Schema with typeid norvex.spec:spec.bool-1.0.0 is already registered."},
+    {"OtherKind", Support::disciplineText("p"), "Inheritance from an incorrect base schema."},
+    {"OtherMajorVersion", Support::namedText("p", "norvex.parameter:parameter.bool-1.0.0", "Name"),
+     "Inheritance from an incorrect base schema."},
+    {"BaseOfNoKind", Support::namedText("p", "some base", "Name"), "Inheritance from an incorrect base schema."},
+    {"OtherKindWithFaultsOfItsOwn", Support::disciplineText("p", ""), "Inheritance from an incorrect base schema."},
+    {"KnownTypeIdBeforeTheBase", Support::disciplineText("spec"), "Schema with typeid spec is already registered."},
+    {"KnownTypeIdBeforeTheConstants", schemaText("spec", parameterBase, ""),
+     "Schema with typeid spec is already registered."},
+    {"UndefinedName", schemaText("p", parameterBase, ""), "Schema p has an undefined name constant."},
+    {"ConstantsBeforeReferences", schemaText("p", parameterBase, R"({"id": "name", "value": "Name"},
+        {"id": "group", "typedValue": {"typeid": "x"}}, {"id": "spec", "value": "spec"})"),
+     "A typedValue must be an object."},
+    {"FaultOfTheTextFirst", R"({"typeid": "spec"})", "Schema must specify an inheritance array."},
+    {"EmptyTypeId", boolParameterText("", "group", "spec"), "The typeid string may not be empty."},
+};
+
+class UnreadableParameter : public testing::TestWithParam<Fault> {};
+
+TEST_P(UnreadableParameter, NamesTheFault) {
+    const ParametersEngine engine = prepared();
+    EXPECT_EQ(messageOf<ValidationException>([&] { engine.readBoolParameter(GetParam().text); }), GetParam().message);
+}
+
+TEST_P(UnreadableParameter, LeavesTheEngineAsItWas) {
+    const ParametersEngine engine = prepared();
+    const std::string before = pictureOf(engine, {"p", "x"});
+    messageOf<ValidationException>([&] { engine.readBoolParameter(GetParam().text); });
+    EXPECT_EQ(pictureOf(engine, {"p", "x"}), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(ReadBoolParameter, UnreadableParameter, testing::ValuesIn(faults),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+TEST(ValueTypes, HaveTheirNumbers) {
+    EXPECT_EQ(static_cast<int>(Parameters::None), 0);
+    EXPECT_EQ(static_cast<int>(Parameters::Bool), 1);
+    EXPECT_EQ(static_cast<int>(Parameters::Int), 2);
+    EXPECT_EQ(static_cast<int>(Parameters::Measurable), 3);
+    EXPECT_EQ(static_cast<int>(Parameters::Reference), 4);
+    EXPECT_EQ(static_cast<int>(Parameters::String), 5);
+}
+
+struct Typed {
+    const char* name;
+    std::string text;
+    ValueType type;
+};
+
+const Typed typed[] = {
+    {"BoolParameter", Support::namedText("p", parameterBase, "Name"), Parameters::Bool},
+    {"OtherMinorVersion", Support::namedText("p", "norvex.parameter:parameter.bool-2.7", "Name"), Parameters::Bool},
+    {"BaseInsideALongerText", Support::namedText("p", "our norvex.parameter:parameter.bool-2.0.0", "Name"),
+     Parameters::Bool},
+    {"ReferencesThatNobodyRegistered", boolParameterText("p", "x", "y"), Parameters::Bool},
+    {"TypeIdOfAnObject", boolParameterText("spec", "group", "spec"), Parameters::Bool},
+    {"TypeIdOfAPendingSchema", boolParameterText("pending group", "group", "spec"), Parameters::Bool},
+    {"BuiltInTypeId", boolParameterText("norvex.spec:discipline-1.0.0", "group", "spec"), Parameters::Bool},
+    {"OtherMajorVersion", Support::namedText("p", "norvex.parameter:parameter.bool-1.0.0", "Name"), Parameters::None},
+    {"EnumerationParameter", Support::namedText("p", "norvex.parameter:parameter-2.0.0", "Name"), Parameters::None},
+    {"Discipline", Support::disciplineText("p"), Parameters::None},
+    {"BoolSpec", Support::boolSpecText("p", "discipline"), Parameters::None},
+    {"Unit", Support::unitText("p"), Parameters::None},
+    {"NoKindsBase", Support::namedText("p", "some base", "Name"), Parameters::None},
+    {"FaultyDiscipline", Support::disciplineText("p", ""), Parameters::None},
+    {"ParameterWithoutAName", schemaText("p", parameterBase, ""), Parameters::None},
+    {"ParameterWithAFaultyName", schemaText("p", parameterBase, R"({"id": "name", "value": 1})"), Parameters::None},
+    {"ParameterWithAFaultySpec",
+     schemaText("p", parameterBase, R"({"id": "name", "value": "Name"}, {"id": "spec", "typedValue": {}})"),
+     Parameters::None},
+    {"ParameterWithAConstantOfNoValue", schemaText("p", parameterBase, R"({"id": "name"})"), Parameters::None},
+};
+
+class ReadValueType : public testing::TestWithParam<Typed> {};
+
+TEST_P(ReadValueType, SaysWhatValuesTheParameterHas) {
+    EXPECT_EQ(prepared().readValueType(GetParam().text), GetParam().type);
+}
+
+TEST_P(ReadValueType, LeavesTheEngineAsItWas) {
+    const ParametersEngine engine = prepared();
+    const std::string before = pictureOf(engine, {"p"});
+    engine.readValueType(GetParam().text);
+    EXPECT_EQ(pictureOf(engine, {"p"}), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(ReadParameter, ReadValueType, testing::ValuesIn(typed),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+const Fault noSchemas[] = {
+    {"NoObject", "5", "Schema must specify a typeid string."},
+    {"NoTypeId", R"({"inherits": ["norvex.parameter:parameter.bool-2.0.0"]})", "Schema must specify a typeid string."},
+    {"EmptyTypeId", Support::namedText("", parameterBase, "Name"), "The typeid string may not be empty."},
+    {"NoBase", R"({"typeid": "p"})", "Schema must specify an inheritance array."},
+    {"TwoBases", R"({"typeid": "p", "inherits": ["norvex.parameter:parameter.bool-2.0.0", "x"]})",
+     "Inheritance clause must specify exactly one base schema."},
+    {"ConstantDefinedTwice",
+     schemaText("p", parameterBase, R"({"id": "name", "value": "A"}, {"id": "name", "value": "B"})"),
+     "Item name in constants array must be defined only once."},
+};
+
+class NoSchema : public testing::TestWithParam<Fault> {};
+
+TEST_P(NoSchema, HasNoValueTypeButAFault) {
+    EXPECT_EQ(messageOf<ValidationException>([&] { prepared().readValueType(GetParam().text); }), GetParam().message);
+}
+
+INSTANTIATE_TEST_SUITE_P(ReadParameter, NoSchema, testing::ValuesIn(noSchemas),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+} // namespace
