@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
 namespace Ostra {
 
@@ -8,6 +9,9 @@ namespace Ostra {
 class AllocationWatch {
 public:
     static constexpr long none = -1;
+
+    /// Whether requests are seen: the thread sanitizer does not let a program replace operator new.
+    static bool works();
 
     /// Lets the request of that number fail, counted from 0.
     explicit AllocationWatch(long failingRequest = none);
@@ -29,5 +33,8 @@ private:
     std::size_t bytes_ = 0;
     long liveBlocks_ = 0;
 };
+
+/// Expects that the operation leaks nothing and throws std::bad_alloc whichever of its requests for memory fails.
+void expectNoLeakWhenMemoryEnds(const std::function<void()>& operation);
 
 } // namespace Ostra

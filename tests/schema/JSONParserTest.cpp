@@ -11,7 +11,6 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <new>
 #include <ostream>
 #include <stdexcept>
 #include <string>
@@ -278,35 +277,12 @@ TEST(Parsing, DoesNotRecurseWithTheDepthOfAFaultyText) {
 
 TEST(Parsing, LeaksNothingWhenMemoryEnds) {
     const std::string text = R"({"a": [1, 2.5, "x"], "b": )" + repeated("[", 500) + repeated("]", 500) + "}";
-    parse(text); // what is made once for all documents
-    bool complete = false;
-    for (long failing = 0; !complete; ++failing) {
-        AllocationWatch watch(failing);
-        try {
-            const JSON json = parse(text);
-            complete = true;
-        } catch (const std::bad_alloc&) {
-            complete = false;
-        }
-        ASSERT_EQ(watch.liveBlocks(), 0) << "request " << failing;
-        ASSERT_LE(watch.requests(), 100);
-    }
+    expectNoLeakWhenMemoryEnds([&] { parse(text); });
 }
 
 TEST(Parsing, LeaksNothingWhenMemoryEndsWithAFaultyText) {
     const std::string text = R"({"a": [1, 2.5, "x"], "b": )" + repeated("[", 500);
-    refusalOf(text);
-    bool complete = false;
-    for (long failing = 0; !complete; ++failing) {
-        AllocationWatch watch(failing);
-        try {
-            complete = !refusalOf(text).empty();
-        } catch (const std::bad_alloc&) {
-            complete = false;
-        }
-        ASSERT_EQ(watch.liveBlocks(), 0) << "request " << failing;
-        ASSERT_LE(watch.requests(), 100);
-    }
+    expectNoLeakWhenMemoryEnds([&] { refusalOf(text); });
 }
 
 TEST(Parsing, TakesFewAndSmallBlocksForASchemaText) {
@@ -316,8 +292,11 @@ TEST(Parsing, TakesFewAndSmallBlocksForASchemaText) {
         R"({"id":"group","typedValue":{"typeid":"plant.group:hydraulics-1.0.0"}},)"
         R"({"id":"spec","typedValue":{"typeid":"plant.pumps:spec.flow-1.0.0"}},)"
         R"({"id":"range","typedValue":{"typeid":"plant.range:float.positive-1.0.0","value":{}}},{"id":"x","value":1.5}]})";
-    parse(text); // what is made once for all documents
-    AllocationWatch watch;
+    if (!AllocationWatch::works()) {
+        GTEST_SKIP() << "requests for memory are not seen in this build";
+    }
+    parse(text); // makes what is made once
+    const AllocationWatch watch;
     const JSON json = parse(text);
     const long requests = watch.requests();
     const std::size_t bytes = watch.bytes();

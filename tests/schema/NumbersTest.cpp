@@ -138,6 +138,7 @@ const Nearest nearestDoubles[] = {
     {"LongFractionOfZeros", "0." + zeros(100'000) + "1", 0.0},
     {"LongFractionOfZerosWithItsExponent", "0." + zeros(99'999) + "1e100000", 1.0},
     {"LongFractionOfNines", "0." + std::string(100'000, '9'), 1.0},
+    {"FractionOfZerosThatItsExponentDoesNotOutweigh", "0." + zeros(700) + "1e+300", 0.0},
     {"LongIntegerWithItsExponent", "1" + zeros(99'999) + "e-99999", 1.0},
     {"LongTailThatBreaksATie", "9007199254740993." + zeros(100'000) + "1", 9007199254740994.0},
 };
@@ -164,6 +165,7 @@ const TooBig tooBigNumbers[] = {
     {"ExponentBeyond64Bits", "1e99999999999999999999"},
     {"SmallSignificandWithABigExponent", "0.0000001e400"},
     {"LongInteger", "1" + zeros(100'000)},
+    {"IntegerThatItsExponentDoesNotOutweigh", "1" + zeros(800) + "e-400"},
     {"FractionOfZerosOutweighedByItsExponent", "0." + zeros(400) + "1e800"},
 };
 
