@@ -1,0 +1,274 @@
+#include "support/Messages.h"
+#include "support/Picture.h"
+#include "support/SchemaTexts.h"
+
+#include <parameters/ParametersEngine.h>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+#include <string>
+
+namespace {
+
+using Parameters::BoolParameter;
+using Parameters::BoolSpec;
+using Parameters::GeneralSpec;
+using Parameters::ParameterCore;
+using Parameters::ParametersEngine;
+using Parameters::SpecCore;
+using Parameters::Taxon;
+using Parameters::UnrecognizedIdentifierException;
+using Parameters::ValidationException;
+using Support::messageOf;
+using Support::pictureOf;
+
+using TypeIds = std::set<std::string>;
+
+BoolParameter parameterIn(const std::string& group, const std::string& spec, const std::string& typeId = "p") {
+    return {ParameterCore(typeId, "The parameter", Taxon(group, "Mine"), "", "", false),
+            BoolSpec(SpecCore(spec, "Mine"))};
+}
+
+/// An engine with objects of every kind, pending schemas and a unit.
+struct Outputs : testing::Test {
+    Outputs() {
+        engine.registerDiscipline(Taxon("discipline", "Fire \"safety\""));
+        engine.registerDomain(Taxon("domain", "Harbour"));
+        engine.registerGroup(Taxon("group", "Doors"));
+        engine.registerBoolSpec(BoolSpec(SpecCore("bool spec", "Closed", Taxon("discipline", "Mine"))));
+        engine.registerBoolSpec(BoolSpec(SpecCore("common spec", "Usual")));
+        engine.registerGeneralSpec(GeneralSpec(SpecCore("general spec", "Choice", Taxon("discipline", ""))));
+        engine.registerBoolParameter({ParameterCore("parameter", "Rated", Taxon("group", ""), "About", "Yes", true),
+                                      BoolSpec(SpecCore("bool spec", ""))});
+        engine.registerBoolParameter(BoolParameter(ParameterCore("plain parameter", "Plain", "", "", false)));
+        engine.registerSchema(Support::boolSpecText("pending spec", "discipline"));
+        engine.registerSchema(Support::groupText("pending group"));
+        engine.getUnitsEngine().registerSchema(Support::unitText("unit"));
+        engine.getUnitsEngine().resolveSchemas();
+    }
+
+    ParametersEngine engine;
+};
+
+TEST_F(Outputs, DependenciesOfASpecAreItsDiscipline) {
+    EXPECT_EQ(engine.getDependencies("bool spec"), TypeIds{"discipline"});
+    EXPECT_EQ(engine.getDependencies("general spec"), TypeIds{"discipline"});
+}
+
+TEST_F(Outputs, DependenciesOfAParameterAreItsGroupAndSpec) {
+    EXPECT_EQ(engine.getDependencies("parameter"), (TypeIds{"group", "bool spec"}));
+}
+
+TEST_F(Outputs, DependenciesIncludeBuiltInObjects) {
+    EXPECT_EQ(engine.getDependencies("common spec"), TypeIds{"norvex.spec:discipline-1.0.0"});
+    EXPECT_EQ(engine.getDependencies("plain parameter"),
+              (TypeIds{"norvex.parameter:group-1.0.0", "norvex.spec:spec.bool-1.0.0"}));
+}
+
+TEST_F(Outputs, DependenciesAreAsTheSchemaNamedThem) {
+    engine.registerSchema(
+        Support::boolParameterText("p", "our norvex.parameter:group-1.9", "norvex.spec:spec.bool-1.4.0"));
+    engine.resolveSchemas();
+    EXPECT_EQ(engine.getDependencies("p"), (TypeIds{"our norvex.parameter:group-1.9", "norvex.spec:spec.bool-1.4.0"}));
+}
+
+TEST_F(Outputs, DependenciesAreNotThoseOfDependencies) {
+    EXPECT_EQ(engine.getDependencies("parameter").count("discipline"), 0U);
+}
+
+struct Unknown {
+    const char* name;
+    const char* typeId;
+    const char* message;
+};
+
+struct UnknownInOutputs : Outputs, testing::WithParamInterface<Unknown> {};
+
+TEST_P(UnknownInOutputs, HasNoDependencies) {
+    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { engine.getDependencies(GetParam().typeId); }),
+              GetParam().message);
+}
+
+TEST_P(UnknownInOutputs, HasNoSchema) {
+    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { engine.getSchema(GetParam().typeId); }),
+              GetParam().message);
+}
+
+const Unknown unknowns[] = {
+    {"Nothing", "x", "Could not find any object with typeid x."},
+    {"EmptyTypeId", "", "Could not find any object with typeid ."},
+    {"PendingSpec", "pending spec", "Could not find any object with typeid pending spec."},
+    {"PendingGroup", "pending group", "Could not find any object with typeid pending group."},
+    {"Unit", "unit", "Could not find any object with typeid unit."},
+    {"BuiltInBoolSpec", "norvex.spec:spec.bool-1.0.0",
+     "Could not find any object with typeid norvex.spec:spec.bool-1.0.0."},
+    {"BuiltInGroup", "norvex.parameter:group-1.0.0",
+     "Could not find any object with typeid norvex.parameter:group-1.0.0."},
+    {"OtherCase", "Parameter", "Could not find any object with typeid Parameter."},
+};
+
+INSTANTIATE_TEST_SUITE_P(Outputs, UnknownInOutputs, testing::ValuesIn(unknowns),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+struct Unsearched {
+    const char* name;
+    const char* typeId;
+    const char* message;
+};
+
+struct KindThatNamesNothing : Outputs, testing::WithParamInterface<Unsearched> {};
+
+TEST_P(KindThatNamesNothing, IsNotSearchedForDependencies) {
+    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { engine.getDependencies(GetParam().typeId); }),
+              GetParam().message);
+}
+
+TEST_P(KindThatNamesNothing, HasASchemaAllTheSame) { EXPECT_NO_THROW(engine.getSchema(GetParam().typeId)); }
+
+const Unsearched unsearched[] = {
+    {"Discipline", "discipline", "Could not find any object with typeid discipline."},
+    {"Domain", "domain", "Could not find any object with typeid domain."},
+    {"Group", "group", "Could not find any object with typeid group."},
+};
+
+INSTANTIATE_TEST_SUITE_P(Outputs, KindThatNamesNothing, testing::ValuesIn(unsearched),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+struct Export {
+    const char* name;
+    const char* typeId;
+    const char* text;
+};
+
+struct ExportedSchema : Outputs, testing::WithParamInterface<Export> {};
+
+TEST_P(ExportedSchema, IsWrittenFromTheObject) { EXPECT_EQ(engine.getSchema(GetParam().typeId), GetParam().text); }
+
+TEST_P(ExportedSchema, MakesTheSameObjectInAnotherEngine) {
+    ParametersEngine other;
+    std::map<std::string, std::string> batch;
+    for (const char* typeId : {"discipline", "domain", "group", "bool spec", "common spec", "general spec", "parameter",
+                               "plain parameter"}) {
+        batch.emplace(typeId, engine.getSchema(typeId));
+    }
+    other.registerSchemas(batch);
+    EXPECT_EQ(other.getSchema(GetParam().typeId), GetParam().text);
+}
+
+const Export exports[] = {
+    {"Discipline", "discipline",
+     R"({"typeid":"discipline","inherits":["norvex.spec:discipline-1.0.0"],"constants":[{"id":"name","value":"Fire \"safety\""}]})"},
+    {"Domain", "domain",
+     R"({"typeid":"domain","inherits":["norvex.talmo.category:domain-1.0.0"],"constants":[{"id":"name","value":"Harbour"}]})"},
+    {"Group", "group",
+     R"({"typeid":"group","inherits":["norvex.parameter:group-1.0.0"],"constants":[{"id":"name","value":"Doors"}]})"},
+    {"BoolSpec", "bool spec",
+     R"({"typeid":"bool spec","inherits":["norvex.spec:spec.bool-1.0.0"],"constants":[{"id":"name","value":"Closed"},)"
+     R"({"id":"discipline","typedValue":{"typeid":"discipline"}}]})"},
+    {"BoolSpecOfTheCommonDiscipline", "common spec",
+     R"({"typeid":"common spec","inherits":["norvex.spec:spec.bool-1.0.0"],"constants":[{"id":"name","value":"Usual"}]})"},
+    {"GeneralSpec", "general spec",
+     R"({"typeid":"general spec","inherits":["norvex.spec:spec-1.0.0"],"constants":[{"id":"name","value":"Choice"},)"
+     R"({"id":"discipline","typedValue":{"typeid":"discipline"}}]})"},
+    {"BoolParameter", "parameter",
+     R"({"typeid":"parameter","inherits":["norvex.parameter:parameter.bool-2.0.0"],)"
+     R"("constants":[{"id":"name","value":"Rated"},{"id":"description","value":"About"},)"
+     R"({"id":"sampleText","value":"Yes"},{"id":"group","typedValue":{"typeid":"group"}},)"
+     R"({"id":"readOnly","value":true},{"id":"spec","typedValue":{"typeid":"bool spec"}}]})"},
+    {"BoolParameterOfDefaults", "plain parameter",
+     R"({"typeid":"plain parameter","inherits":["norvex.parameter:parameter.bool-2.0.0"],)"
+     R"("constants":[{"id":"name","value":"Plain"}]})"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Outputs, ExportedSchema, testing::ValuesIn(exports),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+TEST_F(Outputs, ASchemaIsWrittenAfreshFromItsObject) {
+    engine.registerSchema(R"({ "more" : 1, "constants" : [ { "value" : "N\u0061me", "id" : "name" },
+        { "id": "description", "value": "" } ], "inherits" : [ "our norvex.parameter:parameter.bool-2.5" ],
+        "typeid" : "p", "properties": [] })");
+    engine.resolveSchemas();
+    EXPECT_EQ(
+        engine.getSchema("p"),
+        R"({"typeid":"p","inherits":["norvex.parameter:parameter.bool-2.0.0"],"constants":[{"id":"name","value":"Name"}]})");
+}
+
+TEST_F(Outputs, ASchemaKeepsTheTypeIdsOfBuiltInObjectsUnlessTheyAreTheDefaults) {
+    engine.registerSchema(
+        Support::boolParameterText("p", "norvex.parameter:group-1.0.0", "norvex.spec:spec.bool-1.4.0"));
+    engine.resolveSchemas();
+    EXPECT_EQ(engine.getSchema("p"),
+              R"({"typeid":"p","inherits":["norvex.parameter:parameter.bool-2.0.0"],"constants":[)"
+              R"({"id":"name","value":"Name"},{"id":"spec","typedValue":{"typeid":"norvex.spec:spec.bool-1.4.0"}}]})");
+}
+
+TEST_F(Outputs, OfAParameterMadeInCodeAreItsDependencies) {
+    EXPECT_EQ(engine.getDependencies(parameterIn("group", "bool spec")), (TypeIds{"group", "bool spec"}));
+}
+
+TEST_F(Outputs, OfAParameterMadeInCodeAreItsBuiltInDependencies) {
+    EXPECT_EQ(engine.getDependencies(BoolParameter(ParameterCore("p", "", "", "", false))),
+              (TypeIds{"norvex.parameter:group-1.0.0", "norvex.spec:spec.bool-1.0.0"}));
+    EXPECT_EQ(engine.getDependencies(parameterIn("norvex.parameter:group-1.9.0", "norvex.spec:spec.bool-1.4.0")),
+              (TypeIds{"norvex.parameter:group-1.9.0", "norvex.spec:spec.bool-1.4.0"}));
+}
+
+TEST_F(Outputs, OfAParameterMadeInCodeIsItsSchema) {
+    EXPECT_EQ(engine.getSchema(parameterIn("group", "bool spec")),
+              R"({"typeid":"p","inherits":["norvex.parameter:parameter.bool-2.0.0"],"constants":[)"
+              R"({"id":"name","value":"The parameter"},{"id":"group","typedValue":{"typeid":"group"}},)"
+              R"({"id":"spec","typedValue":{"typeid":"bool spec"}}]})");
+}
+
+TEST_F(Outputs, OfAParameterMadeInCodeStoreNothing) {
+    const std::string before = pictureOf(engine, {"p"});
+    const BoolParameter parameter = parameterIn("group", "bool spec");
+    EXPECT_EQ(engine.getSchema(parameter), engine.getSchema(parameter));
+    EXPECT_EQ(engine.getDependencies(parameter), engine.getDependencies(parameter));
+    EXPECT_EQ(pictureOf(engine, {"p"}), before);
+}
+
+struct Refusal {
+    const char* name;
+    BoolParameter parameter;
+    const char* message;
+};
+
+struct RefusedParameter : Outputs, testing::WithParamInterface<Refusal> {};
+
+TEST_P(RefusedParameter, HasNoDependencies) {
+    EXPECT_EQ(messageOf<ValidationException>([&] { engine.getDependencies(GetParam().parameter); }),
+              GetParam().message);
+}
+
+TEST_P(RefusedParameter, HasNoSchema) {
+    EXPECT_EQ(messageOf<ValidationException>([&] { engine.getSchema(GetParam().parameter); }), GetParam().message);
+}
+
+const Refusal refusals[] = {
+    {"EmptyTypeId", parameterIn("group", "bool spec", ""), "Typeid must not be empty."},
+    {"Registered", parameterIn("group", "bool spec", "parameter"),
+     "Schema with typeid parameter is already registered."},
+    {"TypeIdOfAnotherKind", parameterIn("group", "bool spec", "domain"),
+     "Schema with typeid domain is already registered."},
+    {"TypeIdOfAPendingSchema", parameterIn("group", "bool spec", "pending spec"),
+     "Schema with typeid pending spec is already registered."},
+    {"TypeIdOfAUnit", parameterIn("group", "bool spec", "unit"), "Schema with typeid unit is already registered."},
+    {"BuiltInTypeId", parameterIn("group", "bool spec", "norvex.spec:spec.bool-1.0.0"),
+     "Schema with typeid norvex.spec:spec.bool-1.0.0 is already registered."},
+    {"TypeIdBeforeReferences", parameterIn("x", "y", "parameter"),
+     "Schema with typeid parameter is already registered."},
+    {"UnknownGroup", parameterIn("x", "bool spec"), "Could not find group with typeid x."},
+    {"PendingGroup", parameterIn("pending group", "bool spec"), "Could not find group with typeid pending group."},
+    {"UnknownSpec", parameterIn("group", "y"), "Could not find Boolean spec with typeid y."},
+    {"PendingSpec", parameterIn("group", "pending spec"), "Could not find Boolean spec with typeid pending spec."},
+    {"GeneralSpec", parameterIn("group", "general spec"), "Could not find Boolean spec with typeid general spec."},
+    {"GroupBeforeSpec", parameterIn("x", "y"), "Could not find group with typeid x."},
+};
+
+INSTANTIATE_TEST_SUITE_P(Outputs, RefusedParameter, testing::ValuesIn(refusals),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+} // namespace
