@@ -190,6 +190,16 @@ public:
     ///         type."
     void resolveSchemas();
 
+    /// Returns what resolveSchemas could not build now: the type identifier of each such pending schema, in byte order,
+    /// with the message that resolution would raise for it. A schema that names one of these is among them. Empty
+    /// exactly when resolveSchemas would succeed. Costs about what resolveSchemas does.
+    /// @throws whatever the units engine throws when its pending units, which are tried on a copy, do not resolve.
+    std::map<std::string, std::string> findUnresolvable() const;
+
+    /// Withdraws a schema that is registered and not yet resolved; returns false when there is none of that type
+    /// identifier. When all that findUnresolvable lists is discarded, resolveSchemas succeeds.
+    bool discardPending(const std::string& typeId);
+
     /// Returns the type identifiers that a resolved object names, built-in ones included.
     /// @throws UnrecognizedIdentifierException "Could not find any object with typeid T.", also for the kinds that name
     ///         nothing: disciplines, domains and groups.

@@ -50,6 +50,38 @@ Directory::EntryId Directory::add(const Entry& entry) noexcept {
     return id;
 }
 
+void Directory::remove(EntryId id) noexcept {
+    vacate(slotOf(id));
+    const auto last = static_cast<EntryId>(entries_.size() - 1);
+    if (id != last) {
+        slots_[slotOf(last)].entry = id;
+        entries_[id] = entries_[last];
+    }
+    entries_.pop_back();
+}
+
+std::size_t Directory::slotOf(EntryId id) const noexcept {
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t at = shortHashOf(entries_[id].typeId) & mask;
+    while (slots_[at].entry != id) {
+        at = (at + 1) & mask;
+    }
+    return at;
+}
+
+/// Empties a slot and moves back what would no longer be found behind it.
+void Directory::vacate(std::size_t at) noexcept {
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t next = (at + 1) & mask; slots_[next].entry != none; next = (next + 1) & mask) {
+        const std::size_t home = slots_[next].hash & mask;
+        if (((next - home) & mask) >= ((next - at) & mask)) {
+            slots_[at] = slots_[next];
+            at = next;
+        }
+    }
+    slots_[at].entry = none;
+}
+
 void Directory::enlarge(std::size_t slotCount) {
     std::vector<Slot> slots(slotCount, Slot{0, none});
     slots_.swap(slots);

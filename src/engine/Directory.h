@@ -30,6 +30,10 @@ public:
     void reserveOne();
     /// Adds an entry for a typeid that has none, after reserveOne.
     EntryId add(const Entry& entry) noexcept;
+    /// Removes an entry. The last one takes its id.
+    void remove(EntryId id) noexcept;
+    EntryId idOf(const Entry& entry) const noexcept { return static_cast<EntryId>(&entry - entries_.data()); }
+    std::size_t size() const noexcept { return entries_.size(); }
 
 private:
     struct Slot {
@@ -41,6 +45,8 @@ private:
 
     void enlarge(std::size_t slotCount);
     void place(Slot slot) noexcept;
+    std::size_t slotOf(EntryId id) const noexcept;
+    void vacate(std::size_t at) noexcept;
 
     std::vector<Entry> entries_;
     std::vector<Slot> slots_; // a power of two of them, or none; collisions go to the next slot

@@ -105,6 +105,20 @@ void Engine::resolveSchemas() {
     forEachKind(StoreOrder{}, [&]<class K>() { registry.commit<K>(resolution.built<K>()); });
 }
 
+Resolution::Faults Engine::findUnresolvable() const {
+    Units::UnitsEngine units = units_; // resolving units would change the engine
+    units.resolveSchemas();
+    return Resolution(registry_.read(), units).run(Resolution::Stop::never);
+}
+
+bool Engine::discardPending(const std::string& typeId) {
+    if (!registry_.read().isPending(typeId)) {
+        return false;
+    }
+    registry_.write().discardPending(typeId);
+    return true;
+}
+
 std::set<std::string> Engine::dependenciesOf(const std::string& typeId) const {
     std::optional<std::set<std::string>> named; // none for kinds that name nothing: they are not searched
     registry_.read().visitObject(typeId, [&]<class K>(const typename K::Object& object) {

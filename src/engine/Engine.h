@@ -78,6 +78,8 @@ public:
     Missing registerSchema(const std::string& text);
     void registerSchemas(const std::map<std::string, std::string>& texts);
     void resolveSchemas();
+    Resolution::Faults findUnresolvable() const;
+    bool discardPending(const std::string& typeId);
     std::set<std::string> dependenciesOf(const std::string& typeId) const;
     std::string schemaOf(const std::string& typeId) const;
     Units::UnitsEngine& units() noexcept { return units_; }

@@ -100,4 +100,15 @@ constexpr std::size_t indexOf(KindList<Ks...>) {
 template <class K>
 inline constexpr std::size_t kindIndex = indexOf<K>(StoreOrder{});
 
+/// Calls visit.operator()<K>() with the kind of that place in the store order.
+template <class Visitor>
+void withKind(std::size_t index, Visitor&& visit) {
+    anyKind(StoreOrder{}, [&]<class K>() {
+        if (kindIndex<K> == index) {
+            visit.template operator()<K>();
+        }
+        return kindIndex<K> == index;
+    });
+}
+
 } // namespace Parameters::Internal

@@ -240,6 +240,10 @@ void ParametersEngine::registerSchemas(const std::map<std::string, std::string>&
 
 void ParametersEngine::resolveSchemas() { engine_->resolveSchemas(); }
 
+std::map<std::string, std::string> ParametersEngine::findUnresolvable() const { return engine_->findUnresolvable(); }
+
+bool ParametersEngine::discardPending(const std::string& typeId) { return engine_->discardPending(typeId); }
+
 std::set<std::string> ParametersEngine::getDependencies(const std::string& typeId) const {
     return engine_->dependenciesOf(typeId);
 }

@@ -68,18 +68,21 @@ public:
                                                                                   : nullptr;
     }
 
+    bool isPending(std::string_view typeId) const noexcept {
+        const Directory::Entry* entry = find(typeId);
+        return entry != nullptr && !entry->resolved;
+    }
+
     /// Calls visit.operator()<K>(object) with the object of that typeid, whatever its kind; returns whether there is
     /// one.
     template <class Visitor>
     bool visitObject(std::string_view typeId, Visitor&& visit) const {
         const Directory::Entry* entry = find(typeId);
-        return entry != nullptr && entry->resolved && anyKind(StoreOrder{}, [&]<class K>() {
-                   const bool matches = entry->kind == kindIndex<K>;
-                   if (matches) {
-                       visit.template operator()<K>(store<K>().objects[entry->place]);
-                   }
-                   return matches;
-               });
+        if (entry == nullptr || !entry->resolved) {
+            return false;
+        }
+        withKind(entry->kind, [&]<class K>() { visit.template operator()<K>(store<K>().objects[entry->place]); });
+        return true;
     }
 
     /// Files a record whose typeid is new. Changes nothing when it throws.
@@ -91,6 +94,23 @@ public:
         pending.back().entry =
             directory_.add({pending.back().record.texts[0], static_cast<std::uint32_t>(pending.size() - 1),
                             static_cast<std::uint8_t>(kindIndex<K>), false});
+    }
+
+    /// Withdraws a record that is pending.
+    void discardPending(std::string_view typeId) noexcept {
+        const Directory::EntryId id = directory_.idOf(*find(typeId));
+        withKind(directory_[id].kind, [&]<class K>() {
+            auto& pending = std::get<kindIndex<K>>(stores_).pending;
+            const std::uint32_t place = directory_[id].place;
+            std::swap(pending[place], pending.back());
+            directory_[pending[place].entry].place = place;
+            directory_.remove(id); // while the record still holds the typeid
+            pending.pop_back();
+        });
+        if (id < directory_.size() && !directory_[id].resolved) { // another entry has taken the id
+            withKind(directory_[id].kind,
+                     [&]<class K>() { std::get<kindIndex<K>>(stores_).pending[directory_[id].place].entry = id; });
+        }
     }
 
     /// Stores an object whose typeid is new. Changes nothing when it throws.
