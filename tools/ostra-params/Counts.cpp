@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <array>
 #include <cstddef>
 #include <iterator>
 #include <string_view>
@@ -17,21 +18,35 @@ struct Row {
     std::size_t (*count)(ParametersEngine& engine);
 };
 
-template <auto getAll>
+template <auto GetAll>
 std::size_t countOf(ParametersEngine& engine) {
-    return (engine.*getAll)().size();
+    return (engine.*GetAll)().size();
 }
 
 std::size_t countOfUnits(ParametersEngine& engine) { return engine.getUnitsEngine().getAllUnits().size(); }
 
-constexpr Row rows[] = {
-    {"units", countOfUnits},
-    {"disciplines", countOf<&ParametersEngine::getAllDisciplines>},
-    {"domains", countOf<&ParametersEngine::getAllDomains>},
-    {"groups", countOf<&ParametersEngine::getAllGroups>},
-    {"Boolean specs", countOf<&ParametersEngine::getAllBoolSpecs>},
-    {"general specs", countOf<&ParametersEngine::getAllGeneralSpecs>},
-    {"Boolean parameters", countOf<&ParametersEngine::getAllBoolParameters>},
+constexpr std::array rows{
+    Row{"units", countOfUnits},
+    Row{"enumerations", countOf<&ParametersEngine::getAllEnumerations>},
+    Row{"floating-point ranges", countOf<&ParametersEngine::getAllFloatRanges>},
+    Row{"integer ranges", countOf<&ParametersEngine::getAllIntRanges>},
+    Row{"string ranges", countOf<&ParametersEngine::getAllStringRanges>},
+    Row{"disciplines", countOf<&ParametersEngine::getAllDisciplines>},
+    Row{"Boolean specs", countOf<&ParametersEngine::getAllBoolSpecs>},
+    Row{"general specs", countOf<&ParametersEngine::getAllGeneralSpecs>},
+    Row{"integer specs", countOf<&ParametersEngine::getAllIntSpecs>},
+    Row{"measurable specs", countOf<&ParametersEngine::getAllMeasurableSpecs>},
+    Row{"reference specs", countOf<&ParametersEngine::getAllReferenceSpecs>},
+    Row{"string specs", countOf<&ParametersEngine::getAllStringSpecs>},
+    Row{"groups", countOf<&ParametersEngine::getAllGroups>},
+    Row{"enumeration parameters", countOf<&ParametersEngine::getAllEnumerationParameters>},
+    Row{"Boolean parameters", countOf<&ParametersEngine::getAllBoolParameters>},
+    Row{"integer parameters", countOf<&ParametersEngine::getAllIntParameters>},
+    Row{"measurable parameters", countOf<&ParametersEngine::getAllMeasurableParameters>},
+    Row{"reference parameters", countOf<&ParametersEngine::getAllReferenceParameters>},
+    Row{"string parameters", countOf<&ParametersEngine::getAllStringParameters>},
+    Row{"domains", countOf<&ParametersEngine::getAllDomains>},
+    Row{"categories", countOf<&ParametersEngine::getAllCategories>},
 };
 
 } // namespace
