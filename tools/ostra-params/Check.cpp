@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <iterator>
+#include <optional>
 #include <string_view>
 
 namespace Tool {

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 
 namespace Tool {
 

@@ -18,9 +18,9 @@ struct Row {
     std::size_t (*count)(ParametersEngine& engine);
 };
 
-template <auto GetAll>
+template <auto getAll>
 std::size_t countOf(ParametersEngine& engine) {
-    return (engine.*GetAll)().size();
+    return (engine.*getAll)().size();
 }
 
 std::size_t countOfUnits(ParametersEngine& engine) { return engine.getUnitsEngine().getAllUnits().size(); }

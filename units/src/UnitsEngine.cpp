@@ -14,7 +14,7 @@ namespace Units {
 /// out later, so that resolving is one assignment, which cannot fail.
 class UnitsEngine::Registry {
 public:
-    bool holds(const std::string& typeId) const { return entries_.count(typeId) != 0; }
+    bool holds(const std::string& typeId) const { return entries_.contains(typeId); }
 
     void add(const std::string& typeId, const Unit& unit) {
         entries_.try_emplace(typeId, Entry{unit, entries_.size()});
