@@ -48,29 +48,28 @@ std::optional<Fault> Checker::add(const Source& source) {
         const std::string message = fault.what();
         return Fault{Place{source.file, lineAt(source, offsetOfFault(source.text, message))}, message};
     }
-    places_.try_emplace(typeIdOf(source.text), Place{source.file, lineAt(source, offsetOfFault(source.text, {}))});
+    const Place place{source.file, lineAt(source, offsetOfFault(source.text, {}))};
+    added_.try_emplace(typeIdOf(source.text), Added{place, added_.size()});
     return std::nullopt;
 }
 
-std::optional<Fault> Checker::resolve() {
+std::vector<Fault> Checker::resolve() {
     try {
-        engine_.resolveSchemas();
-    } catch (const std::logic_error& fault) {
-        return Fault{placeNamedIn(fault.what()), fault.what()};
-    }
-    return std::nullopt;
-}
-
-std::optional<Place> Checker::placeNamedIn(const std::string& message) const {
-    // Typeids may contain blanks and one another: the longest one that fits is the one that is meant.
-    const std::pair<const std::string, Place>* named = nullptr;
-    for (const auto& entry : places_) {
-        const bool isLonger = named == nullptr || entry.first.size() > named->first.size();
-        if (isLonger && message.find("chema " + entry.first + " ") != std::string::npos) {
-            named = &entry;
+        std::map<std::size_t, Fault> faults; // by the number of the schema
+        for (const auto& [typeId, message] : engine_.findUnresolvable()) {
+            const Added& added = added_.at(typeId);
+            faults.emplace(added.number, Fault{added.place, message});
+            engine_.discardPending(typeId);
         }
+        engine_.resolveSchemas();
+        std::vector<Fault> inOrder;
+        for (auto& [number, fault] : faults) {
+            inOrder.push_back(std::move(fault));
+        }
+        return inOrder;
+    } catch (const std::logic_error& fault) { // of the units engine, which may have faults of its own
+        return {Fault{std::nullopt, fault.what()}};
     }
-    return named != nullptr ? std::optional(named->second) : std::nullopt;
 }
 
 } // namespace Tool

@@ -9,6 +9,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace Tool {
 
@@ -20,7 +21,7 @@ struct Place {
 
 /// Something wrong with a catalogue.
 struct Fault {
-    std::optional<Place> place; ///< Nothing when the message names no schema of the catalogue.
+    std::optional<Place> place; ///< Nothing for what is wrong with no schema in particular.
     std::string message;
 };
 
@@ -29,16 +30,19 @@ class Checker {
 public:
     /// Registers a schema, or a unit schema, and returns what is wrong with it.
     std::optional<Fault> add(const Source& source);
-    /// Resolves all that was added and returns what hinders it.
-    std::optional<Fault> resolve();
+    /// Resolves what was added and is sound. Returns what is wrong with the rest, in the order in which it was added.
+    std::vector<Fault> resolve();
 
     Parameters::ParametersEngine& engine() { return engine_; }
 
 private:
-    std::optional<Place> placeNamedIn(const std::string& message) const;
+    struct Added {
+        Place place;
+        std::size_t number; // in the order of adding
+    };
 
     Parameters::ParametersEngine engine_;
-    std::map<std::string, Place> places_;
+    std::map<std::string, Added> added_; // by typeid
 };
 
 } // namespace Tool

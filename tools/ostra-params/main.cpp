@@ -16,8 +16,8 @@ constexpr int faulty = 1;
 constexpr int unusable = 2;
 
 constexpr const char* checkDetails = R"(Registers all schemas, those of units too, and resolves them. Prints a line
-"file:line: message" for each fault (of those that show up in resolution the
-first), then the number of objects of each kind.
+"file:line: message" for each fault, then the number of sound objects of each
+kind. What names a faulty schema is faulty, too.
 
 )";
 
