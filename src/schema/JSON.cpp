@@ -104,7 +104,7 @@ std::shared_ptr<JSONPool> makePool(std::size_t chunkSize) {
 }
 
 /// In most texts the copied text and the values fit into one chunk of this size; long texts take several.
-std::size_t chunkSizeFor(std::string_view text) { return std::clamp<std::size_t>(3 * text.size(), 256, 64 * 1024); }
+std::size_t chunkSizeFor(std::string_view text) { return std::clamp<std::size_t>(3 * text.size(), 256, 65'536); }
 
 } // namespace
 

@@ -9,8 +9,8 @@ using namespace std::string_literals;
 namespace {
 
 const std::string validTexts[] = {
-    R"({"typeid":"plant.pumps:parameter.flowRate-1.0.0","inherits":["base.measurable-3.0.0"],)"
-    R"("constants":[{"id":"name","value":"Flow"},{"id":"spec","typedValue":{"typeid":"plant:spec.flow-1.0.0"}}]})",
+    R"({"typeid":"plant.pumps:parameter.flowRate-1.0.0","inherits":["base.measurable-3.0.0"],"constants":[]})",
+    R"({"constants":[{"id":"name","value":"Flow"},{"id":"spec","typedValue":{"typeid":"plant:spec.flow-1.0.0"}}]})",
     R"({"typeid": "a:b-1.0.0", "inherits": [], "properties": [{"id": "x", "type": "Float64", "value": -12.5e-3}]})",
     R"([1, -0, 2147483648, -2147483649, 18446744073709551615, 18446744073709551616, 1e308, 4.9e-324, 0.1])",
     R"(["\"\\\/\b\f\n\r\t", "\u0041\u00e9\u20ac\ud83d\ude00", "\u0000", "", {"": {"": [[], {}]}}, true, false, null])",
