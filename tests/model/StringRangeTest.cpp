@@ -1,5 +1,6 @@
 #include <parameters/StringRange.h>
 
+#include "StringRanges.h"
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
 #include "support/Fault.h"
@@ -16,10 +17,10 @@
 
 namespace {
 
+using namespace StringRanges;
 using Parameters::ParametersEngine;
 using Parameters::RegexStringRangeComponent;
 using Parameters::SetStringRangeComponent;
-using Parameters::StringRange;
 using Parameters::UnrecognizedIdentifierException;
 using Support::engineOf;
 using Support::Fault;
@@ -28,11 +29,6 @@ using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
 using Support::schemaText;
-using Strings = std::vector<std::string>;
-
-const char* const defaultBase = "norvex.range:range.string-1.0.0";
-const char* const setBase = "norvex.range:range.string.set.static-1.0.0";
-const char* const regexBase = "norvex.range:range.string.regex-1.0.0";
 
 const char* const writtenSet = R"({"typeid":"r","inherits":["norvex.range:range.string.set.static-1.0.0"],)"
                                R"("constants":[{"id":"allowedValues","value":["b","a","A"]}]})";
@@ -42,26 +38,6 @@ const char* const writtenRegex = R"({"typeid":"r","inherits":["norvex.range:rang
                                  R"("constants":[{"id":"regex","value":"(("}]})";
 const char* const writtenEmptyRegex = R"({"typeid":"r","inherits":["norvex.range:range.string.regex-1.0.0"],)"
                                       R"("constants":[{"id":"regex","value":""}]})";
-
-void expectSet(const StringRange& range, const std::string& typeId, const Strings& allowedValues) {
-    EXPECT_EQ(range.getTypeId(), typeId);
-    ASSERT_TRUE(range.getSetStringRangeComponent().has_value());
-    EXPECT_EQ(range.getSetStringRangeComponent()->getAllowedValues(), allowedValues);
-    EXPECT_FALSE(range.getRegexStringRangeComponent().has_value());
-}
-
-void expectRegex(const StringRange& range, const std::string& typeId, const std::string& regex) {
-    EXPECT_EQ(range.getTypeId(), typeId);
-    ASSERT_TRUE(range.getRegexStringRangeComponent().has_value());
-    EXPECT_EQ(range.getRegexStringRangeComponent()->getRegex(), regex);
-    EXPECT_FALSE(range.getSetStringRangeComponent().has_value());
-}
-
-void expectAnyText(const StringRange& range, const std::string& typeId) {
-    EXPECT_EQ(range.getTypeId(), typeId);
-    EXPECT_FALSE(range.getSetStringRangeComponent().has_value());
-    EXPECT_FALSE(range.getRegexStringRangeComponent().has_value());
-}
 
 StringRange resolved(const std::string& base, const std::string& constants) {
     return engineOf({schemaText("r", base, constants)}).getStringRange("r");

@@ -1,0 +1,295 @@
+#include <parameters/StringParameter.h>
+
+#include "StringParameters.h"
+#include "support/AwkwardStrings.h"
+#include "support/Engines.h"
+#include "support/Fault.h"
+#include "support/Messages.h"
+#include "support/Refusal.h"
+#include "support/SchemaTexts.h"
+
+#include <parameters/ParametersEngine.h>
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace StringParameters;
+using Parameters::ValidationException;
+using Support::engineOf;
+using Support::Fault;
+using Support::messageOf;
+using Support::refusalBy;
+using Support::refusalOf;
+using Support::rewritten;
+using Support::typedConstant;
+
+const char* const setAndRegexBase = "norvex.range:range.string.set.static-1.0.0 norvex.range:range.string.regex-1.0.0";
+const char* const regexAndSetBase = "norvex.range:range.string.regex-1.0.0 norvex.range:range.string.set.static-1.0.0";
+const char* const defaultAndSetBase = "norvex.range:range.string.set.static-1.0.0 norvex.range:range.string-1.0.0";
+const char* const defaultAndRegexBase = "norvex.range:range.string-1.0.0 norvex.range:range.string.regex-1.0.0";
+
+TEST(StringParameter, KeepsWhatItIsMadeWith) {
+    const StringParameter parameter(coreOf("p", "g"), specOf("s"), setOf("r", {"b", "a"}));
+    EXPECT_EQ(parameter.getCore().getTypeId(), "p");
+    EXPECT_EQ(parameter.getCore().getGroup().getTypeId(), "g");
+    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), "s");
+    EXPECT_EQ(parameter.getSpec().getCore().getName(), "Spec");
+    expectSet(parameter.getRange(), "r", {"b", "a"});
+}
+
+TEST(StringParameter, HasTheBuiltInSpecWhenItIsGivenNone) {
+    const StringParameter parameter(coreOf("p"), StringRange());
+    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), builtInSpec);
+    EXPECT_EQ(parameter.getSpec().getCore().getName(), "Text");
+    EXPECT_EQ(parameter.getSpec().getCore().getDiscipline().getName(), "Common");
+    expectAnyText(parameter.getRange(), defaultBase);
+}
+
+TEST(StringParameter, HasDefaultsForAllButItsName) {
+    const StringParameter parameter = resolved(textOf());
+    EXPECT_EQ(parameter.getCore().getName(), "Name");
+    EXPECT_EQ(parameter.getCore().getDescription(), "");
+    EXPECT_EQ(parameter.getCore().getSampleText(), "");
+    EXPECT_EQ(parameter.getCore().getGroup().getTypeId(), "norvex.parameter:group-1.0.0");
+    EXPECT_EQ(parameter.getCore().getGroup().getName(), "Other");
+    EXPECT_FALSE(parameter.getCore().isReadOnly());
+    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), builtInSpec);
+    EXPECT_EQ(parameter.getSpec().getCore().getName(), "Text");
+    expectAnyText(parameter.getRange(), defaultBase);
+}
+
+TEST(StringParameter, TakesAllItsConstants) {
+    const StringParameter parameter = resolved(
+        textOf(R"({"id": "range", "typedValue": {"typeid": "set"}}, {"id": "spec", "typedValue": {"typeid": "s"}},
+                  {"id": "readOnly", "value": true}, {"id": "group", "typedValue": {"typeid": "g"}},
+                  {"id": "sampleText", "value": "b"}, {"id": "description", "value": "About it"})"));
+    EXPECT_EQ(parameter.getCore().getDescription(), "About it");
+    EXPECT_EQ(parameter.getCore().getSampleText(), "b");
+    EXPECT_EQ(parameter.getCore().getGroup().getName(), "The group");
+    EXPECT_TRUE(parameter.getCore().isReadOnly());
+    EXPECT_EQ(parameter.getSpec().getCore().getName(), "The spec");
+    expectSet(parameter.getRange(), "set", {"b", "a"});
+}
+
+TEST(StringParameter, InheritsAnyMinorVersionOfItsBaseAlone) {
+    const auto base = [](const char* version) {
+        return Support::namedText("p", std::string("norvex.parameter:parameter.string-") + version, "Name");
+    };
+    EXPECT_EQ(engineOf({base("3.7.1")}).getStringParameter("p").getCore().getName(), "Name");
+    EXPECT_EQ(refusalOf(base("2.0.0")), "Inheritance from an unrecognized base schema.");
+    EXPECT_EQ(messageOf<ValidationException>([&] { ParametersEngine().readStringParameter(base("2.0.0")); }),
+              "Inheritance from an incorrect base schema.");
+}
+
+TEST(StringParameter, HasAnInlineSetAsItsRange) {
+    const std::string text = inlineText("norvex.range:range.string.set.static-1.4.2",
+                                        R"({"regex": 5, "allowedValues": ["x", "A", "", "a"], "other": []})");
+    expectSet(resolved(text).getRange(), setBase, {"x", "A", "", "a"});
+    expectSet(ParametersEngine().readStringParameter(text).getRange(), setBase, {"x", "A", "", "a"});
+}
+
+TEST(StringParameter, HasAnInlineExpressionAsItsRange) {
+    const std::string text =
+        inlineText("my norvex.range:range.string.regex-1.x", R"({"allowedValues": 5, "regex": "((", "other": null})");
+    expectRegex(resolved(text).getRange(), regexBase, "((");
+    expectRegex(ParametersEngine().readStringParameter(text).getRange(), regexBase, "((");
+}
+
+TEST(StringParameter, HasTheDefaultRangeByItsBase) {
+    for (const char* typeId : {"norvex.range:range.string-1.0.0", "a norvex.range:range.string-1.7.3 b"}) {
+        expectAnyText(resolved(inlineText(typeId, "{}")).getRange(), defaultBase);
+        expectAnyText(ParametersEngine().readStringParameter(inlineText(typeId, "{}")).getRange(), defaultBase);
+    }
+}
+
+TEST(StringParameter, HasTheExpressionWhenItsRangeFitsTheBasesOfSetsAndExpressions) {
+    for (const char* typeId : {setAndRegexBase, regexAndSetBase}) {
+        const std::string text = inlineText(typeId, R"({"allowedValues": ["a"], "regex": "b"})");
+        expectRegex(resolved(text).getRange(), regexBase, "b");
+        expectRegex(ParametersEngine().readStringParameter(text).getRange(), regexBase, "b");
+    }
+}
+
+TEST(StringParameter, HasARegisteredRangeBesideAnEmptyValue) {
+    expectSet(resolved(inlineText("set", "{}")).getRange(), "set", {"b", "a"});
+    expectSet(stocked().readStringParameter(inlineText("set", "{}")).getRange(), "set", {"b", "a"});
+}
+
+TEST(StringParameter, HasARegisteredRangeWhateverThatAllows) {
+    expectSet(resolved(textOf(typedConstant("range", "empty"))).getRange(), "empty", {});
+    expectRegex(resolved(textOf(typedConstant("range", "regex"))).getRange(), "regex", "a*");
+    expectAnyText(resolved(textOf(typedConstant("range", "any"))).getRange(), "any");
+    expectSet(stocked().readStringParameter(textOf(typedConstant("range", "empty"))).getRange(), "empty", {});
+    expectAnyText(stocked().readStringParameter(textOf(typedConstant("range", "any"))).getRange(), "any");
+}
+
+const char* const noAllowedValues = "Inline value override in range constant typedValue must specify a non-empty array "
+                                    "of unique string values for constant allowedValues.";
+const char* const noRegex =
+    "Inline value override in range constant typedValue must specify a string value for constant regex.";
+const char* const notDefault = "Inline value override for default string range in range constant typedValue, if "
+                               "present, must be an empty object.";
+
+const std::vector<Fault> inlineFaults = {
+    {"NoSet", inlineText(setBase, R"({"regex": "a"})"), noAllowedValues},
+    {"EmptySet", inlineText(setBase, R"({"allowedValues": []})"), noAllowedValues},
+    {"SetAsAText", inlineText(setBase, R"({"allowedValues": "a"})"), "Expected an array."},
+    {"SetNull", inlineText(setBase, R"({"allowedValues": null})"), "Expected an array."},
+    {"SetAsAnEmptyObject", inlineText(setBase, R"({"allowedValues": {}})"), "Expected an array."},
+    {"ValueAsANumber", inlineText(setBase, R"({"allowedValues": ["a", 5]})"), "Expected an array of strings."},
+    {"RepeatedValue", inlineText(setBase, R"({"allowedValues": ["a", "b", "a"]})"),
+     "Expected an array of unique strings."},
+    {"RepeatedValueBeforeNumber", inlineText(setBase, R"({"allowedValues": ["a", "a", 5]})"),
+     "Expected an array of unique strings."},
+    {"NumberBeforeRepeatedValue", inlineText(setBase, R"({"allowedValues": [5, "a", "a"]})"),
+     "Expected an array of strings."},
+    {"NoExpression", inlineText(regexBase, R"({"allowedValues": ["a"]})"), noRegex},
+    {"ExpressionAsANumber", inlineText(regexBase, R"({"regex": 5})"), "Expected a string."},
+    {"ExpressionNull", inlineText(regexBase, R"({"regex": null})"), "Expected a string."},
+    {"DefaultWithAnExpression", inlineText(defaultBase, R"({"regex": "a"})"), notDefault},
+    {"DefaultWithAnyMember", inlineText("norvex.range:range.string-1.3.0", R"({"": null})"), notDefault},
+    {"SeveralBasesWithoutValue", textOf(typedConstant("range", setAndRegexBase)),
+     "Inline value override is required when specifying range schema norvex.range:range.string.set.static-1.0.0 "
+     "norvex.range:range.string.regex-1.0.0 in range constant typedValue."},
+    {"SetBeforeExpression", inlineText(regexAndSetBase, "{}"), noAllowedValues},
+    {"ExpressionBehindSet", inlineText(setAndRegexBase, R"({"allowedValues": ["a"]})"), noRegex},
+    {"SetBesideExpression", inlineText(setAndRegexBase, R"({"regex": "a"})"), noAllowedValues},
+    {"DefaultBeforeSet", inlineText(defaultAndSetBase, R"({"allowedValues": ["a"]})"), notDefault},
+    {"SetBehindDefault", inlineText(defaultAndSetBase, "{}"), noAllowedValues},
+    {"DefaultBeforeExpression", inlineText(defaultAndRegexBase, R"({"regex": 5})"), notDefault},
+    {"ExpressionBehindDefault", inlineText(defaultAndRegexBase, "{}"), noRegex},
+};
+
+class StringParameterInlineFault : public testing::TestWithParam<Fault> {
+protected:
+    ParametersEngine engine;
+};
+
+TEST_P(StringParameterInlineFault, IsNamedInRegistration) {
+    EXPECT_EQ(refusalOf(engine, GetParam().text), GetParam().message);
+}
+
+TEST_P(StringParameterInlineFault, IsNamedInReading) {
+    EXPECT_EQ(refusalBy(engine, [&] { engine.readStringParameter(GetParam().text); }), GetParam().message);
+}
+
+TEST_P(StringParameterInlineFault, LeavesTheParameterWithoutAValueType) {
+    EXPECT_EQ(engine.readValueType(GetParam().text), Parameters::ValueType::None);
+}
+
+INSTANTIATE_TEST_SUITE_P(StringParameter, StringParameterInlineFault, testing::ValuesIn(inlineFaults),
+                         Support::nameOfFault);
+
+TEST(StringParameter, HasItsValueType) {
+    const ParametersEngine engine;
+    EXPECT_EQ(engine.readValueType(textOf()), Parameters::ValueType::String);
+    EXPECT_EQ(engine.readValueType(textOf(typedConstant("range", "missing"))), Parameters::ValueType::String);
+}
+
+struct Written {
+    const char* name;
+    StringParameter parameter;
+    std::string text;
+
+    friend void PrintTo(const Written& row, std::ostream* out) { *out << row.name; }
+};
+
+const Written writtenParameters[] = {
+    {"AllConstants",
+     {ParameterCore("p", "Name", Taxon("g", ""), "About it", "b", true), specOf("s"), regexOf("set", "not it")},
+     written(R"(,{"id":"description","value":"About it"},{"id":"sampleText","value":"b"},)"
+             R"({"id":"group","typedValue":{"typeid":"g"}},{"id":"readOnly","value":true},)"
+             R"({"id":"spec","typedValue":{"typeid":"s"}},{"id":"range","typedValue":{"typeid":"set"}})")},
+    {"DefaultsAlone", {coreOf("p"), StringRange()}, written("")},
+    {"BuiltInSpecOfAnotherName", {coreOf("p"), specOf(builtInSpec), StringRange()}, written("")},
+    {"BuiltInSpecOfAnotherVersion", {coreOf("p"), specOf("norvex.spec:spec.string-2.3.0"), StringRange()}, written("")},
+    {"NamedExpression",
+     {coreOf("p"), regexOf("regex", "")},
+     written(R"(,{"id":"range","typedValue":{"typeid":"regex"}})")},
+    {"NamedEmptySet", {coreOf("p"), setOf("empty", {})}, written(R"(,{"id":"range","typedValue":{"typeid":"empty"}})")},
+    {"NamedRangeOfAnyText",
+     {coreOf("p"), setOf("any", {"a"})},
+     written(R"(,{"id":"range","typedValue":{"typeid":"any"}})")},
+    {"OwnSet",
+     {coreOf("p"), StringRange(SetStringRangeComponent({"b", "", "a", "A"}))},
+     written(R"(,{"id":"range","typedValue":{"typeid":"norvex.range:range.string.set.static-1.0.0",)"
+             R"("value":{"allowedValues":["b","","a","A"]}}})")},
+    {"OwnExpression",
+     {coreOf("p"), StringRange(RegexStringRangeComponent("(("))},
+     written(R"(,{"id":"range","typedValue":{"typeid":"norvex.range:range.string.regex-1.0.0",)"
+             R"("value":{"regex":"(("}}})")},
+    {"OwnEmptyExpression",
+     {coreOf("p"), StringRange(RegexStringRangeComponent(""))},
+     written(R"(,{"id":"range","typedValue":{"typeid":"norvex.range:range.string.regex-1.0.0",)"
+             R"("value":{"regex":""}}})")},
+};
+
+class WrittenStringParameter : public testing::TestWithParam<Written> {};
+
+TEST_P(WrittenStringParameter, HasItsConstantsInOrder) {
+    EXPECT_EQ(writtenBy(GetParam().parameter), GetParam().text);
+    EXPECT_EQ(stocked().getSchema(GetParam().parameter), GetParam().text);
+}
+
+TEST_P(WrittenStringParameter, SurvivesTheRoundTrip) {
+    EXPECT_EQ(rewritten(stocked(), "p", GetParam().text), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(StringParameter, WrittenStringParameter, testing::ValuesIn(writtenParameters),
+                         [](const auto& test) { return test.param.name; });
+
+TEST(StringParameter, IsWrittenWithTheVersionOfTheBuiltInSpecThatItsSchemaNames) {
+    const std::string text = written(R"(,{"id":"spec","typedValue":{"typeid":"norvex.spec:spec.string-2.3.0"}})");
+    EXPECT_EQ(rewritten(ParametersEngine(), "p", text), text);
+}
+
+TEST(StringParameter, IsWrittenWithoutTheDefaultRangeThatItsSchemaNames) {
+    EXPECT_EQ(rewritten(ParametersEngine(), "p", inlineText("norvex.range:range.string-1.3.0", "{}")), written(""));
+}
+
+TEST(StringParameter, LosesTheVersionOfAnOwnRangeOnTheRoundTrip) {
+    const StringParameter set(coreOf("p"), setOf("norvex.range:range.string.set.static-1.4.2", {"a"}));
+    EXPECT_EQ(writtenBy(set),
+              written(R"(,{"id":"range","typedValue":{"typeid":"norvex.range:range.string.set.static-1.4.2",)"
+                      R"("value":{"allowedValues":["a"]}}})"));
+    EXPECT_EQ(rewritten(ParametersEngine(), "p", writtenBy(set)),
+              written(R"(,{"id":"range","typedValue":{"typeid":"norvex.range:range.string.set.static-1.0.0",)"
+                      R"("value":{"allowedValues":["a"]}}})"));
+    const StringParameter regex(coreOf("p"), regexOf("my norvex.range:range.string.regex-1.x", "a"));
+    EXPECT_EQ(writtenBy(regex),
+              written(R"(,{"id":"range","typedValue":{"typeid":"my norvex.range:range.string.regex-1.x",)"
+                      R"("value":{"regex":"a"}}})"));
+    EXPECT_EQ(rewritten(ParametersEngine(), "p", writtenBy(regex)),
+              written(R"(,{"id":"range","typedValue":{"typeid":"norvex.range:range.string.regex-1.0.0",)"
+                      R"("value":{"regex":"a"}}})"));
+}
+
+class AwkwardStringParameter : public testing::TestWithParam<Support::AwkwardString> {};
+
+TEST_P(AwkwardStringParameter, IsWrittenWithTheBytesOfItsValues) {
+    const std::string expected =
+        written(R"(,{"id":"range","typedValue":{"typeid":"norvex.range:range.string.set.static-1.0.0",)"
+                R"("value":{"allowedValues":["x",")" +
+                GetParam().escaped + R"("]}}})");
+    EXPECT_EQ(writtenBy({coreOf("p"), StringRange(SetStringRangeComponent({"x", GetParam().bytes}))}), expected);
+    EXPECT_EQ(rewritten(ParametersEngine(), "p", expected), expected);
+}
+
+TEST_P(AwkwardStringParameter, IsWrittenWithTheBytesOfItsExpression) {
+    const std::string expected =
+        written(R"(,{"id":"range","typedValue":{"typeid":"norvex.range:range.string.regex-1.0.0",)"
+                R"("value":{"regex":")" +
+                GetParam().escaped + R"("}}})");
+    EXPECT_EQ(writtenBy({coreOf("p"), StringRange(RegexStringRangeComponent(GetParam().bytes))}), expected);
+    EXPECT_EQ(rewritten(ParametersEngine(), "p", expected), expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Strings, AwkwardStringParameter, testing::ValuesIn(Support::awkwardStrings),
+                         Support::nameOfAwkwardString);
+
+} // namespace
