@@ -66,9 +66,9 @@ public:
     ParametersEngine& operator=(ParametersEngine&& other) noexcept;
     ~ParametersEngine();
 
-    /// Returns the object of a kind and type identifier. Only resolved objects are found. For an identifier that
-    /// contains the version prefix of the kind's built-in identifier, the built-in object of exactly that identifier is
-    /// returned; domains and general specs have none.
+    /// Returns the object of a kind and type identifier. Only resolved objects are found. Disciplines, groups and
+    /// Boolean, integer, reference and string specs have a built-in object: an identifier that contains the version
+    /// prefix of the kind's built-in identifier gives that object under exactly this identifier.
     /// @throws UnrecognizedIdentifierException "Could not find K with typeid T.", where K is the kind's name.
     /// @{
     Enumeration getEnumeration(const std::string& typeId) const;
@@ -202,7 +202,7 @@ public:
 
     /// Returns the type identifiers that a resolved object names, built-in ones included.
     /// @throws UnrecognizedIdentifierException "Could not find any object with typeid T.", also for the kinds that name
-    ///         nothing: disciplines, domains and groups.
+    ///         nothing: enumerations, ranges, disciplines, domains and groups.
     std::set<std::string> getDependencies(const std::string& typeId) const;
     /// Returns the type identifiers that a parameter made in code names. It is checked as if it were registered.
     /// @throws ValidationException as registering it would.

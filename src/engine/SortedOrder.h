@@ -26,9 +26,9 @@ public:
 
     /// Says that the sequence has grown.
     void grown() noexcept {
-        if (const Order* order = current_.exchange(nullptr, std::memory_order_relaxed)) {
-            previous_.swap(const_cast<Order&>(*order)); // the writer is alone with it
-            delete order;
+        const std::unique_ptr<Order> order(current_.exchange(nullptr, std::memory_order_relaxed));
+        if (order) {
+            previous_.swap(*order);
         }
     }
 
@@ -43,7 +43,7 @@ public:
         std::iota(fresh, order->end(), static_cast<std::uint32_t>(previous_.size()));
         std::sort(fresh, order->end(), less);
         std::inplace_merge(order->begin(), fresh, order->end(), less);
-        const Order* published = nullptr;
+        Order* published = nullptr;
         if (current_.compare_exchange_strong(published, order.get(), std::memory_order_acq_rel)) {
             published = order.release();
         }
@@ -57,7 +57,7 @@ private:
     }
 
     Order previous_; // of the sequence's beginning
-    mutable std::atomic<const Order*> current_ = nullptr;
+    mutable std::atomic<Order*> current_ = nullptr;
 };
 
 } // namespace Parameters::Internal
