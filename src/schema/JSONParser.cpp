@@ -6,7 +6,6 @@
 #include <rapidjson/stream.h>
 
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <stdexcept>
 

@@ -73,7 +73,8 @@ std::string RandomTexts::number() {
     std::string number = chance(3) ? "-" : "";
     number += chance(4) ? "0" : digits(chance(8) ? 400 : 22);
     if (chance(2)) {
-        number += "." + digits(chance(8) ? 400 : 20);
+        number += '.';
+        number += digits(chance(8) ? 400 : 20);
     }
     if (chance(2)) {
         number += chance(2) ? "e" : "E";
@@ -139,7 +140,8 @@ std::string RandomTexts::container(int depth, bool object) {
     std::string text = object ? "{" : "[";
     text += blanks();
     for (std::size_t count = below(5), index = 0; index < count; ++index) {
-        text += index > 0 ? "," + blanks() : "";
+        text += index > 0 ? "," : "";
+        text += blanks();
         text += object ? string() + blanks() + ":" + blanks() : "";
         text += value(depth) + blanks();
     }
