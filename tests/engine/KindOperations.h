@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-/// The operations of one kind as functions of type identifiers, so that what holds for every kind is one test.
+/// The operations of one kind as functions of type identifiers, so that what holds for every kind is one test. This
+/// fits the kinds whose objects have a name and whose schemas need nothing else.
 struct KindOperations {
     const char* name;
     const char* base;
@@ -56,9 +57,17 @@ void addParameter(Engine& engine, const std::string& typeId, const std::string& 
     (engine.*add)(Parameter(Parameters::ParameterCore(typeId, name, "", "", false)));
 }
 
+inline void addIntParameter(Engine& engine, const std::string& typeId, const std::string& name) {
+    engine.registerIntParameter({Parameters::ParameterCore(typeId, name, "", "", false), {true, 1, true, 2}});
+}
+
+inline void addStringParameter(Engine& engine, const std::string& typeId, const std::string& name) {
+    engine.registerStringParameter({Parameters::ParameterCore(typeId, name, "", "", false), Parameters::StringRange()});
+}
+
 } // namespace Detail
 
-/// Every kind, in the order of the stores.
+/// Every kind that they fit, in the order of the stores.
 inline const std::array everyKind{
     KindOperations{"Discipline", "norvex.spec:discipline-1.0.0", "Could not find discipline with typeid x.",
                    Detail::nameBy<&Detail::Engine::getDiscipline>,
@@ -71,6 +80,13 @@ inline const std::array everyKind{
                    Detail::nameBy<&Detail::Engine::getGeneralSpec>,
                    Detail::typeIdsBy<&Detail::Engine::getAllGeneralSpecs>,
                    Detail::addSpec<Parameters::GeneralSpec, &Detail::Engine::registerGeneralSpec>},
+    KindOperations{"IntSpec", "norvex.spec:spec.int64-2.0.0", "Could not find integer spec with typeid x.",
+                   Detail::nameBy<&Detail::Engine::getIntSpec>, Detail::typeIdsBy<&Detail::Engine::getAllIntSpecs>,
+                   Detail::addSpec<Parameters::IntSpec, &Detail::Engine::registerIntSpec>},
+    KindOperations{"StringSpec", "norvex.spec:spec.string-2.0.0", "Could not find string spec with typeid x.",
+                   Detail::nameBy<&Detail::Engine::getStringSpec>,
+                   Detail::typeIdsBy<&Detail::Engine::getAllStringSpecs>,
+                   Detail::addSpec<Parameters::StringSpec, &Detail::Engine::registerStringSpec>},
     KindOperations{"Group", "norvex.parameter:group-1.0.0", "Could not find group with typeid x.",
                    Detail::nameBy<&Detail::Engine::getGroup>, Detail::typeIdsBy<&Detail::Engine::getAllGroups>,
                    Detail::addTaxon<&Detail::Engine::registerGroup>},
@@ -78,6 +94,13 @@ inline const std::array everyKind{
                    "Could not find Boolean parameter with typeid x.", Detail::nameBy<&Detail::Engine::getBoolParameter>,
                    Detail::typeIdsBy<&Detail::Engine::getAllBoolParameters>,
                    Detail::addParameter<Parameters::BoolParameter, &Detail::Engine::registerBoolParameter>},
+    KindOperations{"IntParameter", "norvex.parameter:parameter.int64-3.0.0",
+                   "Could not find integer parameter with typeid x.", Detail::nameBy<&Detail::Engine::getIntParameter>,
+                   Detail::typeIdsBy<&Detail::Engine::getAllIntParameters>, Detail::addIntParameter},
+    KindOperations{"StringParameter", "norvex.parameter:parameter.string-3.0.0",
+                   "Could not find string parameter with typeid x.",
+                   Detail::nameBy<&Detail::Engine::getStringParameter>,
+                   Detail::typeIdsBy<&Detail::Engine::getAllStringParameters>, Detail::addStringParameter},
     KindOperations{"Domain", "norvex.talmo.category:domain-1.0.0", "Could not find domain with typeid x.",
                    Detail::nameBy<&Detail::Engine::getDomain>, Detail::typeIdsBy<&Detail::Engine::getAllDomains>,
                    Detail::addTaxon<&Detail::Engine::registerDomain>},

@@ -43,6 +43,22 @@ struct Outputs : testing::Test {
         engine.registerBoolParameter({ParameterCore("parameter", "Rated", Taxon("group", ""), "About", "Yes", true),
                                       BoolSpec(SpecCore("bool spec", ""))});
         engine.registerBoolParameter(BoolParameter(ParameterCore("plain parameter", "Plain", "", "", false)));
+        engine.registerEnumeration({"enumeration", {{"Ash", -1}, {"Oak", 4}}});
+        engine.registerFloatRange({"float range", true, -1e-300, true, 0.5});
+        engine.registerIntRange({"int range", true, -9223372036854775807 - 1, false, 0});
+        engine.registerStringRange({"set range", Parameters::SetStringRangeComponent({"b", "a"})});
+        engine.registerStringRange({"regex range", Parameters::RegexStringRangeComponent("[0-9]+")});
+        engine.registerIntSpec(Parameters::IntSpec(SpecCore("int spec", "Count")));
+        engine.registerStringSpec(Parameters::StringSpec(SpecCore("string spec", "Label", Taxon("discipline", ""))));
+        engine.registerIntParameter({ParameterCore("int parameter", "Leaves", "", "", false),
+                                     Parameters::IntSpec(SpecCore("int spec", "")),
+                                     {"int range", false, 0, false, 0}});
+        engine.registerStringParameter({ParameterCore("string parameter", "Mark", "", "", false),
+                                        Parameters::StringSpec(SpecCore("string spec", "")),
+                                        Parameters::StringRange(Parameters::RegexStringRangeComponent("a*"))});
+        engine.registerEnumerationParameter({ParameterCore("enumeration parameter", "Wood", "", "", false),
+                                             GeneralSpec(SpecCore("general spec", "")),
+                                             {"enumeration", {}}});
         engine.registerSchema(Support::boolSpecText("pending spec", "discipline"));
         engine.registerSchema(Support::groupText("pending group"));
         engine.getUnitsEngine().registerSchema(Support::unitText("unit"));
@@ -59,6 +75,17 @@ TEST_F(Outputs, DependenciesOfASpecAreItsDiscipline) {
 
 TEST_F(Outputs, DependenciesOfAParameterAreItsGroupAndSpec) {
     EXPECT_EQ(engine.getDependencies("parameter"), (TypeIds{"group", "bool spec"}));
+}
+
+TEST_F(Outputs, DependenciesOfARangedParameterAreItsGroupSpecAndNamedRange) {
+    EXPECT_EQ(engine.getDependencies("int parameter"),
+              (TypeIds{"norvex.parameter:group-1.0.0", "int spec", "int range"}));
+    EXPECT_EQ(engine.getDependencies("string parameter"), (TypeIds{"norvex.parameter:group-1.0.0", "string spec"}));
+}
+
+TEST_F(Outputs, DependenciesOfAnEnumerationParameterAreItsGroupSpecAndEnumeration) {
+    EXPECT_EQ(engine.getDependencies("enumeration parameter"),
+              (TypeIds{"norvex.parameter:group-1.0.0", "general spec", "enumeration"}));
 }
 
 TEST_F(Outputs, DependenciesIncludeBuiltInObjects) {
@@ -128,6 +155,10 @@ TEST_P(KindThatNamesNothing, IsNotSearchedForDependencies) {
 TEST_P(KindThatNamesNothing, HasASchemaAllTheSame) { EXPECT_NO_THROW(engine.getSchema(GetParam().typeId)); }
 
 const Unsearched unsearched[] = {
+    {"Enumeration", "enumeration", "Could not find any object with typeid enumeration."},
+    {"FloatRange", "float range", "Could not find any object with typeid float range."},
+    {"IntRange", "int range", "Could not find any object with typeid int range."},
+    {"StringRange", "set range", "Could not find any object with typeid set range."},
     {"Discipline", "discipline", "Could not find any object with typeid discipline."},
     {"Domain", "domain", "Could not find any object with typeid domain."},
     {"Group", "group", "Could not find any object with typeid group."},
@@ -149,8 +180,10 @@ TEST_P(ExportedSchema, IsWrittenFromTheObject) { EXPECT_EQ(engine.getSchema(GetP
 TEST_P(ExportedSchema, MakesTheSameObjectInAnotherEngine) {
     ParametersEngine other;
     std::map<std::string, std::string> batch;
-    for (const char* typeId : {"discipline", "domain", "group", "bool spec", "common spec", "general spec", "parameter",
-                               "plain parameter"}) {
+    for (const char* typeId :
+         {"discipline", "domain", "group", "bool spec", "common spec", "general spec", "parameter", "plain parameter",
+          "enumeration", "float range", "int range", "set range", "regex range", "int spec", "string spec",
+          "int parameter", "string parameter", "enumeration parameter"}) {
         batch.emplace(typeId, engine.getSchema(typeId));
     }
     other.registerSchemas(batch);
@@ -177,6 +210,39 @@ const Export exports[] = {
      R"("constants":[{"id":"name","value":"Rated"},{"id":"description","value":"About"},)"
      R"({"id":"sampleText","value":"Yes"},{"id":"group","typedValue":{"typeid":"group"}},)"
      R"({"id":"readOnly","value":true},{"id":"spec","typedValue":{"typeid":"bool spec"}}]})"},
+    {"Enumeration", "enumeration",
+     R"({"typeid":"enumeration","inherits":["Enum"],"properties":[{"id":"Ash","value":-1},{"id":"Oak","value":4}]})"},
+    {"FloatRange", "float range",
+     R"({"typeid":"float range","inherits":["norvex.range:range.float64.bounded.static-1.0.0"],)"
+     R"("constants":[{"id":"fromBottom","value":true},{"id":"bottomBoundary","value":-1e-300},)"
+     R"({"id":"fromTop","value":true},{"id":"topBoundary","value":0.5}]})"},
+    {"IntRange", "int range",
+     R"({"typeid":"int range","inherits":["norvex.range:range.int64.bounded.static-1.0.0"],)"
+     R"("constants":[{"id":"fromBottom","value":true},{"id":"bottomBoundary","value":-9223372036854775808},)"
+     R"({"id":"fromTop","value":false}]})"},
+    {"SetStringRange", "set range",
+     R"({"typeid":"set range","inherits":["norvex.range:range.string.set.static-1.0.0"],)"
+     R"("constants":[{"id":"allowedValues","value":["b","a"]}]})"},
+    {"RegexStringRange", "regex range",
+     R"({"typeid":"regex range","inherits":["norvex.range:range.string.regex-1.0.0"],)"
+     R"("constants":[{"id":"regex","value":"[0-9]+"}]})"},
+    {"IntSpec", "int spec",
+     R"({"typeid":"int spec","inherits":["norvex.spec:spec.int64-2.0.0"],"constants":[{"id":"name","value":"Count"}]})"},
+    {"StringSpec", "string spec",
+     R"({"typeid":"string spec","inherits":["norvex.spec:spec.string-2.0.0"],)"
+     R"("constants":[{"id":"name","value":"Label"},{"id":"discipline","typedValue":{"typeid":"discipline"}}]})"},
+    {"IntParameter", "int parameter",
+     R"({"typeid":"int parameter","inherits":["norvex.parameter:parameter.int64-3.0.0"],)"
+     R"("constants":[{"id":"name","value":"Leaves"},{"id":"spec","typedValue":{"typeid":"int spec"}},)"
+     R"({"id":"range","typedValue":{"typeid":"int range"}}]})"},
+    {"StringParameter", "string parameter",
+     R"({"typeid":"string parameter","inherits":["norvex.parameter:parameter.string-3.0.0"],)"
+     R"("constants":[{"id":"name","value":"Mark"},{"id":"spec","typedValue":{"typeid":"string spec"}},)"
+     R"({"id":"range","typedValue":{"typeid":"norvex.range:range.string.regex-1.0.0","value":{"regex":"a*"}}}]})"},
+    {"EnumerationParameter", "enumeration parameter",
+     R"({"typeid":"enumeration parameter","inherits":["norvex.parameter:parameter-2.0.0"],)"
+     R"("constants":[{"id":"name","value":"Wood"},{"id":"spec","typedValue":{"typeid":"general spec"}}],)"
+     R"("properties":[{"id":"value","typedValue":{"typeid":"enumeration"}}]})"},
     {"BoolParameterOfDefaults", "plain parameter",
      R"({"typeid":"plain parameter","inherits":["norvex.parameter:parameter.bool-2.0.0"],)"
      R"("constants":[{"id":"name","value":"Plain"}]})"},

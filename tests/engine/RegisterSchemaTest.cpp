@@ -182,6 +182,13 @@ struct TwoBases {
 };
 
 const TwoBases twoBases[] = {
+    {"FloatRangeBeforeIntRange",
+     "norvex.range:range.int64.bounded.static-1. norvex.range:range.float64.bounded.static-1.",
+     [](const ParametersEngine& engine) { engine.getFloatRange("x"); }},
+    {"IntRangeBeforeStringRange", "norvex.range:range.string-1. norvex.range:range.int64.bounded.static-1.",
+     [](const ParametersEngine& engine) { engine.getIntRange("x"); }},
+    {"StringRangeBeforeDiscipline", "norvex.spec:discipline-1. norvex.range:range.string-1.",
+     [](const ParametersEngine& engine) { engine.getStringRange("x"); }},
     {"DisciplineBeforeGroup", "norvex.parameter:group-1. norvex.spec:discipline-1.",
      [](const ParametersEngine& engine) { engine.getDiscipline("x"); }},
     {"GroupBeforeDomain", "norvex.talmo.category:domain-1. norvex.parameter:group-1.",
@@ -190,6 +197,16 @@ const TwoBases twoBases[] = {
      [](const ParametersEngine& engine) { engine.getDomain("x"); }},
     {"BoolSpecBeforeGeneralSpec", "norvex.spec:spec-1. norvex.spec:spec.bool-1.",
      [](const ParametersEngine& engine) { engine.getBoolSpec("x"); }},
+    {"GeneralSpecBeforeIntSpec", "norvex.spec:spec.int64-2. norvex.spec:spec-1.",
+     [](const ParametersEngine& engine) { engine.getGeneralSpec("x"); }},
+    {"IntSpecBeforeStringSpec", "norvex.spec:spec.string-2. norvex.spec:spec.int64-2.",
+     [](const ParametersEngine& engine) { engine.getIntSpec("x"); }},
+    {"StringSpecBeforeEnumerationParameter", "norvex.parameter:parameter-2. norvex.spec:spec.string-2.",
+     [](const ParametersEngine& engine) { engine.getStringSpec("x"); }},
+    {"BoolParameterBeforeIntParameter", "norvex.parameter:parameter.int64-3. norvex.parameter:parameter.bool-2.",
+     [](const ParametersEngine& engine) { engine.getBoolParameter("x"); }},
+    {"IntParameterBeforeStringParameter", "norvex.parameter:parameter.string-3. norvex.parameter:parameter.int64-3.",
+     [](const ParametersEngine& engine) { engine.getIntParameter("x"); }},
     {"GeneralSpecBeforeBoolParameter", "norvex.parameter:parameter.bool-2. norvex.spec:spec-1.",
      [](const ParametersEngine& engine) { engine.getGeneralSpec("x"); }},
 };
@@ -198,7 +215,9 @@ class Offering : public testing::TestWithParam<TwoBases> {};
 
 TEST_P(Offering, GoesToTheFirstKindThatAccepts) {
     ParametersEngine engine;
-    engine.registerSchema(namedText("x", GetParam().base, "Name"));
+    engine.registerSchema(Support::schemaText("x", GetParam().base,
+                                              R"({"id": "name", "value": "Name"}, {"id": "fromBottom", "value": true},
+                                                 {"id": "fromTop", "value": true})"));
     engine.resolveSchemas();
     EXPECT_NO_THROW(GetParam().lookUpX(engine));
 }

@@ -154,6 +154,12 @@ TEST(ResolveSchemas, HandsOutObjectsAsTheyWereBuilt) {
     EXPECT_EQ(engine.getBoolParameter("p").getCore().getGroup().getName(), "Doors");
 }
 
+/// Returns a text with a constant that names "x".
+std::string textNaming(const std::string& typeId, const std::string& base, const std::string& constant) {
+    return Support::schemaText(typeId, base,
+                               R"({"id": "name", "value": "Name"}, )" + Support::typedConstant(constant, "x"));
+}
+
 struct Fault {
     const char* name;
     std::vector<std::string> texts;
@@ -210,6 +216,32 @@ const Fault faults[] = {
      "Dependency y in schema p is missing or does not represent an object of the expected type."},
     {"BoolSpecsBeforeGeneralSpecs",
      {generalSpecText("a", "x"), boolSpecText("b", "x")},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"GeneralSpecsBeforeIntSpecs",
+     {textNaming("a", "norvex.spec:spec.int64-2.0.0", "discipline"), generalSpecText("b", "x")},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"IntSpecsBeforeStringSpecs",
+     {textNaming("a", "norvex.spec:spec.string-2.0.0", "discipline"),
+      textNaming("b", "norvex.spec:spec.int64-2.0.0", "discipline")},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"StringSpecsBeforeEnumerationParameters",
+     {R"({"typeid": "a", "inherits": ["norvex.parameter:parameter-2.0.0"], "constants": [{"id": "name", "value": "N"},
+          {"id": "spec", "typedValue": {"typeid": "x"}}],
+          "properties": [{"id": "value", "typedValue": {"typeid": "x"}}]})",
+      textNaming("b", "norvex.spec:spec.string-2.0.0", "discipline")},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"EnumerationParametersBeforeBoolParameters",
+     {boolParameterText("a", "x", "x"),
+      R"({"typeid": "b", "inherits": ["norvex.parameter:parameter-2.0.0"], "constants": [{"id": "name", "value": "N"},
+          {"id": "spec", "typedValue": {"typeid": "x"}}],
+          "properties": [{"id": "value", "typedValue": {"typeid": "x"}}]})"},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"BoolParametersBeforeIntParameters",
+     {textNaming("a", "norvex.parameter:parameter.int64-3.0.0", "group"), boolParameterText("b", "x", "x")},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"IntParametersBeforeStringParameters",
+     {textNaming("a", "norvex.parameter:parameter.string-3.0.0", "group"),
+      textNaming("b", "norvex.parameter:parameter.int64-3.0.0", "group")},
      "Dependency x in schema b is missing or does not represent an object of the expected type."},
     {"GeneralSpecsBeforeBoolParameters",
      {boolParameterText("a", "x", "x"), generalSpecText("b", "x")},
