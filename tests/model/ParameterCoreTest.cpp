@@ -20,6 +20,7 @@ namespace {
 using Parameters::BoolParameter;
 using Parameters::ParameterCore;
 using Parameters::ParametersEngine;
+using Parameters::ReferenceParameter;
 using Parameters::Taxon;
 using Parameters::ValidationException;
 using Support::awkwardStrings;
@@ -92,9 +93,30 @@ void addBy(ParametersEngine& engine, const ParameterCore& core) {
     (engine.*registrar)(Parameter(core));
 }
 
+template <bool ranged>
+void addReferenceParameter(ParametersEngine& engine, const ParameterCore& core) {
+    engine.registerReferenceParameter(ReferenceParameter(core, ranged));
+}
+
+void addIntParameter(ParametersEngine& engine, const ParameterCore& core) {
+    engine.registerIntParameter({core, {false, 0, false, 0}});
+}
+
+void addStringParameter(ParametersEngine& engine, const ParameterCore& core) {
+    engine.registerStringParameter({core, Parameters::StringRange()});
+}
+
 const ParameterKind parameterKinds[] = {
     {"BoolParameter", "norvex.parameter:parameter.bool-2.0.0", coreBy<&ParametersEngine::getBoolParameter>,
      addBy<BoolParameter, &ParametersEngine::registerBoolParameter>},
+    {"IntParameter", "norvex.parameter:parameter.int64-3.0.0", coreBy<&ParametersEngine::getIntParameter>,
+     addIntParameter},
+    {"StringParameter", "norvex.parameter:parameter.string-3.0.0", coreBy<&ParametersEngine::getStringParameter>,
+     addStringParameter},
+    {"ReferenceParameter", "norvex.parameter:parameter.reference-2.0.0",
+     coreBy<&ParametersEngine::getReferenceParameter>, addReferenceParameter<false>},
+    {"RangedReferenceParameter", "norvex.parameter:parameter.reference.ranged-2.0.0",
+     coreBy<&ParametersEngine::getReferenceParameter>, addReferenceParameter<true>},
 };
 
 const std::string nameOnly = R"({"id": "name", "value": "Gate"})";

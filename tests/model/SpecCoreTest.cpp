@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <ostream>
 #include <string>
 #include <tuple>
@@ -19,8 +20,11 @@ namespace {
 
 using Parameters::BoolSpec;
 using Parameters::GeneralSpec;
+using Parameters::IntSpec;
 using Parameters::ParametersEngine;
+using Parameters::ReferenceSpec;
 using Parameters::SpecCore;
+using Parameters::StringSpec;
 using Parameters::Taxon;
 using Parameters::ValidationException;
 using Support::awkwardStrings;
@@ -80,11 +84,21 @@ void addBy(ParametersEngine& engine, const SpecCore& core) {
     (engine.*registrar)(Spec(core));
 }
 
+void addReferenceSpec(ParametersEngine& engine, const SpecCore& core) {
+    engine.registerReferenceSpec(ReferenceSpec(core, std::nullopt));
+}
+
 const SpecKind specKinds[] = {
     {"BoolSpec", "norvex.spec:spec.bool-1.0.0", coreBy<&ParametersEngine::getBoolSpec>,
      addBy<BoolSpec, &ParametersEngine::registerBoolSpec>},
     {"GeneralSpec", "norvex.spec:spec-1.0.0", coreBy<&ParametersEngine::getGeneralSpec>,
      addBy<GeneralSpec, &ParametersEngine::registerGeneralSpec>},
+    {"IntSpec", "norvex.spec:spec.int64-2.0.0", coreBy<&ParametersEngine::getIntSpec>,
+     addBy<IntSpec, &ParametersEngine::registerIntSpec>},
+    {"StringSpec", "norvex.spec:spec.string-2.0.0", coreBy<&ParametersEngine::getStringSpec>,
+     addBy<StringSpec, &ParametersEngine::registerStringSpec>},
+    {"ReferenceSpec", "norvex.spec:spec.reference-1.0.0", coreBy<&ParametersEngine::getReferenceSpec>,
+     addReferenceSpec},
 };
 
 const std::string nameOnly = R"({"id": "name", "value": "Open"})";

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Messages.h"
+#include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
 
@@ -9,13 +10,23 @@
 
 namespace Support {
 
-/// Returns an engine in which the schemas are registered, one by one in the given order, and resolved.
-inline Parameters::ParametersEngine engineOf(std::initializer_list<std::string> texts) {
-    Parameters::ParametersEngine engine;
+/// Returns the engine, an empty one by default, with the schemas registered one by one in the given order and resolved.
+inline Parameters::ParametersEngine engineOf(std::initializer_list<std::string> texts,
+                                             Parameters::ParametersEngine engine = {}) {
     for (const std::string& text : texts) {
         engine.registerSchema(text);
     }
     engine.resolveSchemas();
+    return engine;
+}
+
+/// Returns an engine in which units of these typeids are registered and resolved.
+inline Parameters::ParametersEngine engineWithUnits(std::initializer_list<std::string> typeIds) {
+    Parameters::ParametersEngine engine;
+    for (const std::string& typeId : typeIds) {
+        engine.getUnitsEngine().registerSchema(unitText(typeId));
+    }
+    engine.getUnitsEngine().resolveSchemas();
     return engine;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 namespace Support {
 
@@ -13,9 +14,12 @@ inline std::string quoted(const std::string& bytes) {
             char escape[8] = {};
             std::snprintf(escape, sizeof escape, "\\u%04X", static_cast<unsigned>(character));
             result += escape;
-        } else {
-            result += character == '"' || character == '\\' ? std::string{'\\', character} : std::string{character};
+            continue;
         }
+        if (character == '"' || character == '\\') {
+            result += '\\';
+        }
+        result += character;
     }
     return result + '"';
 }
@@ -28,6 +32,15 @@ inline std::string constant(const std::string& id, const std::string& json) {
 /// Returns a constant that names an object.
 inline std::string typedConstant(const std::string& id, const std::string& typeId) {
     return R"({"id": )" + quoted(id) + R"(, "typedValue": {"typeid": )" + quoted(typeId) + "}}";
+}
+
+/// Returns a constant that names objects.
+inline std::string typedConstants(const std::string& id, const std::vector<std::string>& typeIds) {
+    std::string typedValues;
+    for (const std::string& typeId : typeIds) {
+        typedValues += (typedValues.empty() ? "" : ", ") + (R"({"typeid": )" + quoted(typeId) + "}");
+    }
+    return R"({"id": )" + quoted(id) + R"(, "typedValue": [)" + typedValues + "]}";
 }
 
 /// Returns a schema text; the constants are JSON, separated by commas.
@@ -74,6 +87,35 @@ inline std::string boolParameterText(const std::string& typeId, const std::strin
     return schemaText(typeId, "norvex.parameter:parameter.bool-2.0.0",
                       constant("name", R"("Name")") + ", " + typedConstant("group", group) + ", " +
                           typedConstant("spec", spec));
+}
+
+/// Returns the text of a major category of a domain, which disciplines use.
+inline std::string majorCategoryText(const std::string& typeId, const std::string& domain,
+                                     const std::vector<std::string>& disciplines = {}) {
+    return schemaText(typeId, "norvex.talmo.category:majorCategory-1.0.0",
+                      constant("name", R"("Name")") + ", " + typedConstant("domain", domain) + ", " +
+                          typedConstants("disciplines", disciplines));
+}
+
+inline std::string subCategoryText(const std::string& typeId, const std::string& parent) {
+    return schemaText(typeId, "norvex.talmo.category:subCategory-1.0.0",
+                      constant("name", R"("Name")") + ", " + typedConstant("parent", parent));
+}
+
+/// Returns the text of a measurable spec with all constants.
+inline std::string measurableSpecText(const std::string& typeId, const std::string& storageUnit,
+                                      const std::vector<std::string>& applicableUnits = {},
+                                      const std::string& discipline = "norvex.spec:discipline-1.0.0") {
+    return schemaText(typeId, "norvex.spec:spec.measurable-2.0.0",
+                      constant("name", R"("Name")") + ", " + typedConstant("discipline", discipline) + ", " +
+                          typedConstants("applicableUnits", applicableUnits) + ", " +
+                          typedConstant("storageUnit", storageUnit));
+}
+
+/// Returns the text of a reference spec that is limited to a category.
+inline std::string referenceSpecText(const std::string& typeId, const std::string& category) {
+    return schemaText(typeId, "norvex.spec:spec.reference-1.0.0",
+                      constant("name", R"("Name")") + ", " + typedConstant("category", category));
 }
 
 } // namespace Support
