@@ -1,0 +1,16 @@
+#pragma once
+
+#include "harness/Benchmark.h"
+
+/// The benchmarks, by the operation that they are about.
+namespace Bench {
+
+Benchmarks ingestBenchmarks();
+Benchmarks peerBenchmarks();
+Benchmarks lookupBenchmarks();
+Benchmarks listBenchmarks();
+Benchmarks writeBenchmarks();
+Benchmarks engineBenchmarks();
+Benchmarks memoryBenchmarks();
+
+} // namespace Bench

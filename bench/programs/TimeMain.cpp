@@ -1,0 +1,8 @@
+#include "programs/Groups.h"
+
+int main(int argc, char** argv) {
+    using namespace Bench;
+    return runBenchmarks({ingestBenchmarks(), peerBenchmarks(), lookupBenchmarks(), listBenchmarks(), writeBenchmarks(),
+                          engineBenchmarks()},
+                         argc, argv);
+}

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace Bench {
+
+/// One ratio: a benchmark beside the floor that it is held to, and how far from it the library may be.
+struct Reach {
+    std::string_view ratio;
+    std::string_view ours;
+    std::string_view floor;
+    std::size_t size;
+    std::size_t floorSize;
+    std::optional<double> atMost; ///< absent where the ratio is only there to compare with
+    std::optional<double> goal;
+};
+
+/// A ratio of two benchmarks on the same catalogue.
+constexpr Reach at(std::size_t size, std::string_view ratio, std::string_view ours, std::string_view floor,
+                   std::optional<double> atMost = {}, std::optional<double> goal = {}) {
+    return {ratio, ours, floor, size, size, atMost, goal};
+}
+
+inline constexpr std::size_t small = 10'000;
+inline constexpr std::size_t middle = 100'000;
+inline constexpr std::size_t large = 1'000'000;
+
+/// Everything that is measured, and what is to be reached. Times and bytes are spread over the items of a benchmark.
+inline constexpr std::array reaches = {
+    at(small, "ingest / RapidJSON DOM parse", "ingest", "rapidjson-dom", 1.9, 1.0),
+    at(middle, "ingest / RapidJSON DOM parse", "ingest", "rapidjson-dom", 2.4, 1.4),
+    at(large, "ingest / RapidJSON DOM parse", "ingest", "rapidjson-dom", 3.2, 2.2),
+    at(small, "batch ingest / RapidJSON DOM parse", "ingest-batch", "rapidjson-dom", 1.9, 1.0),
+    at(middle, "batch ingest / RapidJSON DOM parse", "ingest-batch", "rapidjson-dom"),
+    at(small, "ingest / nlohmann parse", "ingest", "nlohmann-json", 0.53, 0.27),
+    at(small, "ingest / Protocol Buffers from text", "ingest", "protobuf", 0.08, 0.04),
+    at(small, "ingest / Avro C", "ingest", "avro"),
+    at(small, "heap a schema / bytes of its text", "heap-after", "text-bytes", 0.8, 0.5),
+    at(middle, "heap a schema / bytes of its text", "heap-after", "text-bytes", 0.8, 0.5),
+    at(large, "heap a schema / bytes of its text", "heap-after", "text-bytes", 0.8, 0.5),
+    at(small, "getX / unordered_map find", "get", "unordered-map-find", 1.5, 1.1),
+    at(middle, "getX / unordered_map find", "get", "unordered-map-find", 1.5, 1.1),
+    at(small, "isRegistered / unordered_map find", "is-registered", "unordered-map-find", 1.2, 1.0),
+    at(middle, "isRegistered / unordered_map find", "is-registered", "unordered-map-find", 1.2, 1.0),
+    at(small, "getAllX / copying a map", "list", "map-copy", 1.2, 1.0),
+    at(middle, "getAllX / copying a map", "list", "map-copy", 1.2, 1.0),
+    at(small, "getSchema of all / RapidJSON Writer", "write", "rapidjson-writer", 1.6, 0.7),
+    at(middle, "getSchema of all / RapidJSON Writer", "write", "rapidjson-writer", 1.6, 0.7),
+    at(middle, "copying an engine / copying a map", "engine-copy", "map-copy", 0.05),
+    at(middle, "one more schema in a full engine / in an empty one", "add-to-full", "add-to-empty", 2.0, 1.2),
+    at(small, "findUnresolvable / resolveSchemas", "find-unresolvable", "resolve", 1.1, 1.0),
+    at(middle, "findUnresolvable / resolveSchemas", "find-unresolvable", "resolve", 1.1, 1.0),
+    Reach{"growth: ingest of a schema at 1M / at 10k", "ingest", "ingest", large, small, 2.5, 2.0},
+    at(middle, "peak memory during ingest / memory after", "heap-peak", "heap-after"),
+    at(large, "peak memory during ingest / memory after", "heap-peak", "heap-after", 1.5, 1.1),
+
+    // What others cost, to compare with.
+    at(small, "RapidJSON SAX parse / DOM parse", "rapidjson-sax", "rapidjson-dom"),
+    at(middle, "RapidJSON SAX parse / DOM parse", "rapidjson-sax", "rapidjson-dom"),
+    at(large, "RapidJSON SAX parse / DOM parse", "rapidjson-sax", "rapidjson-dom"),
+    at(small, "nlohmann parse / DOM parse", "nlohmann-json", "rapidjson-dom"),
+    at(middle, "nlohmann parse / DOM parse", "nlohmann-json", "rapidjson-dom"),
+    at(large, "nlohmann parse / DOM parse", "nlohmann-json", "rapidjson-dom"),
+    at(small, "Protocol Buffers from text / DOM parse", "protobuf", "rapidjson-dom"),
+    at(middle, "Protocol Buffers from text / DOM parse", "protobuf", "rapidjson-dom"),
+    at(small, "Avro C / DOM parse", "avro", "rapidjson-dom"),
+    at(middle, "Avro C / DOM parse", "avro", "rapidjson-dom"),
+    at(large, "Avro C / DOM parse", "avro", "rapidjson-dom"),
+    at(small, "find and copy of the handle / find", "unordered-map-find-and-copy", "unordered-map-find"),
+    at(middle, "find and copy of the handle / find", "unordered-map-find-and-copy", "unordered-map-find"),
+    at(middle, "first getAllX after loading / copying a map", "first-list", "map-copy"),
+};
+
+/// The ratios that are held to something in instructions, too; the others of that table are only shown.
+inline constexpr std::array instructionReaches = {
+    at(small, "ingest / RapidJSON DOM parse", "ingest", "rapidjson-dom", 1.7, 0.85),
+};
+
+} // namespace Bench
