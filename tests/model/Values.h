@@ -108,7 +108,7 @@ struct Sample<Parameters::ReferenceParameter> {
 template <class Range>
 struct NumericRangeSample {
     static Range make(const std::string& typeId, const std::string& content) {
-        return {typeId, true, std::stoi(content), false, 0};
+        return Range(typeId, true, std::stoi(content), false, 0);
     }
     static std::string contentOf(const Range& range) {
         return std::to_string(static_cast<int>(range.getBottomBoundary()));
