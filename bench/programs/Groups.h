@@ -6,7 +6,8 @@
 namespace Bench {
 
 Benchmarks ingestBenchmarks();
-Benchmarks peerBenchmarks();
+Benchmarks linkerBenchmarks();
+Benchmarks parserBenchmarks();
 Benchmarks lookupBenchmarks();
 Benchmarks listBenchmarks();
 Benchmarks writeBenchmarks();

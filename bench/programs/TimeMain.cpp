@@ -2,7 +2,7 @@
 
 int main(int argc, char** argv) {
     using namespace Bench;
-    return runBenchmarks({ingestBenchmarks(), peerBenchmarks(), lookupBenchmarks(), listBenchmarks(), writeBenchmarks(),
-                          engineBenchmarks()},
+    return runBenchmarks({ingestBenchmarks(), parserBenchmarks(), linkerBenchmarks(), lookupBenchmarks(),
+                          listBenchmarks(), writeBenchmarks(), engineBenchmarks()},
                          argc, argv);
 }

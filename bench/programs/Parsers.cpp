@@ -43,7 +43,7 @@ void nlohmannJSON(const Catalogue& catalogue, Measurement& measurement) {
 
 } // namespace
 
-Benchmarks peerBenchmarks() {
+Benchmarks parserBenchmarks() {
     return {{"rapidjson-dom", rapidjsonDOM}, {"rapidjson-sax", rapidjsonSAX}, {"nlohmann-json", nlohmannJSON}};
 }
 
