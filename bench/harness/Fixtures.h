@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <map>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 /// What benchmarks work on. All of it is made once for each catalogue and kept.
@@ -14,9 +15,10 @@ namespace Bench {
 
 const Catalogue& catalogueOf(std::size_t size);
 
-/// Returns what a function makes of a catalogue; it is called once for each catalogue.
+/// Returns what a lambda makes of a catalogue; it is called once for each catalogue.
 template <class Make>
 const auto& once(const Catalogue& catalogue, Make make) {
+    static_assert(std::is_class_v<Make>, "Two functions of one type would share what is kept.");
     static std::map<const Catalogue*, decltype(make(catalogue))> made;
     auto found = made.find(&catalogue);
     if (found == made.end()) {

@@ -61,7 +61,7 @@ private:
 };
 
 void protocolBuffers(const Catalogue& catalogue, Measurement& measurement) {
-    const auto& texts = once(catalogue, protoFiles);
+    const auto& texts = once(catalogue, [](const Catalogue& schemas) { return protoFiles(schemas); });
     google::protobuf::DescriptorPool pool;
     Linker linker(pool);
     measurement.time([&] {
@@ -97,7 +97,7 @@ private:
 };
 
 void avro(const Catalogue& catalogue, Measurement& measurement) {
-    const auto& texts = once(catalogue, avroSchemas);
+    const auto& texts = once(catalogue, [](const Catalogue& schemas) { return avroSchemas(schemas); });
     AvroSchemas schemas;
     measurement.time([&] {
         for (const std::string& text : texts) {
