@@ -3,6 +3,7 @@
 #include <parameters/ParametersEngine.h>
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -61,6 +62,14 @@ inline void addIntParameter(Engine& engine, const std::string& typeId, const std
     engine.registerIntParameter({Parameters::ParameterCore(typeId, name, "", "", false), {true, 1, true, 2}});
 }
 
+inline void addReferenceSpec(Engine& engine, const std::string& typeId, const std::string& name) {
+    engine.registerReferenceSpec({Parameters::SpecCore(typeId, name), std::nullopt});
+}
+
+inline void addReferenceParameter(Engine& engine, const std::string& typeId, const std::string& name) {
+    engine.registerReferenceParameter({Parameters::ParameterCore(typeId, name, "", "", false), true});
+}
+
 inline void addStringParameter(Engine& engine, const std::string& typeId, const std::string& name) {
     engine.registerStringParameter({Parameters::ParameterCore(typeId, name, "", "", false), Parameters::StringRange()});
 }
@@ -83,6 +92,9 @@ inline const std::array everyKind{
     KindOperations{"IntSpec", "norvex.spec:spec.int64-2.0.0", "Could not find integer spec with typeid x.",
                    Detail::nameBy<&Detail::Engine::getIntSpec>, Detail::typeIdsBy<&Detail::Engine::getAllIntSpecs>,
                    Detail::addSpec<Parameters::IntSpec, &Detail::Engine::registerIntSpec>},
+    KindOperations{"ReferenceSpec", "norvex.spec:spec.reference-1.0.0", "Could not find reference spec with typeid x.",
+                   Detail::nameBy<&Detail::Engine::getReferenceSpec>,
+                   Detail::typeIdsBy<&Detail::Engine::getAllReferenceSpecs>, Detail::addReferenceSpec},
     KindOperations{"StringSpec", "norvex.spec:spec.string-2.0.0", "Could not find string spec with typeid x.",
                    Detail::nameBy<&Detail::Engine::getStringSpec>,
                    Detail::typeIdsBy<&Detail::Engine::getAllStringSpecs>,
@@ -97,6 +109,10 @@ inline const std::array everyKind{
     KindOperations{"IntParameter", "norvex.parameter:parameter.int64-3.0.0",
                    "Could not find integer parameter with typeid x.", Detail::nameBy<&Detail::Engine::getIntParameter>,
                    Detail::typeIdsBy<&Detail::Engine::getAllIntParameters>, Detail::addIntParameter},
+    KindOperations{"ReferenceParameter", "norvex.parameter:parameter.reference.ranged-2.0.0",
+                   "Could not find reference parameter with typeid x.",
+                   Detail::nameBy<&Detail::Engine::getReferenceParameter>,
+                   Detail::typeIdsBy<&Detail::Engine::getAllReferenceParameters>, Detail::addReferenceParameter},
     KindOperations{"StringParameter", "norvex.parameter:parameter.string-3.0.0",
                    "Could not find string parameter with typeid x.",
                    Detail::nameBy<&Detail::Engine::getStringParameter>,

@@ -24,8 +24,7 @@ using Parameters::Taxon;
 using Parameters::UnrecognizedIdentifierException;
 using Support::messageOf;
 
-class LookupOfEachKind : public testing::TestWithParam<KindOperations> {
-protected:
+struct LookupOfEachKind : testing::TestWithParam<KindOperations> {
     std::string messageOfLookingUpX() const {
         return messageOf<UnrecognizedIdentifierException>([&] { GetParam().nameOf(engine, "x"); });
     }
@@ -179,14 +178,16 @@ const BuiltIn builtIns[] = {
     {"IntSpec", "IntSpec", "norvex.spec:spec.int64-2.0.0", "Integer"},
     {"IntSpecOfOtherVersion", "IntSpec", "norvex.spec:spec.int64-2.4.0", "Integer"},
     {"IntSpecPrefix", "IntSpec", "norvex.spec:spec.int64-2.", "Integer"},
+    {"ReferenceSpec", "ReferenceSpec", "norvex.spec:spec.reference-1.0.0", "Reference"},
+    {"ReferenceSpecOfOtherVersion", "ReferenceSpec", "our norvex.spec:spec.reference-1.4.0", "Reference"},
+    {"ReferenceSpecPrefix", "ReferenceSpec", "norvex.spec:spec.reference-1.", "Reference"},
     {"StringSpec", "StringSpec", "norvex.spec:spec.string-2.0.0", "Text"},
     {"StringSpecOfOtherVersion", "StringSpec", "our norvex.spec:spec.string-2.4.0", "Text"},
     {"StringSpecPrefix", "StringSpec", "norvex.spec:spec.string-2.", "Text"},
     {"BoolSpecInALongerText", "BoolSpec", "our\0norvex.spec:spec.bool-1.0.0\0own"s, "Yes/No"},
 };
 
-class BuiltInObject : public testing::TestWithParam<BuiltIn> {
-protected:
+struct BuiltInObject : testing::TestWithParam<BuiltIn> {
     static const KindOperations& kind() {
         return *std::find_if(everyKind.begin(), everyKind.end(),
                              [](const KindOperations& row) { return row.name == std::string(GetParam().kind); });
@@ -251,6 +252,23 @@ const NotBuiltIn notBuiltIn[] = {
     {"StringSpecOfAnotherMajorVersion",
      [](const ParametersEngine& e) { e.getStringSpec("norvex.spec:spec.string-1.0.0"); },
      "Could not find string spec with typeid norvex.spec:spec.string-1.0.0."},
+    {"ReferenceSpecOfAnotherMajorVersion",
+     [](const ParametersEngine& e) { e.getReferenceSpec("norvex.spec:spec.reference-2.0.0"); },
+     "Could not find reference spec with typeid norvex.spec:spec.reference-2.0.0."},
+    {"FamilyType", [](const ParametersEngine& e) { e.getReferenceSpec("norvex.talmo.spec:familyType-1.0.0"); },
+     "Could not find reference spec with typeid norvex.talmo.spec:familyType-1.0.0."},
+    {"MeasurableSpec", [](const ParametersEngine& e) { e.getMeasurableSpec("norvex.spec:spec.measurable-2.0.0"); },
+     "Could not find measurable spec with typeid norvex.spec:spec.measurable-2.0.0."},
+    {"MeasurableParameter",
+     [](const ParametersEngine& e) { e.getMeasurableParameter("norvex.parameter:parameter.measurable-3.0.0"); },
+     "Could not find measurable parameter with typeid norvex.parameter:parameter.measurable-3.0.0."},
+    {"ReferenceParameter",
+     [](const ParametersEngine& e) { e.getReferenceParameter("norvex.parameter:parameter.reference-2.0.0"); },
+     "Could not find reference parameter with typeid norvex.parameter:parameter.reference-2.0.0."},
+    {"MajorCategory", [](const ParametersEngine& e) { e.getCategory("norvex.talmo.category:majorCategory-1.0.0"); },
+     "Could not find category with typeid norvex.talmo.category:majorCategory-1.0.0."},
+    {"Unit", [](const ParametersEngine& e) { e.getMeasurableSpec("norvex.unit:unit-1.0.0"); },
+     "Could not find measurable spec with typeid norvex.unit:unit-1.0.0."},
     {"IntRange", [](const ParametersEngine& e) { e.getIntRange("norvex.range:range.int64.bounded.static-1.0.0"); },
      "Could not find integer range with typeid norvex.range:range.int64.bounded.static-1.0.0."},
     {"FloatRange",

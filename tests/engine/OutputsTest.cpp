@@ -59,10 +59,27 @@ struct Outputs : testing::Test {
         engine.registerEnumerationParameter({ParameterCore("enumeration parameter", "Wood", "", "", false),
                                              GeneralSpec(SpecCore("general spec", "")),
                                              {"enumeration", {}}});
+        registerCategoriesAndMeasurables();
         engine.registerSchema(Support::boolSpecText("pending spec", "discipline"));
         engine.registerSchema(Support::groupText("pending group"));
+    }
+
+    void registerCategoriesAndMeasurables() {
         engine.getUnitsEngine().registerSchema(Support::unitText("unit"));
         engine.getUnitsEngine().resolveSchemas();
+        const Units::Unit unit = engine.getUnitsEngine().getUnit("unit");
+        engine.registerCategory(
+            {"major", "Berths", Parameters::MajorCategoryComponent(Taxon("domain", ""), {Taxon("discipline", "")})});
+        engine.registerCategory({"sub", "Dry Docks", Parameters::SubCategoryComponent("major")});
+        engine.registerMeasurableSpec({SpecCore("measurable spec", "Draught"), {unit, unit}, unit});
+        engine.registerReferenceSpec({SpecCore("reference spec", "Berth"), engine.getCategory("major")});
+        engine.registerMeasurableParameter({ParameterCore("measurable parameter", "Depth", "", "", false),
+                                            engine.getMeasurableSpec("measurable spec"),
+                                            {"float range", false, 0, false, 0}});
+        engine.registerReferenceParameter({ParameterCore("reference parameter", "Home Berth", "", "", false),
+                                           engine.getReferenceSpec("reference spec"), true});
+        engine.registerReferenceParameter(
+            {ParameterCore("family parameter", "Dock Type", "", "", false), engine.getCategory("sub"), false});
     }
 
     ParametersEngine engine;
@@ -86,6 +103,21 @@ TEST_F(Outputs, DependenciesOfARangedParameterAreItsGroupSpecAndNamedRange) {
 TEST_F(Outputs, DependenciesOfAnEnumerationParameterAreItsGroupSpecAndEnumeration) {
     EXPECT_EQ(engine.getDependencies("enumeration parameter"),
               (TypeIds{"norvex.parameter:group-1.0.0", "general spec", "enumeration"}));
+}
+
+TEST_F(Outputs, DependenciesOfACategoryAreItsDomainAndDisciplinesOrItsParent) {
+    EXPECT_EQ(engine.getDependencies("major"), (TypeIds{"domain", "discipline"}));
+    EXPECT_EQ(engine.getDependencies("sub"), TypeIds{"major"});
+}
+
+TEST_F(Outputs, DependenciesOfASpecAreWhatItNamesBesideItsDiscipline) {
+    EXPECT_EQ(engine.getDependencies("measurable spec"), (TypeIds{"norvex.spec:discipline-1.0.0", "unit"}));
+    EXPECT_EQ(engine.getDependencies("reference spec"), (TypeIds{"norvex.spec:discipline-1.0.0", "major"}));
+}
+
+TEST_F(Outputs, DependenciesOfAFamilyTypeParameterIncludeItsCategory) {
+    EXPECT_EQ(engine.getDependencies("family parameter"),
+              (TypeIds{"norvex.parameter:group-1.0.0", "norvex.talmo.spec:familyType-1.0.0", "sub"}));
 }
 
 TEST_F(Outputs, DependenciesIncludeBuiltInObjects) {
@@ -180,12 +212,34 @@ TEST_P(ExportedSchema, IsWrittenFromTheObject) { EXPECT_EQ(engine.getSchema(GetP
 TEST_P(ExportedSchema, MakesTheSameObjectInAnotherEngine) {
     ParametersEngine other;
     std::map<std::string, std::string> batch;
-    for (const char* typeId :
-         {"discipline", "domain", "group", "bool spec", "common spec", "general spec", "parameter", "plain parameter",
-          "enumeration", "float range", "int range", "set range", "regex range", "int spec", "string spec",
-          "int parameter", "string parameter", "enumeration parameter"}) {
+    for (const char* typeId : {"discipline",
+                               "domain",
+                               "group",
+                               "bool spec",
+                               "common spec",
+                               "general spec",
+                               "parameter",
+                               "plain parameter",
+                               "enumeration",
+                               "float range",
+                               "int range",
+                               "set range",
+                               "regex range",
+                               "int spec",
+                               "string spec",
+                               "int parameter",
+                               "string parameter",
+                               "enumeration parameter",
+                               "major",
+                               "sub",
+                               "measurable spec",
+                               "reference spec",
+                               "measurable parameter",
+                               "reference parameter",
+                               "family parameter"}) {
         batch.emplace(typeId, engine.getSchema(typeId));
     }
+    batch.emplace("unit", Support::unitText("unit"));
     other.registerSchemas(batch);
     EXPECT_EQ(other.getSchema(GetParam().typeId), GetParam().text);
 }
@@ -243,6 +297,32 @@ const Export exports[] = {
      R"({"typeid":"enumeration parameter","inherits":["norvex.parameter:parameter-2.0.0"],)"
      R"("constants":[{"id":"name","value":"Wood"},{"id":"spec","typedValue":{"typeid":"general spec"}}],)"
      R"("properties":[{"id":"value","typedValue":{"typeid":"enumeration"}}]})"},
+    {"MajorCategory", "major",
+     R"({"typeid":"major","inherits":["norvex.talmo.category:majorCategory-1.0.0"],)"
+     R"("constants":[{"id":"name","value":"Berths"},{"id":"domain","typedValue":{"typeid":"domain"}},)"
+     R"({"id":"disciplines","typedValue":[{"typeid":"discipline"}]}]})"},
+    {"SubCategory", "sub",
+     R"({"typeid":"sub","inherits":["norvex.talmo.category:subCategory-1.0.0"],)"
+     R"("constants":[{"id":"name","value":"Dry Docks"},{"id":"parent","typedValue":{"typeid":"major"}}]})"},
+    {"MeasurableSpec", "measurable spec",
+     R"({"typeid":"measurable spec","inherits":["norvex.spec:spec.measurable-2.0.0"],)"
+     R"("constants":[{"id":"name","value":"Draught"},)"
+     R"({"id":"applicableUnits","typedValue":[{"typeid":"unit"},{"typeid":"unit"}]},)"
+     R"({"id":"storageUnit","typedValue":{"typeid":"unit"}}]})"},
+    {"ReferenceSpec", "reference spec",
+     R"({"typeid":"reference spec","inherits":["norvex.spec:spec.reference-1.0.0"],)"
+     R"("constants":[{"id":"name","value":"Berth"},{"id":"category","typedValue":{"typeid":"major"}}]})"},
+    {"MeasurableParameter", "measurable parameter",
+     R"({"typeid":"measurable parameter","inherits":["norvex.parameter:parameter.measurable-3.0.0"],)"
+     R"("constants":[{"id":"name","value":"Depth"},{"id":"spec","typedValue":{"typeid":"measurable spec"}},)"
+     R"({"id":"range","typedValue":{"typeid":"float range"}}]})"},
+    {"ReferenceParameter", "reference parameter",
+     R"({"typeid":"reference parameter","inherits":["norvex.parameter:parameter.reference.ranged-2.0.0"],)"
+     R"("constants":[{"id":"name","value":"Home Berth"},{"id":"spec","typedValue":{"typeid":"reference spec"}}]})"},
+    {"FamilyTypeParameter", "family parameter",
+     R"({"typeid":"family parameter","inherits":["norvex.parameter:parameter.reference-2.0.0"],)"
+     R"("constants":[{"id":"name","value":"Dock Type"},{"id":"spec","typedValue":{"typeid":)"
+     R"("norvex.talmo.spec:familyType-1.0.0","typedValue":{"category":{"typeid":"sub"}}}}]})"},
     {"BoolParameterOfDefaults", "plain parameter",
      R"({"typeid":"plain parameter","inherits":["norvex.parameter:parameter.bool-2.0.0"],)"
      R"("constants":[{"id":"name","value":"Plain"}]})"},

@@ -12,7 +12,6 @@ namespace {
 
 using Parameters::BoolParameter;
 using Parameters::BoolSpec;
-using Parameters::ParameterCore;
 using Parameters::ParametersEngine;
 using Parameters::SpecCore;
 using Parameters::Taxon;
@@ -147,6 +146,11 @@ TEST(ValueTypes, HaveTheirNumbers) {
     EXPECT_EQ(static_cast<int>(Parameters::String), 5);
 }
 
+/// Returns the text of a parameter "p" of a base, which names the spec "x".
+std::string namingSpec(const std::string& base) {
+    return schemaText("p", base, R"({"id": "name", "value": "Name"}, )" + Support::typedConstant("spec", "x"));
+}
+
 struct Typed {
     const char* name;
     std::string text;
@@ -165,6 +169,25 @@ const Typed typed[] = {
     {"OtherMajorVersion", Support::namedText("p", "norvex.parameter:parameter.bool-1.0.0", "Name"), Parameters::None},
     {"EnumerationParameter", Support::namedText("p", "norvex.parameter:parameter-2.0.0", "Name"), Parameters::None},
     {"IntParameter", Support::namedText("p", "norvex.parameter:parameter.int64-3.0.0", "Name"), Parameters::Int},
+    {"MeasurableParameter", namingSpec("norvex.parameter:parameter.measurable-3.0.0"), Parameters::Measurable},
+    {"MeasurableParameterWithoutItsSpec",
+     Support::namedText("p", "norvex.parameter:parameter.measurable-3.0.0", "Name"), Parameters::None},
+    {"ReferenceParameter", Support::namedText("p", "norvex.parameter:parameter.reference-2.0.0", "Name"),
+     Parameters::Reference},
+    {"RangedReferenceParameter", Support::namedText("p", "norvex.parameter:parameter.reference.ranged-2.6.0", "Name"),
+     Parameters::Reference},
+    {"IntBeforeMeasurable", namingSpec("norvex.parameter:parameter.measurable-3. norvex.parameter:parameter.int64-3."),
+     Parameters::Int},
+    {"MeasurableBeforeReference",
+     namingSpec("norvex.parameter:parameter.reference-2. norvex.parameter:parameter.measurable-3."),
+     Parameters::Measurable},
+    {"FaultyMeasurableBeforeReference",
+     Support::namedText("p", "norvex.parameter:parameter.reference-2. norvex.parameter:parameter.measurable-3.",
+                        "Name"),
+     Parameters::None},
+    {"ReferenceBeforeString",
+     namingSpec("norvex.parameter:parameter.string-3. norvex.parameter:parameter.reference.ranged-2."),
+     Parameters::Reference},
     {"StringParameter", Support::namedText("p", "norvex.parameter:parameter.string-3.7.0", "Name"), Parameters::String},
     {"BoolBeforeInt",
      Support::namedText("p", "norvex.parameter:parameter.int64-3. norvex.parameter:parameter.bool-2.", "Name"),

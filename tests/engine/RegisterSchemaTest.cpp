@@ -104,8 +104,7 @@ TEST(MissingTypeIds, AreThoseOfOtherMajorVersions) {
               Missing({"norvex.spec:discipline-2.0.0"}, {}));
 }
 
-class RegisterSchemaOfEachKind : public testing::TestWithParam<KindOperations> {
-protected:
+struct RegisterSchemaOfEachKind : testing::TestWithParam<KindOperations> {
     ParametersEngine engine;
 };
 
@@ -199,12 +198,26 @@ const TwoBases twoBases[] = {
      [](const ParametersEngine& engine) { engine.getBoolSpec("x"); }},
     {"GeneralSpecBeforeIntSpec", "norvex.spec:spec.int64-2. norvex.spec:spec-1.",
      [](const ParametersEngine& engine) { engine.getGeneralSpec("x"); }},
+    {"IntSpecBeforeMeasurableSpec", "norvex.spec:spec.measurable-2. norvex.spec:spec.int64-2.",
+     [](const ParametersEngine& engine) { engine.getIntSpec("x"); }},
+    {"MeasurableSpecBeforeReferenceSpec", "norvex.spec:spec.reference-1. norvex.spec:spec.measurable-2.",
+     [](const ParametersEngine& engine) { engine.getMeasurableSpec("x"); }},
+    {"ReferenceSpecBeforeStringSpec", "norvex.spec:spec.string-2. norvex.spec:spec.reference-1.",
+     [](const ParametersEngine& engine) { engine.getReferenceSpec("x"); }},
     {"IntSpecBeforeStringSpec", "norvex.spec:spec.string-2. norvex.spec:spec.int64-2.",
      [](const ParametersEngine& engine) { engine.getIntSpec("x"); }},
     {"StringSpecBeforeEnumerationParameter", "norvex.parameter:parameter-2. norvex.spec:spec.string-2.",
      [](const ParametersEngine& engine) { engine.getStringSpec("x"); }},
     {"BoolParameterBeforeIntParameter", "norvex.parameter:parameter.int64-3. norvex.parameter:parameter.bool-2.",
      [](const ParametersEngine& engine) { engine.getBoolParameter("x"); }},
+    {"IntParameterBeforeMeasurableParameter",
+     "norvex.parameter:parameter.measurable-3. norvex.parameter:parameter.int64-3.",
+     [](const ParametersEngine& engine) { engine.getIntParameter("x"); }},
+    {"ReferenceParameterBeforeStringParameter",
+     "norvex.parameter:parameter.string-3. norvex.parameter:parameter.reference-2.",
+     [](const ParametersEngine& engine) { engine.getReferenceParameter("x"); }},
+    {"StringParameterBeforeCategory", "norvex.talmo.category:majorCategory-1. norvex.parameter:parameter.string-3.",
+     [](const ParametersEngine& engine) { engine.getStringParameter("x"); }},
     {"IntParameterBeforeStringParameter", "norvex.parameter:parameter.string-3. norvex.parameter:parameter.int64-3.",
      [](const ParametersEngine& engine) { engine.getIntParameter("x"); }},
     {"GeneralSpecBeforeBoolParameter", "norvex.parameter:parameter.bool-2. norvex.spec:spec-1.",
@@ -215,15 +228,26 @@ class Offering : public testing::TestWithParam<TwoBases> {};
 
 TEST_P(Offering, GoesToTheFirstKindThatAccepts) {
     ParametersEngine engine;
+    engine.getUnitsEngine().registerSchema(Support::unitText("u"));
     engine.registerSchema(Support::schemaText("x", GetParam().base,
                                               R"({"id": "name", "value": "Name"}, {"id": "fromBottom", "value": true},
-                                                 {"id": "fromTop", "value": true})"));
+                                                 {"id": "fromTop", "value": true},
+                                                 {"id": "storageUnit", "typedValue": {"typeid": "u"}})"));
     engine.resolveSchemas();
     EXPECT_NO_THROW(GetParam().lookUpX(engine));
 }
 
 INSTANTIATE_TEST_SUITE_P(RegisterSchema, Offering, testing::ValuesIn(twoBases),
                          [](const auto& test) { return std::string(test.param.name); });
+
+TEST(RegisterSchema, OffersToMeasurableParametersBeforeReferenceParameters) {
+    // A measurable parameter must name its spec, a reference parameter need not.
+    EXPECT_EQ(messageOf<ValidationException>([] {
+                  ParametersEngine().registerSchema(namedText(
+                      "x", "norvex.parameter:parameter.reference-2. norvex.parameter:parameter.measurable-3.", "Name"));
+              }),
+              "Schema x has an undefined spec constant.");
+}
 
 TEST(RegisterSchema, EndsWithTheFirstKindThatRecognizesTheBase) {
     ParametersEngine engine;

@@ -220,6 +220,18 @@ const Fault faults[] = {
     {"GeneralSpecsBeforeIntSpecs",
      {textNaming("a", "norvex.spec:spec.int64-2.0.0", "discipline"), generalSpecText("b", "x")},
      "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"CategoriesBeforeBoolSpecs",
+     {boolSpecText("a", "x"), Support::subCategoryText("b", "x")},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"IntSpecsBeforeMeasurableSpecs",
+     {Support::measurableSpecText("a", "x"), textNaming("b", "norvex.spec:spec.int64-2.0.0", "discipline")},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"MeasurableSpecsBeforeReferenceSpecs",
+     {Support::referenceSpecText("a", "x"), Support::measurableSpecText("b", "x")},
+     "Typeid x for storageUnit constant in measurable spec schema b does not belong to a unit."},
+    {"ReferenceSpecsBeforeStringSpecs",
+     {textNaming("a", "norvex.spec:spec.string-2.0.0", "discipline"), Support::referenceSpecText("b", "x")},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
     {"IntSpecsBeforeStringSpecs",
      {textNaming("a", "norvex.spec:spec.string-2.0.0", "discipline"),
       textNaming("b", "norvex.spec:spec.int64-2.0.0", "discipline")},
@@ -238,6 +250,18 @@ const Fault faults[] = {
      "Dependency x in schema b is missing or does not represent an object of the expected type."},
     {"BoolParametersBeforeIntParameters",
      {textNaming("a", "norvex.parameter:parameter.int64-3.0.0", "group"), boolParameterText("b", "x", "x")},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"IntParametersBeforeMeasurableParameters",
+     {textNaming("a", "norvex.parameter:parameter.measurable-3.0.0", "spec"),
+      textNaming("b", "norvex.parameter:parameter.int64-3.0.0", "group")},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"MeasurableParametersBeforeReferenceParameters",
+     {textNaming("a", "norvex.parameter:parameter.reference-2.0.0", "spec"),
+      textNaming("b", "norvex.parameter:parameter.measurable-3.0.0", "spec")},
+     "Dependency x in schema b is missing or does not represent an object of the expected type."},
+    {"ReferenceParametersBeforeStringParameters",
+     {textNaming("a", "norvex.parameter:parameter.string-3.0.0", "group"),
+      textNaming("b", "norvex.parameter:parameter.reference.ranged-2.0.0", "spec")},
      "Dependency x in schema b is missing or does not represent an object of the expected type."},
     {"IntParametersBeforeStringParameters",
      {textNaming("a", "norvex.parameter:parameter.string-3.0.0", "group"),
@@ -260,8 +284,7 @@ const Fault faults[] = {
      "Dependency x in schema b is missing or does not represent an object of the expected type."},
 };
 
-class FaultyResolution : public testing::TestWithParam<Fault> {
-protected:
+struct FaultyResolution : testing::TestWithParam<Fault> {
     FaultyResolution() { registerAll(engine, GetParam().texts); }
 
     ParametersEngine engine;

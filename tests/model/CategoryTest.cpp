@@ -164,6 +164,11 @@ TEST(Category, IsReadFromOtherMinorVersionsOfItsBases) {
     }
 }
 
+TEST(Category, IsReadAsAMajorOneFromBothBases) {
+    EXPECT_EQ(refusalOf(schemaText("c", subBase + " " + majorBase, nameOnly + ", " + parent)),
+              "Schema c has an undefined domain constant.");
+}
+
 TEST(Category, IsNotReadFromOtherBases) {
     for (const char* base :
          {"norvex.talmo.category:majorCategory-2.0.0", "norvex.talmo.category:majorCategory-10.0.0",

@@ -1,0 +1,178 @@
+#include "support/Catalogue.h"
+
+#include <parameters/ParametersEngine.h>
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstdlib>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+// What holds for whole catalogues: the one of the examples and, where OSTRA_CATALOGUE names a folder, a large one.
+
+namespace {
+
+using Parameters::ParametersEngine;
+using Support::baseOf;
+using Support::countByKind;
+using Support::textsIn;
+
+/// Texts by their typeids or, when they are still to be read, by any keys.
+using Texts = std::map<std::string, std::string>;
+
+struct CatalogueFolder {
+    const char* name;
+    const char* path; // null where there is none
+};
+
+template <class Visitor>
+void forEachStore(ParametersEngine& engine, Visitor&& visit) {
+    visit("units", engine.getUnitsEngine().getAllUnits());
+    visit("enumerations", engine.getAllEnumerations());
+    visit("floating-point ranges", engine.getAllFloatRanges());
+    visit("integer ranges", engine.getAllIntRanges());
+    visit("string ranges", engine.getAllStringRanges());
+    visit("disciplines", engine.getAllDisciplines());
+    visit("Boolean specs", engine.getAllBoolSpecs());
+    visit("general specs", engine.getAllGeneralSpecs());
+    visit("integer specs", engine.getAllIntSpecs());
+    visit("measurable specs", engine.getAllMeasurableSpecs());
+    visit("reference specs", engine.getAllReferenceSpecs());
+    visit("string specs", engine.getAllStringSpecs());
+    visit("groups", engine.getAllGroups());
+    visit("enumeration parameters", engine.getAllEnumerationParameters());
+    visit("Boolean parameters", engine.getAllBoolParameters());
+    visit("integer parameters", engine.getAllIntParameters());
+    visit("measurable parameters", engine.getAllMeasurableParameters());
+    visit("reference parameters", engine.getAllReferenceParameters());
+    visit("string parameters", engine.getAllStringParameters());
+    visit("domains", engine.getAllDomains());
+    visit("categories", engine.getAllCategories());
+}
+
+std::map<std::string, std::size_t> countObjects(ParametersEngine& engine) {
+    std::map<std::string, std::size_t> counts;
+    forEachStore(engine, [&counts](const char* kind, const auto& objects) { counts[kind] = objects.size(); });
+    return counts;
+}
+
+/// Returns the typeids of all objects but units.
+std::set<std::string> typeIdsIn(ParametersEngine& engine) {
+    std::set<std::string> typeIds;
+    forEachStore(engine, [&typeIds](const std::string& kind, const auto& objects) {
+        for (const auto& [typeId, object] : objects) {
+            if (kind != "units") {
+                typeIds.insert(typeId);
+            }
+        }
+    });
+    return typeIds;
+}
+
+Texts exportsOf(ParametersEngine& engine) {
+    Texts exports;
+    for (const std::string& typeId : typeIdsIn(engine)) {
+        exports.emplace(typeId, engine.getSchema(typeId));
+    }
+    return exports;
+}
+
+bool isUnit(const std::string& text) { return baseOf(text).find("norvex.unit:unit-1.") != std::string::npos; }
+
+class Catalogue : public testing::TestWithParam<CatalogueFolder> {
+protected:
+    void SetUp() override {
+        if (GetParam().path == nullptr) {
+            GTEST_SKIP() << "OSTRA_CATALOGUE names no folder.";
+        }
+        texts = textsIn(GetParam().path);
+        ASSERT_FALSE(texts.empty()) << "no schema text in " << GetParam().path;
+    }
+
+    /// Registers all texts in one call, under keys that say nothing of their typeids.
+    void load() {
+        Texts batch;
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            batch.emplace("text " + std::to_string(i), texts[i]);
+        }
+        engine.registerSchemas(batch);
+    }
+
+    std::vector<std::string> texts;
+    ParametersEngine engine;
+};
+
+TEST_P(Catalogue, MakesAnObjectOfEachText) {
+    load();
+    const auto counts = countObjects(engine);
+    EXPECT_EQ(counts, countByKind(texts));
+    std::size_t total = 0;
+    for (const auto& [kind, count] : counts) {
+        total += count;
+    }
+    EXPECT_EQ(total, texts.size());
+}
+
+TEST_P(Catalogue, ShowsEveryKind) {
+    for (const auto& [kind, count] : countByKind(texts)) {
+        EXPECT_GT(count, 0U) << kind;
+    }
+}
+
+TEST_P(Catalogue, ExportsToTextsThatLoadAgainAndExportToTheSame) {
+    load();
+    const Texts exports = exportsOf(engine);
+    Texts batch = exports;
+    for (const std::string& text : texts) {
+        if (isUnit(text)) {
+            batch.emplace("unit " + std::to_string(batch.size()), text);
+        }
+    }
+    ASSERT_EQ(batch.size(), texts.size());
+    ParametersEngine fresh;
+    fresh.registerSchemas(batch);
+    EXPECT_EQ(countObjects(fresh), countObjects(engine));
+    EXPECT_EQ(exportsOf(fresh), exports);
+}
+
+TEST_P(Catalogue, LoadsTextByTextFromLastToFirst) {
+    for (auto text = texts.rbegin(); text != texts.rend(); ++text) {
+        if (isUnit(*text)) {
+            engine.getUnitsEngine().registerSchema(*text);
+        } else {
+            engine.registerSchema(*text);
+        }
+    }
+    engine.resolveSchemas();
+    const Texts exports = exportsOf(engine);
+    engine = ParametersEngine();
+    load();
+    EXPECT_EQ(exportsOf(engine), exports);
+}
+
+TEST_P(Catalogue, NamesNothingThatIsNotRegistered) {
+    load();
+    std::set<std::string> unknown;
+    for (const std::string& typeId : typeIdsIn(engine)) {
+        try {
+            for (const std::string& named : engine.getDependencies(typeId)) {
+                if (!engine.isRegistered(named)) {
+                    unknown.insert(named);
+                }
+            }
+        } catch (const Parameters::UnrecognizedIdentifierException&) {
+            continue; // of a kind that names nothing
+        }
+    }
+    EXPECT_EQ(unknown, std::set<std::string>{});
+}
+
+INSTANTIATE_TEST_SUITE_P(Folders, Catalogue,
+                         testing::Values(CatalogueFolder{"Examples", OSTRA_SOURCE_DIR "/examples/catalogue"},
+                                         CatalogueFolder{"Large", std::getenv("OSTRA_CATALOGUE")}),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+} // namespace
