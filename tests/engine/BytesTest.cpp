@@ -42,8 +42,7 @@ const Hostile hostile[] = {
     {"NearlyBuiltIn", "norvex.spec:discipline-1\0.0.0"s},
 };
 
-class HostileTypeId : public testing::TestWithParam<Hostile> {
-protected:
+struct HostileTypeId : testing::TestWithParam<Hostile> {
     HostileTypeId() : typeId(GetParam().typeId) {}
 
     const std::string typeId;

@@ -66,8 +66,7 @@ struct Skipped {
 };
 
 /// Keys that an engine with an object, a pending schema and units, resolved and not, knows.
-class SkippedEntry : public testing::TestWithParam<Skipped> {
-protected:
+struct SkippedEntry : testing::TestWithParam<Skipped> {
     SkippedEntry() {
         engine.registerDomain(Taxon("object", "Name"));
         engine.getUnitsEngine().registerSchema(unitText("unit"));

@@ -22,8 +22,7 @@ using Parameters::ValidationException;
 using Support::messageOf;
 using Support::pictureOf;
 
-class RegistrationOfEachKind : public testing::TestWithParam<KindOperations> {
-protected:
+struct RegistrationOfEachKind : testing::TestWithParam<KindOperations> {
     std::string messageOfAdding(const std::string& typeId) {
         return messageOf<ValidationException>([&] { GetParam().add(engine, typeId, "Second"); });
     }

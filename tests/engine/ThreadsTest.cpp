@@ -27,6 +27,7 @@ constexpr int threadCount = 4;
 template <class Work>
 void inThreads(Work work) {
     std::vector<std::thread> threads;
+    threads.reserve(threadCount);
     for (int i = 0; i < threadCount; ++i) {
         threads.emplace_back(work, i);
     }

@@ -230,7 +230,7 @@ TEST_P(RandomOperations, GiveWhatAMapGives) {
 TEST_P(RandomOperations, EndWithNothingWhenAllIsRemoved) {
     while (model_.size() < 200) {
         const std::string typeId = randomTypeId();
-        if (model_.count(typeId) == 0) {
+        if (!model_.contains(typeId)) {
             addRandomEntry(typeId);
         }
     }

@@ -64,6 +64,7 @@ std::size_t mostInOnePlace(const std::vector<std::string>& typeIds, unsigned shi
 // Of 65,536 random numbers, 8 or 9 share the fullest place; that more than 20 do happens once in ten billion runs.
 TEST(Hash, SpreadsCountedTypeIds) {
     std::vector<std::string> typeIds;
+    typeIds.reserve(65'536);
     for (int i = 0; i < 65'536; ++i) {
         typeIds.push_back("ship.parameter:cabin" + std::to_string(i) + "-1.0.0");
     }
@@ -73,6 +74,7 @@ TEST(Hash, SpreadsCountedTypeIds) {
 
 TEST(Hash, SpreadsTypeIdsOfTwoBytes) {
     std::vector<std::string> typeIds;
+    typeIds.reserve(65'536);
     for (int i = 0; i < 65'536; ++i) {
         typeIds.push_back({static_cast<char>(i & 0xff), static_cast<char>(i >> 8)});
     }

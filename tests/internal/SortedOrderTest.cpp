@@ -140,6 +140,7 @@ class RandomGrowth : public testing::TestWithParam<unsigned> {};
 TEST_P(RandomGrowth, KeepsTheOrderOfASort) {
     std::mt19937 random(GetParam());
     std::vector<std::string> values;
+    values.reserve(2000);
     for (int i = 0; i < 2000; ++i) {
         values.push_back(std::to_string(i));
     }
@@ -171,6 +172,7 @@ TEST(SortedOrder, IsOneAndTheSameForThreadsThatAskAtOnce) {
     const auto less = [&](std::uint32_t a, std::uint32_t b) { return values[a] < values[b]; };
     std::vector<const Order*> answers(2);
     std::vector<std::thread> threads;
+    threads.reserve(answers.size());
     for (const Order*& answer : answers) {
         threads.emplace_back([&] { answer = &order.of(1000, less); });
     }

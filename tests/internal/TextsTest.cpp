@@ -75,6 +75,7 @@ TEST(Texts, DoNotReferToWhatTheyWereMadeOf) {
 
 TEST(Texts, MayBeMany) {
     std::vector<std::string> strings;
+    strings.reserve(10'000);
     for (int i = 0; i < 10'000; ++i) {
         strings.emplace_back(static_cast<std::size_t>(i % 50), static_cast<char>('a' + i % 26));
     }
