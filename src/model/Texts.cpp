@@ -11,10 +11,10 @@ Texts::Texts(std::span<const std::string_view> strings) {
     constexpr std::size_t limit = std::numeric_limits<std::uint32_t>::max();
     std::size_t length = 0;
     for (const std::string_view string : strings) {
-        length += std::min(string.size(), limit);
-        if (length > limit) {
+        if (string.size() > limit - length) {
             throw std::length_error("The texts of one object are longer than 4 GiB.");
         }
+        length += string.size();
     }
     if (strings.size() > limit) {
         throw std::length_error("One object has more than 2^32 - 1 texts.");
