@@ -66,7 +66,7 @@ std::string rangeConstant(const std::string& typedValue) {
     return R"({"id": "range", "typedValue": )" + typedValue + "}";
 }
 
-// The message of a text that names a base.
+/// Puts the typeids of the base into a text or a message.
 std::string withBase(const RangeBase& base, std::string text) {
     for (const auto& [mark, typeId] :
          {std::tuple("BASE", base.typeId), std::tuple("MINOR", base.ofAnotherMinorVersion)}) {

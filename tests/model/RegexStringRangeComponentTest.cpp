@@ -26,7 +26,7 @@ TEST(RegexStringRangeComponent, KeepsTheEmptyExpression) { EXPECT_EQ(RegexString
 TEST(RegexStringRangeComponent, StillAnswersAfterBeingMovedFrom) {
     RegexStringRangeComponent component("a*");
     const RegexStringRangeComponent moved(std::move(component));
-    EXPECT_EQ(component.getRegex(), "a*"); // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(component.getRegex(), "a*");
     EXPECT_EQ(moved.getRegex(), "a*");
 }
 

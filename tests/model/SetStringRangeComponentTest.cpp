@@ -30,7 +30,7 @@ TEST(SetStringRangeComponent, MayHaveNoValues) {
 TEST(SetStringRangeComponent, StillAnswersAfterBeingMovedFrom) {
     SetStringRangeComponent component({"a"});
     const SetStringRangeComponent moved(std::move(component));
-    EXPECT_EQ(component.getAllowedValues(), Strings{"a"}); // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(component.getAllowedValues(), Strings{"a"});
     EXPECT_EQ(moved.getAllowedValues(), Strings{"a"});
 }
 
