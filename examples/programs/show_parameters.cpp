@@ -1,0 +1,115 @@
+// Loads a folder of schema files, one schema a file, and shows the first parameter of each kind with what it names.
+
+#include <parameters/ParametersEngine.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <map>
+#include <string>
+
+using namespace Parameters;
+
+namespace {
+
+std::string textOf(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// Loads everything below a folder in one batch: units go to the units engine by themselves.
+ParametersEngine load(const std::filesystem::path& folder) {
+    std::map<std::string, std::string> texts;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+        if (entry.path().extension() == ".json") {
+            // The keys only tell what is registered already from what is not; a path does as well as a typeid.
+            texts.emplace(entry.path().string(), textOf(entry.path()));
+        }
+    }
+    ParametersEngine engine;
+    engine.registerSchemas(texts);
+    return engine;
+}
+
+std::string boundsOf(bool fromBottom, const std::string& bottom, bool fromTop, const std::string& top) {
+    if (!fromBottom && !fromTop) {
+        return "unbounded";
+    }
+    return (fromBottom ? "from " + bottom : "") + (fromBottom && fromTop ? " " : "") + (fromTop ? "to " + top : "");
+}
+
+template <class Range>
+std::string describe(const Range& range) {
+    return boundsOf(range.isBoundFromBottom(), std::to_string(range.getBottomBoundary()), range.isBoundFromTop(),
+                    std::to_string(range.getTopBoundary()));
+}
+
+std::string describe(const StringRange& range) {
+    if (const auto regex = range.getRegexStringRangeComponent()) {
+        return "matching " + regex->getRegex();
+    }
+    const auto set = range.getSetStringRangeComponent();
+    if (!set) {
+        return "any text";
+    }
+    std::string values = "one of";
+    for (const std::string& value : set->getAllowedValues()) {
+        values += " \"" + value + "\"";
+    }
+    return values;
+}
+
+std::string valuesOf(const BoolParameter&) { return "true or false"; }
+std::string valuesOf(const IntParameter& parameter) { return describe(parameter.getRange()); }
+std::string valuesOf(const StringParameter& parameter) { return describe(parameter.getRange()); }
+
+std::string valuesOf(const MeasurableParameter& parameter) {
+    return describe(parameter.getRange()) + " in " + parameter.getSpec().getStorageUnit().getName();
+}
+
+std::string valuesOf(const EnumerationParameter& parameter) {
+    std::string values = "one of";
+    for (const auto& [identifier, integer] : parameter.getEnumeration().getValues()) {
+        values += " \"" + identifier + "\" (" + std::to_string(integer) + ")";
+    }
+    return values;
+}
+
+std::string valuesOf(const ReferenceParameter& parameter) {
+    const auto category = parameter.getSpec().getCategory();
+    return "a reference to " + (category ? "an object of " + category->getName() : std::string("any object"));
+}
+
+template <class Parameter>
+void show(const std::string& kind, const std::map<std::string, Parameter>& parameters) {
+    for (const auto& [typeId, parameter] : parameters) {
+        std::cout << kind << " parameter " << typeId << '\n'
+                  << "  name    " << parameter.getCore().getName() << '\n'
+                  << "  group   " << parameter.getCore().getGroup().getName() << '\n'
+                  << "  spec    " << parameter.getSpec().getCore().getName() << '\n'
+                  << "  values  " << valuesOf(parameter) << '\n';
+        return;
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: show_parameters FOLDER\n";
+        return 2;
+    }
+    try {
+        const ParametersEngine engine = load(argv[1]);
+        show("Boolean", engine.getAllBoolParameters());
+        show("integer", engine.getAllIntParameters());
+        show("string", engine.getAllStringParameters());
+        show("enumeration", engine.getAllEnumerationParameters());
+        show("reference", engine.getAllReferenceParameters());
+        show("measurable", engine.getAllMeasurableParameters());
+    } catch (const std::exception& fault) {
+        std::cerr << fault.what() << '\n';
+        return 1;
+    }
+}
