@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -22,11 +23,6 @@ std::string quoted(const std::string& text) {
     return result + "'";
 }
 
-std::string contentOf(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 fs::path makeTemporaryFolder() {
     std::string name = (fs::temp_directory_path() / "ostra-params-test-XXXXXX").string();
     if (::mkdtemp(name.data()) == nullptr) {
@@ -36,6 +32,11 @@ fs::path makeTemporaryFolder() {
 }
 
 } // namespace
+
+std::string contentOf(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
 
 Folder::Folder() : path_(makeTemporaryFolder()) {}
 
@@ -64,11 +65,25 @@ void Folder::makeSocket(const std::string& name) const {
     }
 }
 
-Outcome Folder::run(const std::vector<std::string>& arguments, const std::string& output) const {
+std::vector<std::string> Folder::files() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::recursive_directory_iterator(path_)) {
+        const std::string name = entry.path().lexically_relative(path_).string();
+        if (!entry.is_directory() && name.front() != '.') {
+            names.push_back(name);
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+Outcome Folder::run(const std::vector<std::string>& arguments, const std::string& output,
+                    const std::string& input) const {
+    write(".in", input);
     std::string command = "cd " + quoted(path_.string()) + " && " + quoted(OSTRA_PARAMS_TOOL);
     for (const std::string& argument : arguments) {
         command.append(" ").append(quoted(argument));
     }
-    const int status = std::system((command + " >" + output + " 2>.err </dev/null").c_str());
+    const int status = std::system((command + " >" + output + " 2>.err <.in").c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(path_ / ".out"), contentOf(path_ / ".err")};
 }

@@ -11,6 +11,9 @@ struct Outcome {
     std::string err;
 };
 
+/// Returns the bytes of a file; none of one that is not there.
+std::string contentOf(const std::filesystem::path& file);
+
 /// A folder of its own for each test, in which the tool runs and which goes with the test.
 class Folder {
 public:
@@ -25,8 +28,13 @@ public:
     void makeSocket(const std::string& name) const;
     const std::filesystem::path& path() const { return path_; }
 
-    /// Runs the tool in this folder with the given arguments; its standard output goes to a file.
-    Outcome run(const std::vector<std::string>& arguments, const std::string& output = ".out") const;
+    std::string read(const std::string& name) const { return contentOf(path_ / name); }
+    /// Returns the names of all files in the folder and below, sorted; those of a run are left out.
+    std::vector<std::string> files() const;
+
+    /// Runs the tool in this folder with the given arguments and standard input; its standard output goes to a file.
+    Outcome run(const std::vector<std::string>& arguments, const std::string& output = ".out",
+                const std::string& input = "") const;
 
 private:
     std::filesystem::path path_;

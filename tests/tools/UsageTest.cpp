@@ -109,7 +109,8 @@ TEST(Tool, PrintsItsVersion) {
 TEST(Tool, HelpNamesItsVerb) {
     const Outcome outcome = Folder().run({"--help"});
     EXPECT_EQ(outcome.exitCode, 0);
-    EXPECT_THAT(outcome.out, StartsWith("Tools for authors of parameter catalogues\nUsage: ostra-params "));
+    EXPECT_THAT(outcome.out,
+                StartsWith("Tools for people who write and review parameter catalogues\nUsage: ostra-params "));
     EXPECT_THAT(outcome.out, HasSubstr("\n  check "));
 }
 

@@ -1,54 +1,44 @@
-#include "Check.h"
+#include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
-#include <fmt/format.h>
 
+#include <array>
 #include <cstdio>
 #include <exception>
+#include <map>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace {
 
-constexpr int sound = 0;
-constexpr int faulty = 1;
-constexpr int unusable = 2;
+constexpr const char* footer = R"("ostra-params VERB --help" tells of a verb and its options.
 
-constexpr const char* checkDetails = R"(Registers all schemas, those of units too, and resolves them. Prints a line
-"file:line: message" for each fault, then the number of sound objects of each
-kind. What names a faulty schema is faulty, too.
+Exit codes:
+  0  done
+  1  the catalogue has faults (check and others), or the catalogues differ (diff)
+  2  wrong usage, an input that cannot be read, or an output that cannot be
+     written)";
 
-)";
-
-constexpr const char* exitCodes = R"(Exit codes:
-  0  the catalogue is sound
-  1  the catalogue has faults
-  2  wrong usage, or a path that cannot be read, is no schema file, or is a
-     folder without schema files)";
+constexpr std::array verbs{Tool::addCheck,  Tool::addList, Tool::addShow,  Tool::addDeps,
+                           Tool::addExport, Tool::addDiff, Tool::addReport};
 
 int run(int argc, char** argv) {
-    CLI::App app{"Tools for authors of parameter catalogues", "ostra-params"};
-    app.set_version_flag("--version", std::string("ostra-params ") + OSTRA_PARAMETERS_VERSION);
-    app.footer(exitCodes);
-    app.require_subcommand(1);
-
-    std::vector<std::string> paths;
-    CLI::App* check = app.add_subcommand("check", "Check the schemas in files and folders");
-    check
-        ->add_option("PATH", paths,
-                     ".json files (one schema each), .ndjson files (one schema per\nline), and folders to be searched "
-                     "for such files at all depths")
-        ->required()
-        ->type_name("");
-    check->footer(std::string(checkDetails) + exitCodes);
+    CLI::App program{"Tools for people who write and review parameter catalogues", "ostra-params"};
+    program.set_version_flag("--version", std::string("ostra-params ") + OSTRA_PARAMETERS_VERSION);
+    program.footer(footer);
+    program.require_subcommand(1);
+    std::map<const CLI::App*, Tool::Action> actions;
+    for (const auto& addVerb : verbs) {
+        Tool::Action action = addVerb(program);
+        actions.emplace(program.get_subcommands({}).back(), std::move(action));
+    }
 
     try {
-        app.parse(argc, argv);
+        program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? sound : unusable;
+        return program.exit(error) == 0 ? Tool::Good : Tool::Unusable;
     }
-    return Tool::check(paths) ? sound : faulty;
+    return actions.at(program.get_subcommands().front())();
 }
 
 } // namespace
@@ -62,6 +52,6 @@ int main(int argc, char** argv) {
         return code;
     } catch (const std::exception& exception) {
         std::fputs((std::string("ostra-params: ") + exception.what() + "\n").c_str(), stderr);
-        return unusable;
+        return Tool::Unusable;
     }
 }

@@ -1,17 +1,18 @@
-#include "TypeId.h"
+#include "catalogue/Heading.h"
 
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 namespace Tool {
 
 namespace {
 
-/// Stops the reader at the first string that is the member "typeid" of the root.
-class TypeIdFinder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, TypeIdFinder> {
+/// Stops the reader when the root's first "typeid" and the first string in its "inherits" are both there.
+class HeadingFinder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, HeadingFinder> {
 public:
     bool StartObject() { return enter(); }
     bool EndObject(rapidjson::SizeType) { return leave(); }
@@ -19,22 +20,31 @@ public:
     bool EndArray(rapidjson::SizeType) { return leave(); }
 
     bool Key(const char* text, rapidjson::SizeType length, bool) {
-        isWanted_ = depth_ == 1 && std::string_view(text, length) == "typeid";
+        if (depth_ == 1) {
+            member_.assign(text, length);
+        }
         return true;
     }
 
     bool String(const char* text, rapidjson::SizeType length, bool) {
-        if (isWanted_) {
-            typeId_.assign(text, length);
+        if (depth_ == 1 && member_ == "typeid") {
+            keepFirst(heading_.typeId, {text, length});
+        } else if (depth_ == 2 && member_ == "inherits") {
+            keepFirst(heading_.base, {text, length});
         }
-        return !isWanted_;
+        return heading_.typeId.empty() || heading_.base.empty();
     }
 
     bool RawNumber(const char*, rapidjson::SizeType, bool) { return true; }
 
-    const std::string& typeId() const { return typeId_; }
+    Heading& heading() { return heading_; }
 
 private:
+    static void keepFirst(std::string& kept, std::string_view text) {
+        if (kept.empty()) {
+            kept = text;
+        }
+    }
     bool enter() {
         ++depth_;
         return true;
@@ -45,19 +55,19 @@ private:
     }
 
     std::size_t depth_ = 0;
-    bool isWanted_ = false;
-    std::string typeId_;
+    std::string member_;
+    Heading heading_;
 };
 
 } // namespace
 
-std::string typeIdOf(const std::string& schemaText) {
+Heading headingOf(const std::string& schemaText) {
     // Iterative, as a text may be nested without limit; raw numbers, as their values do not matter here.
     constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
     rapidjson::MemoryStream stream(schemaText.data(), schemaText.size());
-    TypeIdFinder finder;
+    HeadingFinder finder;
     rapidjson::Reader().Parse<flags>(stream, finder);
-    return finder.typeId();
+    return std::move(finder.heading());
 }
 
 } // namespace Tool

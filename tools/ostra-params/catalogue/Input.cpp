@@ -1,13 +1,19 @@
-#include "Input.h"
+#include "catalogue/Input.h"
+
+#include "output/Text.h"
 
 #include <fmt/format.h>
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <set>
+#include <sstream>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -22,7 +28,7 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view blanks = " \t\r\n";
 
 [[noreturn]] void failToRead(const fs::path& path, const std::error_code& reason) {
-    throw InputError(fmt::format("Cannot read {}: {}.", path.string(), reason.message()));
+    throw InputError(fmt::format("Cannot read {}: {}.", printable(nameOf(path)), reason.message()));
 }
 
 bool holdsLines(const fs::path& file) { return file.extension() == ".ndjson"; }
@@ -41,13 +47,16 @@ std::vector<fs::path> schemaFilesBelow(const fs::path& folder) {
         failToRead(folder, error);
     }
     if (files.empty()) {
-        throw InputError(fmt::format("No .json or .ndjson file in {}.", folder.string()));
+        throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(folder.string())));
     }
     std::sort(files.begin(), files.end());
     return files;
 }
 
 std::vector<fs::path> filesOf(const fs::path& path) {
+    if (path == standardInput) {
+        return {path};
+    }
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (error) {
@@ -57,7 +66,7 @@ std::vector<fs::path> filesOf(const fs::path& path) {
         return schemaFilesBelow(path);
     }
     if (!isSchemaFile(path)) {
-        throw InputError(fmt::format("{} is neither a folder nor a .json or .ndjson file.", path.string()));
+        throw InputError(fmt::format("{} is neither a folder nor a .json or .ndjson file.", printable(path.string())));
     }
     return {path};
 }
@@ -90,7 +99,38 @@ void readLines(std::istream& stream, const fs::path& file, const std::function<v
     }
 }
 
+bool isWellFormed(const std::string& text) {
+    constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
+    rapidjson::MemoryStream stream(text.data(), text.size());
+    rapidjson::BaseReaderHandler<> anything;
+    return !rapidjson::Reader().Parse<flags>(stream, anything).IsError();
+}
+
+/// A text that is no value as a whole is taken for lines when its first line looks like an object of its own.
+bool isOfLines(const std::string& text) {
+    const std::size_t begin = text.find_first_not_of(blanks);
+    if (begin == std::string::npos || isWellFormed(text)) {
+        return false;
+    }
+    const std::string_view line = std::string_view(text).substr(begin, text.find('\n', begin) - begin);
+    return line.front() == '{' && line[line.find_last_not_of(blanks)] == '}';
+}
+
+void readStandardInput(const std::function<void(const Source&)>& visit) {
+    const fs::path name = standardInput;
+    std::string text = readAll(std::cin);
+    if (isOfLines(text)) {
+        std::istringstream lines(text);
+        readLines(lines, name, visit);
+    } else {
+        dropByteOrderMark(text);
+        visit({name, 1, std::move(text)});
+    }
+}
+
 } // namespace
+
+std::string nameOf(const fs::path& file) { return file == standardInput ? "<stdin>" : file.string(); }
 
 std::vector<fs::path> findFiles(const std::vector<std::string>& paths) {
     std::vector<fs::path> files;
@@ -98,7 +138,7 @@ std::vector<fs::path> findFiles(const std::vector<std::string>& paths) {
     for (const std::string& path : paths) {
         for (fs::path& file : filesOf(path)) {
             std::error_code error;
-            const fs::path canonical = fs::canonical(file, error);
+            const fs::path canonical = file == standardInput ? file : fs::canonical(file, error);
             if (error) {
                 failToRead(file, error);
             }
@@ -112,6 +152,13 @@ std::vector<fs::path> findFiles(const std::vector<std::string>& paths) {
 
 void readTexts(const fs::path& file, const std::function<void(const Source&)>& visit) {
     errno = 0;
+    if (file == standardInput) {
+        readStandardInput(visit);
+        if (std::cin.bad()) {
+            failToRead(file, {errno, std::generic_category()});
+        }
+        return;
+    }
     std::ifstream stream(file, std::ios::binary);
     if (!stream) {
         failToRead(file, {errno, std::generic_category()});

@@ -1,0 +1,505 @@
+#include "tools/Tool.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+const std::string examples = OSTRA_SOURCE_DIR "/examples/catalogue";
+const std::string discharge = "hydro.parameter:ratedDischarge-1.0.0";
+
+std::string group(const std::string& typeId, const std::string& name) {
+    return R"({"typeid":")" + typeId +
+           R"(","inherits":["norvex.parameter:group-1.0.0"],"constants":[{"id":"name","value":")" + name + "\"}]}\n";
+}
+
+std::string parameter(const std::string& typeId, const std::string& more) {
+    return R"({"typeid":")" + typeId +
+           R"(","inherits":["norvex.parameter:parameter.bool-2.0.0"],"constants":[{"id":"name","value":"P"})" + more +
+           "]}\n";
+}
+
+const std::string namesG = R"(,{"id":"group","typedValue":{"typeid":"g"}})";
+
+TEST(Check, PrintsTheFaultsAloneWhenItIsToBeQuiet) {
+    const Folder folder;
+    folder.write("f.ndjson", group("g", "G"));
+    EXPECT_EQ(folder.run({"check", "-q", "f.ndjson"}).out, "");
+    folder.write("f.ndjson", "]\n");
+    EXPECT_EQ(folder.run({"check", "--quiet", "f.ndjson"}).out,
+              "f.ndjson:1:1: JSON parsing error at offset 0: Invalid value.\n");
+}
+
+TEST(Check, WritesJson) {
+    const Folder folder;
+    folder.write("f.ndjson", group("g", "G") + parameter("p", R"(,{"id":"group","typedValue":{"typeid":"gg"}})"));
+    const Outcome outcome = folder.run({"check", "--format", "json", "f.ndjson"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_THAT(outcome.out, StartsWith(R"({
+  "files": 1,
+  "schemas": 2,
+  "faults": [
+    {
+      "file": "f.ndjson",
+      "line": 2,
+      "column": 107,
+      "message": "Dependency gg in schema p is missing or does not represent an object of the expected type.",
+      "hint": "did you mean g?"
+    }
+  ],
+  "objects": {
+    "unit": 0,
+)"));
+}
+
+TEST(Check, WritesSarif) {
+    const Folder folder;
+    folder.write("a b.ndjson", "]\n");
+    const Outcome outcome = folder.run({"check", "--format", "sarif", "a b.ndjson"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_THAT(outcome.out, HasSubstr(R"("version": "2.1.0")"));
+    EXPECT_THAT(outcome.out, HasSubstr(R"("uri": "a%20b.ndjson")"));
+    EXPECT_THAT(outcome.out, HasSubstr(R"("startLine": 1)"));
+}
+
+struct Hint {
+    const char* name;
+    std::string bytes;
+    std::string hint;
+};
+
+class Hints : public testing::TestWithParam<Hint> {};
+
+TEST_P(Hints, HelpToMendAFault) {
+    const Folder folder;
+    folder.write("f.ndjson", GetParam().bytes);
+    EXPECT_THAT(folder.run({"check", "f.ndjson"}).out, HasSubstr("\n    hint: " + GetParam().hint + "\n"));
+}
+
+const Hint hints[] = {
+    {"NearestBase", R"({"typeid":"a","inherits":["norvex.parameter:grup-1.0.0"]})",
+     "did you mean norvex.parameter:group-1.0.0?"},
+    {"NearestVersionOfABase", R"({"typeid":"a","inherits":["norvex.spec:spec.int64-1.0.0"]})",
+     "did you mean norvex.spec:spec.int64-2.0.0?"},
+    {"BaseIsAnotherSchema", group("g", "G") + R"({"typeid":"a","inherits":["g"]})",
+     "only built-in bases can be inherited, and this is another schema."},
+    {"TypeIdTaken", group("g", "G") + group("g", "G"), "it is that of f.ndjson:1:1."},
+    {"TypeIdBuiltIn", group("norvex.parameter:group-1.0.0", "G"), "it contains a built-in identifier."},
+    {"MisspeltConstant",
+     R"({"typeid":"a","inherits":["norvex.parameter:group-1.0.0"],"constants":[{"id":"nmae","value":"A"}]})",
+     "the schema has a constant nmae: did you mean name?"},
+    {"ConstantAmongProperties",
+     R"({"typeid":"a","inherits":["norvex.parameter:group-1.0.0"],"properties":[{"id":"name","value":"A"}]})",
+     "name stands among the properties."},
+    {"NearestTypeIds",
+     group("x:safety-1.0.0", "S") + group("x:safely-1.0.0", "S") + group("x:other-1.0.0", "O") +
+         parameter("p", R"(,{"id":"group","typedValue":{"typeid":"x:safey-1.0.0"}})"),
+     "did you mean x:safely-1.0.0 or x:safety-1.0.0?"},
+    {"WrongKind",
+     R"({"typeid":"d","inherits":["norvex.spec:discipline-1.0.0"],"constants":[{"id":"name","value":"D"}]})"
+     "\n" +
+         parameter("p", R"(,{"id":"group","typedValue":{"typeid":"d"}})"),
+     "f.ndjson:1:1 is of the kind discipline, and the kind group is expected."},
+};
+
+INSTANTIATE_TEST_SUITE_P(Check, Hints, testing::ValuesIn(hints),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+TEST(List, ShowsTypeIdKindAndName) {
+    const Folder folder;
+    folder.write("f.ndjson", parameter("p", namesG) + group("g", "Safety"));
+    const Outcome outcome = folder.run({"list"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.out, "g  group              Safety\n"
+                           "p  Boolean parameter  P\n");
+}
+
+TEST(List, SelectsByKind) {
+    EXPECT_EQ(Folder().run({"list", "--kind", "domain,group", examples}).out,
+              "hydro.group:identification-1.0.0  group   Identification\n"
+              "hydro.group:maintenance-1.0.0     group   Maintenance\n"
+              "hydro.group:operation-1.0.0       group   Operation\n"
+              "hydro.group:safety-1.0.0          group   Dam Safety\n"
+              "hydro.domain:powerhouse-1.0.0     domain  Powerhouse\n"
+              "hydro.domain:switchyard-1.0.0     domain  Switchyard\n"
+              "hydro.domain:waterway-1.0.0       domain  Dam and Waterway\n");
+}
+
+TEST(List, RefusesAKindThatIsNone) {
+    const Outcome outcome = Folder().run({"list", "--kind", "thing", examples});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_THAT(outcome.err, HasSubstr("there is no kind thing"));
+}
+
+TEST(List, SelectsByAPartOfTheName) {
+    EXPECT_EQ(Folder().run({"list", "--name", "SAFETY", "--kind", "group", examples}).out,
+              "hydro.group:safety-1.0.0  group  Dam Safety\n");
+}
+
+TEST(List, SelectsByAPatternForTheWholeName) {
+    EXPECT_EQ(Folder().run({"list", "--name", "rated d*e", examples}).out,
+              discharge + "  measurable parameter  Rated Discharge\n");
+}
+
+TEST(List, WritesJson) {
+    const Folder folder;
+    folder.write("g.json", group("g", "Safety"));
+    EXPECT_EQ(folder.run({"list", "--json", "g.json"}).out, R"([
+  {
+    "typeid": "g",
+    "kind": "group",
+    "name": "Safety"
+  }
+]
+)");
+}
+
+TEST(List, LeavesOutWhatIsFaultyAndSaysSo) {
+    const Folder folder;
+    folder.write("f.ndjson", parameter("p", namesG) + group("other", "Other"));
+    const Outcome outcome = folder.run({"list", "f.ndjson"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.out, "other  group  Other\n");
+    EXPECT_EQ(outcome.err, "ostra-params: 1 faulty schema left out; \"ostra-params check\" tells more.\n");
+}
+
+TEST(Show, TellsAllOfAnObject) {
+    const Outcome outcome = Folder().run({"show", discharge, examples});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.out, "Rated Discharge\n"
+                           "measurable parameter  hydro.parameter:ratedDischarge-1.0.0\n"
+                           "\n"
+                           "  description  Discharge through one turbine at its rated head and power.\n"
+                           "  sample text  24.5 m\u00b3/s\n"
+                           "  group        Operation  hydro.group:operation-1.0.0\n"
+                           "  read-only    yes\n"
+                           "  spec         Discharge  hydro.spec:discharge-1.0.0\n"
+                           "  discipline   Civil Works  hydro.discipline:civil-1.0.0\n"
+                           "  range        0 to 120.5\n"
+                           "  stored in    m\u00b3/s\n"
+                           "  shown in     m\u00b3/s\n"
+                           "               L/s\n"
+                           "  defined in   " +
+                               examples +
+                               "/measurable-parameters/rated-discharge.json:1:1\n"
+                               "\n"
+                               "depends on 2 objects\n"
+                               "  group  hydro.group:operation-1.0.0  Operation\n"
+                               "  spec   hydro.spec:discharge-1.0.0  Discharge\n"
+                               "\n"
+                               "named by nothing\n");
+}
+
+TEST(Show, TellsWhatNamesAnObject) {
+    const Folder folder;
+    folder.write("f.ndjson", parameter("p", namesG) + group("g", "Safety"));
+    EXPECT_THAT(folder.run({"show", "g"}).out, HasSubstr("\nnamed by 1 object\n  group  p  P\n"));
+}
+
+TEST(Show, FindsAnObjectByAPartOfItsTypeId) {
+    EXPECT_THAT(Folder().run({"show", "ratedDisch", examples}).out, StartsWith("Rated Discharge\n"));
+}
+
+TEST(Show, ListsTheTypeIdsThatMayBeMeant) {
+    const Outcome outcome = Folder().run({"show", "hydro.domain", examples});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_EQ(outcome.err, "ostra-params: 3 typeids have hydro.domain in them:\n"
+                           "  hydro.domain:powerhouse-1.0.0\n"
+                           "  hydro.domain:switchyard-1.0.0\n"
+                           "  hydro.domain:waterway-1.0.0\n");
+}
+
+TEST(Show, OffersTheNearestTypeId) {
+    const Outcome outcome = Folder().run({"show", "hydro.domain:powerhuose-1.0.0", examples});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_EQ(outcome.err, "ostra-params: There is no object with typeid hydro.domain:powerhuose-1.0.0. Did you mean "
+                           "hydro.domain:powerhouse-1.0.0?\n");
+}
+
+TEST(Show, PrintsTheSchemaIndented) {
+    const Folder folder;
+    folder.write("g.json", group("g", "Safety"));
+    EXPECT_EQ(folder.run({"show", "--schema", "g"}).out, R"({
+    "typeid": "g",
+    "inherits": [
+        "norvex.parameter:group-1.0.0"
+    ],
+    "constants": [
+        {
+            "id": "name",
+            "value": "Safety"
+        }
+    ]
+}
+)");
+}
+
+TEST(Deps, DrawsATree) {
+    EXPECT_EQ(Folder().run({"deps", "peltonTurbines", examples}).out,
+              "hydro.category:peltonTurbines-1.0.0  Pelton Turbines\n"
+              "\u2514\u2500 parent: hydro.category:turbines-1.0.0  Turbines\n"
+              "   \u251c\u2500 domain: hydro.domain:powerhouse-1.0.0  Powerhouse\n"
+              "   \u251c\u2500 disciplines: hydro.discipline:mechanical-1.0.0  Hydro-Mechanical\n"
+              "   \u2514\u2500 disciplines: hydro.discipline:control-1.0.0  Instrumentation and Control\n");
+}
+
+TEST(Deps, GoesTheOtherWayToo) {
+    const Folder folder;
+    folder.write("f.ndjson", parameter("p", namesG) + parameter("q", namesG) + group("g", "Safety"));
+    EXPECT_EQ(folder.run({"deps", "--reverse", "g"}).out, "g  Safety\n"
+                                                          "\u251c\u2500 group: p  P\n"
+                                                          "\u2514\u2500 group: q  P\n");
+}
+
+TEST(Deps, WritesAGraphForGraphviz) {
+    const Folder folder;
+    folder.write("f.ndjson", parameter("p", namesG) + group("g", R"(\"Safety\\N\")"));
+    EXPECT_EQ(folder.run({"deps", "--dot", "p"}).out, R"(digraph dependencies {
+    rankdir=LR
+    node [shape=box, style=rounded, fontname="Helvetica", fontsize=11]
+    edge [fontname="Helvetica", fontsize=9]
+    "g" [label="\"Safety\\N\"\ngroup\ng"]
+    "norvex.spec:spec.bool-1.0.0" [label="built in\nnorvex.spec:spec.bool-1.0.0"]
+    "p" [label="P\nBoolean parameter\np"]
+    "p" -> "g" [label="group"]
+    "p" -> "norvex.spec:spec.bool-1.0.0" [label="spec"]
+}
+)");
+}
+
+TEST(Deps, DrawsAPictureIntoAFile) {
+    const Folder folder;
+    const Outcome outcome = folder.run({"deps", "--svg", "picture.svg", discharge, examples});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+    EXPECT_THAT(folder.read("picture.svg"), HasSubstr("<svg "));
+    EXPECT_THAT(folder.read("picture.svg"), HasSubstr("Rated Discharge"));
+    EXPECT_EQ(folder.files(), std::vector<std::string>{"picture.svg"});
+}
+
+TEST(Export, WritesNormalSchemasSortedByKindAndTypeId) {
+    const Folder folder;
+    folder.write("f.ndjson", parameter("p", R"(,{"id":"readOnly","value":false})" + namesG) + group("g", "Safety") +
+                                 R"({ "typeid": "u", "inherits": ["norvex.unit:unit-1.0.0"],)"
+                                 R"( "constants": [ {"id": "name", "value": "Metre"} ] })");
+    const Outcome outcome = folder.run({"export", "f.ndjson", "-o", "out.ndjson"});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+    EXPECT_EQ(folder.read("out.ndjson"),
+              R"({"typeid":"u","inherits":["norvex.unit:unit-1.0.0"],"constants":[{"id":"name","value":"Metre"}]})"
+              "\n" +
+                  group("g", "Safety") + parameter("p", namesG));
+}
+
+TEST(Export, WritesAFileForEachSchema) {
+    const Folder folder;
+    folder.write("f.ndjson", group("x:g/1", "Safety"));
+    EXPECT_EQ(folder.run({"export", "f.ndjson", "-o", "out/"}).exitCode, 0);
+    EXPECT_EQ(folder.read("out/group/x%3Ag%2F1.json"), group("x:g/1", "Safety"));
+}
+
+TEST(Export, ReplacesAnEarlierExportAsAWhole) {
+    const Folder folder;
+    folder.write("f.ndjson", group("a", "A"));
+    EXPECT_EQ(folder.run({"export", "f.ndjson", "-o", "out"}).exitCode, 0);
+    folder.write("f.ndjson", group("b", "B"));
+    EXPECT_EQ(folder.run({"export", "f.ndjson", "-o", "out"}).exitCode, 0);
+    EXPECT_EQ(folder.files(), (std::vector<std::string>{"f.ndjson", "out/group/b.json"}));
+}
+
+TEST(Export, KeepsAFolderWithOtherFiles) {
+    const Folder folder;
+    folder.write("f.ndjson", group("a", "A"));
+    folder.write("out/notes.txt", "kept");
+    const Outcome outcome = folder.run({"export", "f.ndjson", "-o", "out"});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_EQ(outcome.err, "ostra-params: out is not replaced: out/notes.txt is not from an export.\n");
+    EXPECT_EQ(folder.files(), (std::vector<std::string>{"f.ndjson", "out/notes.txt"}));
+}
+
+TEST(Export, WritesNothingOfAFaultyCatalogue) {
+    const Folder folder;
+    folder.write("f.ndjson", group("a", "A") + "]\n");
+    folder.write("out.ndjson", "as it was");
+    const Outcome outcome = folder.run({"export", "f.ndjson", "-o", "out.ndjson"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.err, "f.ndjson:2:1: JSON parsing error at offset 0: Invalid value.\n");
+    EXPECT_EQ(folder.read("out.ndjson"), "as it was");
+}
+
+TEST(Export, OfAnExportIsTheSame) {
+    const Folder folder;
+    EXPECT_EQ(folder.run({"export", examples, "-o", "one.ndjson"}).exitCode, 0);
+    EXPECT_EQ(folder.run({"export", "one.ndjson", "-o", "out"}).exitCode, 0);
+    EXPECT_EQ(folder.run({"export", "out", "-o", "two.ndjson"}).exitCode, 0);
+    EXPECT_THAT(folder.read("one.ndjson"), Not(IsEmpty()));
+    EXPECT_EQ(folder.read("one.ndjson"), folder.read("two.ndjson"));
+}
+
+TEST(Diff, TellsWhatWasAddedRemovedAndChanged) {
+    const Folder folder;
+    folder.write("old.ndjson", group("g", "Safety") + group("h", "H") + parameter("p", namesG));
+    folder.write("new.ndjson",
+                 group("g", "Security") + group("i", "I") +
+                     parameter("p", R"(,{"id":"description","value":"D"},{"id":"readOnly","value":true})"));
+    const Outcome outcome = folder.run({"diff", "old.ndjson", "new.ndjson"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.out, "- h  group  H\n"
+                           "+ i  group  I\n"
+                           "~ g  group  Security\n"
+                           "    name: Safety -> Security\n"
+                           "~ p  Boolean parameter  P\n"
+                           "    description: none -> D\n"
+                           "    group: g -> norvex.parameter:group-1.0.0\n"
+                           "    read-only: no -> yes\n"
+                           "1 added, 1 removed, 2 changed\n");
+}
+
+TEST(Diff, WritesJson) {
+    const Folder folder;
+    folder.write("old.ndjson", group("g", "Safety"));
+    folder.write("new.ndjson", group("g", "Security"));
+    const Outcome outcome = folder.run({"diff", "--json", "old.ndjson", "new.ndjson"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.out, R"({
+  "added": [],
+  "removed": [],
+  "changed": [
+    {
+      "typeid": "g",
+      "kind": "group",
+      "name": "Security",
+      "properties": [
+        {
+          "name": "name",
+          "before": "Safety",
+          "after": "Security"
+        }
+      ]
+    }
+  ]
+}
+)");
+}
+
+TEST(Diff, IsZeroForEqualCatalogues) {
+    const Outcome outcome = Folder().run({"diff", examples, examples});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.out, "0 added, 0 removed, 0 changed\n");
+}
+
+TEST(Diff, RefusesAFaultyCatalogue) {
+    const Folder folder;
+    folder.write("bad.json", "]");
+    const Outcome outcome = folder.run({"diff", examples, "bad.json"});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err, "bad.json:1:1: JSON parsing error at offset 0: Invalid value.\n");
+}
+
+TEST(Report, IsOnePageThatHoldsTheDataAsText) {
+    const Folder folder;
+    folder.write("g.json", group("g", "</script><script>alert(1)</script>"));
+    const Outcome outcome = folder.run({"report", "g.json", "-o", "report.html"});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+    const std::string page = folder.read("report.html");
+    EXPECT_THAT(page, StartsWith("<!doctype html>\n"));
+    EXPECT_THAT(page, HasSubstr(R"(\u003c/script\u003e\u003cscript\u003ealert(1))"));
+    EXPECT_THAT(page, Not(HasSubstr("<script>alert(1)")));
+    EXPECT_THAT(page, Not(HasSubstr("@DATA@")));
+}
+
+TEST(Report, IsTheSameForTheSameInput) {
+    const Folder folder;
+    EXPECT_EQ(folder.run({"report", examples, "-o", "one.html"}).exitCode, 0);
+    EXPECT_EQ(folder.run({"report", examples, "-o", "two.html"}).exitCode, 0);
+    EXPECT_EQ(folder.read("one.html"), folder.read("two.html"));
+}
+
+struct Verb {
+    const char* name;
+    std::vector<std::string> arguments;
+};
+
+class FailingOutput : public testing::TestWithParam<Verb> {};
+
+TEST_P(FailingOutput, IsSaidAndLeavesNothing) {
+    const Folder folder;
+    std::vector<std::string> arguments = GetParam().arguments;
+    arguments.push_back("nowhere/output.ndjson");
+    const Outcome outcome = folder.run(arguments);
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_THAT(outcome.err, StartsWith("ostra-params: Cannot write nowhere/output.ndjson"));
+    EXPECT_THAT(outcome.err, HasSubstr("No such file or directory.\n"));
+    EXPECT_THAT(folder.files(), IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Tool, FailingOutput,
+                         testing::Values(Verb{"Export", {"export", examples, "-o"}},
+                                         Verb{"Report", {"report", examples, "-o"}},
+                                         Verb{"Deps", {"deps", discharge, examples, "--svg"}}),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+class StandardInput : public testing::TestWithParam<Verb> {};
+
+TEST_P(StandardInput, IsReadByEachVerb) {
+    const Folder folder;
+    const Outcome outcome = folder.run(GetParam().arguments, ".out", group("g", "Safety") + parameter("p", namesG));
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+    EXPECT_THAT(outcome.out, HasSubstr(GetParam().arguments.front() == "diff" ? "0 added" : "g"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Tool, StandardInput,
+                         testing::Values(Verb{"Check", {"check", "-"}}, Verb{"List", {"list", "-"}},
+                                         Verb{"Show", {"show", "g", "-"}}, Verb{"Deps", {"deps", "p", "-"}},
+                                         Verb{"Export", {"export", "-", "-o", "-"}},
+                                         Verb{"Report", {"report", "-", "-o", "-"}}),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+TEST(Tool, ReadsOneSchemaOfManyLinesFromStandardInput) {
+    const Folder folder;
+    const Outcome outcome =
+        folder.run({"check", "-q", "-"}, ".out", "{\n \"typeid\": \"a\",\n \"inherits\": [\"Enum\"]\n}\n");
+    EXPECT_EQ(outcome.out, "<stdin>:1:1: Enumeration schema a must specify at least one value.\n");
+}
+
+class Help : public testing::TestWithParam<const char*> {};
+
+TEST_P(Help, IsThereForEachVerbAndInTheManPageAndTheCompletion) {
+    const Outcome outcome = Folder().run({GetParam(), "--help"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_THAT(outcome.out, HasSubstr(std::string("Usage: ostra-params ") + GetParam() + " "));
+    const std::string shell = OSTRA_SOURCE_DIR "/tools/ostra-params/shell/ostra-params";
+    EXPECT_THAT(contentOf(shell + ".1"), HasSubstr(std::string(".SS ") + GetParam() + "\n"));
+    EXPECT_THAT(contentOf(shell + ".bash"), HasSubstr(std::string("[") + GetParam() + "]="));
+}
+
+INSTANTIATE_TEST_SUITE_P(Tool, Help, testing::Values("check", "list", "show", "deps", "export", "diff", "report"),
+                         [](const auto& test) { return std::string(test.param); });
+
+TEST(Completion, OffersVerbsOptionsAndValues) {
+    const std::string completion = OSTRA_SOURCE_DIR "/tools/ostra-params/shell/ostra-params.bash";
+    const auto complete = [&](const std::string& words, const std::string& last) {
+        const Folder folder;
+        const std::string script = "source '" + completion + "'; COMP_WORDS=(" + words + "); COMP_CWORD=" + last +
+                                   "; _ostra_params; echo \"${COMPREPLY[*]}\" > '" +
+                                   (folder.path() / "reply").string() + "'";
+        folder.write("script", script);
+        EXPECT_EQ(std::system(("bash '" + (folder.path() / "script").string() + "'").c_str()), 0);
+        return folder.read("reply");
+    };
+    EXPECT_EQ(complete("ostra-params ch", "1"), "check\n");
+    EXPECT_EQ(complete("ostra-params check --f", "2"), "--format\n");
+    EXPECT_EQ(complete("ostra-params check --format s", "3"), "sarif\n");
+    EXPECT_EQ(complete("ostra-params list --kind bool-", "3"), "bool-spec bool-parameter\n");
+}
+
+} // namespace

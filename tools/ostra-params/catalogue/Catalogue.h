@@ -1,0 +1,60 @@
+#pragma once
+
+#include "catalogue/Kinds.h"
+#include "catalogue/Loader.h"
+#include "catalogue/Object.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace Tool {
+
+/// A dependency, with the property that makes it one.
+struct Link {
+    std::string_view property;
+    std::string typeId; ///< At the other end; perhaps of a built-in object, which no catalogue holds.
+};
+
+/// The sound objects of a catalogue, and what is wrong with the rest.
+class Catalogue {
+public:
+    /// Reads files, folders and standard input.
+    /// @throws InputError if a path cannot be read or is no schema file, or a folder holds none.
+    explicit Catalogue(const std::vector<std::string>& paths);
+
+    /// Returns the objects by kind, then by typeid.
+    const std::vector<Object>& objects() const { return objects_; }
+    const Object* find(const std::string& typeId) const;
+    /// Returns what a typeid goes by: the name of its object, or nothing.
+    std::string nameOf(const std::string& typeId) const;
+
+    /// Returns what an object names, in the order of its properties.
+    std::vector<Link> dependencies(const Object& object) const;
+    /// Returns what names an object, in the order of the objects.
+    const std::vector<Link>& dependents(const std::string& typeId) const;
+
+    /// Returns the text of an object as the library writes it; that of a unit as it was given, without blanks.
+    std::string schemaOf(const Object& object) const;
+    const Source& sourceOf(const Object& object) const { return loader_.entries().find(object.typeId)->second.source; }
+
+    const std::vector<Fault>& faults() const { return faults_; }
+    std::size_t schemas() const { return loader_.schemas(); }
+    std::size_t files() const { return files_; }
+    /// Returns how many objects there are of a kind.
+    std::size_t count(const Kind& kind) const;
+
+private:
+    void collect();
+
+    Loader loader_;
+    std::size_t files_ = 0;
+    std::vector<Object> objects_;
+    std::vector<Fault> faults_;
+    std::unordered_map<std::string, std::size_t> index_;
+    std::unordered_map<std::string, std::vector<Link>> dependents_;
+};
+
+} // namespace Tool

@@ -1,0 +1,207 @@
+#include "catalogue/Describe.h"
+
+#include <fmt/format.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Tool {
+
+namespace {
+
+using namespace Parameters;
+
+Value named(const Taxon& taxon) { return {taxon.getName(), taxon.getTypeId()}; }
+Value named(const SpecCore& core) { return {core.getName(), core.getTypeId()}; }
+Value named(const Category& category) { return {category.getName(), category.getTypeId()}; }
+Value named(const Units::Unit& unit) { return {unit.getName(), unit.getTypeId()}; }
+
+std::string symbolOf(const Units::Unit& unit) {
+    const std::string symbol = unit.getSymbol();
+    return symbol.empty() ? unit.getName() : symbol;
+}
+
+template <class Number>
+std::string boundsOf(bool hasBottom, Number bottom, bool hasTop, Number top) {
+    if (hasBottom && hasTop) {
+        return fmt::format("{} to {}", bottom, top);
+    }
+    return hasBottom ? fmt::format("at least {}", bottom) : hasTop ? fmt::format("at most {}", top) : "any";
+}
+
+template <class Range>
+Property limitsOf(const Range& range) {
+    return {"range",
+            {{boundsOf(range.isBoundFromBottom(), range.getBottomBoundary(), range.isBoundFromTop(),
+                       range.getTopBoundary())}}};
+}
+
+Property limitsOf(const StringRange& range) {
+    if (const auto set = range.getSetStringRangeComponent()) {
+        Property allowed{"allowed values", {}};
+        for (std::string& value : set->getAllowedValues()) {
+            allowed.values.push_back({std::move(value)});
+        }
+        return allowed;
+    }
+    if (const auto regex = range.getRegexStringRangeComponent()) {
+        return {"regular expression", {{regex->getRegex()}}};
+    }
+    return {"range", {{"any"}}};
+}
+
+/// An inline range has a built-in typeid, and its limits are the parameter's own.
+bool isInline(const std::string& rangeTypeId) {
+    return rangeTypeId == FloatRange(false, 0, false, 0).getTypeId() ||
+           rangeTypeId == IntRange(false, 0, false, 0).getTypeId() || rangeTypeId == StringRange().getTypeId() ||
+           rangeTypeId == StringRange(SetStringRangeComponent(std::vector<std::string>())).getTypeId() ||
+           rangeTypeId == StringRange(RegexStringRangeComponent("")).getTypeId();
+}
+
+void addRange(Object& object, const auto& range) {
+    Property limits = limitsOf(range);
+    if (!isInline(range.getTypeId())) {
+        limits.isOwn = false;
+        if (limits.name == "range") {
+            limits.name = "values";
+        }
+        object.properties.push_back({"range", {{"", range.getTypeId()}}});
+    }
+    object.properties.push_back(std::move(limits));
+}
+
+void addText(Object& object, std::string_view name, std::string text) {
+    if (!text.empty()) {
+        object.properties.push_back({name, {{std::move(text)}}});
+    }
+}
+
+Property choicesOf(const Enumeration& enumeration) {
+    Property choices{"choices", {}};
+    for (const auto& [id, number] : enumeration.getValues()) {
+        choices.values.push_back({fmt::format("{} = {}", id, number)});
+    }
+    return choices;
+}
+
+Property disciplineOf(const SpecCore& core, bool isOwn) { return {"discipline", {named(core.getDiscipline())}, isOwn}; }
+
+Object describeSpec(const SpecCore& core) { return {core.getTypeId(), core.getName(), {disciplineOf(core, true)}}; }
+
+Object describeParameter(const ParameterCore& core, const SpecCore& spec) {
+    Object object{core.getTypeId(), core.getName(), {}};
+    addText(object, "description", core.getDescription());
+    addText(object, "sample text", core.getSampleText());
+    object.properties.push_back({"group", {named(core.getGroup())}});
+    object.properties.push_back({"read-only", {{core.isReadOnly() ? "yes" : "no"}}});
+    object.properties.push_back({"spec", {named(spec)}});
+    object.properties.push_back(disciplineOf(spec, false));
+    return object;
+}
+
+template <class Parameter>
+Object describeRanged(const Parameter& parameter) {
+    Object object = describeParameter(parameter.getCore(), parameter.getSpec().getCore());
+    addRange(object, parameter.getRange());
+    return object;
+}
+
+} // namespace
+
+Object describe(const Units::Unit& unit) {
+    Object object{unit.getTypeId(), unit.getName(), {}};
+    addText(object, "symbol", unit.getSymbol());
+    return object;
+}
+
+Object describe(const Taxon& taxon) { return {taxon.getTypeId(), taxon.getName(), {}}; }
+
+Object describe(const Enumeration& enumeration) { return {enumeration.getTypeId(), {}, {choicesOf(enumeration)}}; }
+
+Object describe(const FloatRange& range) { return {range.getTypeId(), {}, {limitsOf(range)}}; }
+Object describe(const IntRange& range) { return {range.getTypeId(), {}, {limitsOf(range)}}; }
+Object describe(const StringRange& range) { return {range.getTypeId(), {}, {limitsOf(range)}}; }
+
+Object describe(const BoolSpec& spec) { return describeSpec(spec.getCore()); }
+Object describe(const GeneralSpec& spec) { return describeSpec(spec.getCore()); }
+Object describe(const IntSpec& spec) { return describeSpec(spec.getCore()); }
+Object describe(const StringSpec& spec) { return describeSpec(spec.getCore()); }
+
+Object describe(const MeasurableSpec& spec) {
+    Object object = describeSpec(spec.getCore());
+    object.properties.push_back({"storage unit", {named(spec.getStorageUnit())}});
+    Property applicable{"applicable units", {}};
+    for (const Units::Unit& unit : spec.getApplicableUnits()) {
+        applicable.values.push_back(named(unit));
+    }
+    object.properties.push_back(std::move(applicable));
+    return object;
+}
+
+Object describe(const ReferenceSpec& spec) {
+    Object object = describeSpec(spec.getCore());
+    if (const auto category = spec.getCategory()) {
+        object.properties.push_back({"category", {named(*category)}});
+    }
+    return object;
+}
+
+Object describe(const BoolParameter& parameter) {
+    return describeParameter(parameter.getCore(), parameter.getSpec().getCore());
+}
+
+Object describe(const EnumerationParameter& parameter) {
+    Object object = describeParameter(parameter.getCore(), parameter.getSpec().getCore());
+    const Enumeration enumeration = parameter.getEnumeration();
+    object.properties.push_back({"enumeration", {{"", enumeration.getTypeId()}}});
+    Property choices = choicesOf(enumeration);
+    choices.isOwn = false;
+    object.properties.push_back(std::move(choices));
+    return object;
+}
+
+Object describe(const IntParameter& parameter) { return describeRanged(parameter); }
+Object describe(const StringParameter& parameter) { return describeRanged(parameter); }
+
+Object describe(const MeasurableParameter& parameter) {
+    Object object = describeRanged(parameter);
+    object.properties.push_back({"stored in", {{symbolOf(parameter.getSpec().getStorageUnit())}}, false});
+    Property shown{"shown in", {}, false};
+    for (const Units::Unit& unit : parameter.getSpec().getApplicableUnits()) {
+        shown.values.push_back({symbolOf(unit)});
+    }
+    object.properties.push_back(std::move(shown));
+    return object;
+}
+
+Object describe(const ReferenceParameter& parameter) {
+    const ReferenceSpec spec = parameter.getSpec();
+    Object object = describeParameter(parameter.getCore(), spec.getCore());
+    // The category of a family type is said by the parameter itself; that of a spec belongs to the spec.
+    if (const auto category = spec.getCategory()) {
+        const bool isOwn = spec.getCore().getTypeId().find("norvex.talmo.spec:familyType-1.") != std::string::npos;
+        object.properties.push_back({"category", {named(*category)}, isOwn});
+    }
+    object.properties.push_back({"ranged", {{parameter.isRanged() ? "yes" : "no"}}});
+    return object;
+}
+
+Object describe(const Category& category) {
+    Object object{category.getTypeId(), category.getName(), {}};
+    if (const auto sub = category.getSubCategoryComponent()) {
+        object.properties.push_back({"parent", {{"", sub->getParentCategory()}}});
+    } else if (const auto major = category.getMajorCategoryComponent()) {
+        object.properties.push_back({"domain", {named(major->getDomain())}});
+        Property disciplines{"disciplines", {}};
+        for (const Taxon& discipline : major->getDisciplines()) {
+            disciplines.values.push_back(named(discipline));
+        }
+        object.properties.push_back(std::move(disciplines));
+    }
+    return object;
+}
+
+} // namespace Tool

@@ -1,0 +1,106 @@
+#include "output/Folder.h"
+
+#include "catalogue/Kinds.h"
+#include "output/OutputFile.h"
+#include "output/Text.h"
+
+#include <fmt/format.h>
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <functional>
+#include <iterator>
+#include <system_error>
+
+namespace Tool {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A folder aside, which goes with this object unless it has been moved away.
+class FolderAside {
+public:
+    explicit FolderAside(const fs::path& target) {
+        std::string name = target.string() + ".XXXXXX";
+        if (::mkdtemp(name.data()) == nullptr) {
+            failToWrite(target, {errno, std::generic_category()});
+        }
+        path_ = name;
+    }
+    FolderAside(const FolderAside&) = delete;
+    FolderAside& operator=(const FolderAside&) = delete;
+    ~FolderAside() {
+        std::error_code ignored; // what is left over is no reason to fail
+        fs::remove_all(path_, ignored);
+    }
+    const fs::path& path() const { return path_; }
+
+private:
+    fs::path path_;
+};
+
+void mustSucceed(const fs::path& path, const std::error_code& error) {
+    if (error) {
+        failToWrite(path, error);
+    }
+}
+
+bool isFromAnExport(const fs::path& folder, const fs::directory_entry& entry) {
+    const fs::path relative = entry.path().lexically_relative(folder);
+    const bool isOfKind = kindOfId(relative.begin()->string()) != nullptr;
+    const auto depth = std::distance(relative.begin(), relative.end());
+    return isOfKind && !entry.is_symlink() &&
+           (entry.is_directory() ? depth == 1 : depth == 2 && entry.path().extension() == ".json");
+}
+
+void mustBeReplaceable(const fs::path& folder) {
+    std::error_code error;
+    for (fs::recursive_directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+        if (!isFromAnExport(folder, *entry)) {
+            throw OutputError(fmt::format("{} is not replaced: {} is not from an export.", printable(folder.string()),
+                                          printable(entry->path().string())));
+        }
+    }
+    mustSucceed(folder, error);
+}
+
+} // namespace
+
+std::string fileNameOf(const std::string& text) {
+    constexpr std::size_t longest = 200; // file systems take 255 bytes
+    const std::string name = percentEncoded(text, text.substr(0, 1) == "." ? "-_" : "-_."); // none is hidden
+    return name.size() <= longest ? name
+                                  : fmt::format("{}%{:016X}", name.substr(0, longest), std::hash<std::string>()(text));
+}
+
+void replaceFolder(const fs::path& folder, const std::vector<FolderEntry>& entries) {
+    std::error_code error;
+    const fs::path target = folder.has_filename() ? folder : folder.parent_path(); // "folder/" names the folder
+    const bool isThere = fs::exists(target, error);
+    if (isThere) {
+        mustBeReplaceable(target);
+    }
+    const FolderAside aside(target);
+    const fs::path fresh = aside.path() / "new";
+    fs::create_directory(fresh, error);
+    mustSucceed(target, error);
+    for (const FolderEntry& entry : entries) {
+        fs::create_directory(fresh / entry.folder, error);
+        mustSucceed(target, error);
+        writeFile(fresh / entry.folder / entry.file, entry.content);
+    }
+    if (isThere) {
+        fs::rename(target, aside.path() / "old", error);
+        mustSucceed(target, error);
+    }
+    fs::rename(fresh, target, error);
+    if (error && isThere) {
+        std::error_code ignored; // the first reason is the one to tell
+        fs::rename(aside.path() / "old", target, ignored);
+    }
+    mustSucceed(target, error);
+}
+
+} // namespace Tool

@@ -1,0 +1,90 @@
+#include "output/Graphviz.h"
+
+#include "output/OutputFile.h"
+#include "output/Text.h"
+
+#include <fmt/format.h>
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <tuple>
+
+namespace Tool {
+
+namespace {
+
+/// Quotes a text so that Graphviz takes none of it for an escape of its own.
+std::string quoted(const std::string& text) {
+    std::string result = "\"";
+    for (const char character : printable(text)) {
+        if (character == '"' || character == '\\') {
+            result += '\\';
+        }
+        result += character;
+    }
+    return result + "\"";
+}
+
+/// Joins the lines of a label.
+std::string labelOf(const Graph::Node& node) {
+    std::string lines;
+    for (const std::string* line : {&node.name, &node.kind, &node.typeId}) {
+        const std::string text = quoted(*line);
+        if (!line->empty()) {
+            lines += (lines.empty() ? "" : "\\n") + text.substr(1, text.size() - 2);
+        }
+    }
+    return "\"" + lines + "\"";
+}
+
+/// Runs a program and returns whether it came to a good end.
+bool run(std::vector<std::string> arguments) {
+    std::vector<char*> pointers;
+    for (std::string& argument : arguments) {
+        pointers.push_back(argument.data());
+    }
+    pointers.push_back(nullptr);
+    pid_t process = 0;
+    int status = 0;
+    return ::posix_spawnp(&process, pointers.front(), nullptr, nullptr, pointers.data(), environ) == 0 &&
+           ::waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+} // namespace
+
+std::string toDot(Graph graph) {
+    std::sort(graph.nodes.begin(), graph.nodes.end(),
+              [](const auto& one, const auto& other) { return one.typeId < other.typeId; });
+    std::sort(graph.edges.begin(), graph.edges.end(), [](const auto& one, const auto& other) {
+        return std::tie(one.from, one.to, one.label) < std::tie(other.from, other.to, other.label);
+    });
+    std::string dot = "digraph dependencies {\n"
+                      "    rankdir=LR\n"
+                      "    node [shape=box, style=rounded, fontname=\"Helvetica\", fontsize=11]\n"
+                      "    edge [fontname=\"Helvetica\", fontsize=9]\n";
+    for (const Graph::Node& node : graph.nodes) {
+        fmt::format_to(std::back_inserter(dot), "    {} [label={}]\n", quoted(node.typeId), labelOf(node));
+    }
+    for (const Graph::Edge& edge : graph.edges) {
+        fmt::format_to(std::back_inserter(dot), "    {} -> {} [label={}]\n", quoted(edge.from), quoted(edge.to),
+                       quoted(edge.label));
+    }
+    return dot + "}\n";
+}
+
+void writeSvg(const Graph& graph, const std::string& file) {
+    OutputFile dot(file + ".dot");
+    dot.write(toDot(graph));
+    OutputFile svg(file);
+    if (!run({"dot", "-Tsvg", "-o", svg.path().string(), dot.path().string()})) {
+        throw OutputError(fmt::format("Cannot draw {}: Graphviz's program dot is missing or failed.", printable(file)));
+    }
+    svg.commit();
+}
+
+} // namespace Tool

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Tool {
+
+/// What depends on what.
+struct Graph {
+    struct Node {
+        std::string typeId;
+        std::string name;
+        std::string kind;
+    };
+    struct Edge {
+        std::string from;
+        std::string to;
+        std::string label;
+    };
+    std::vector<Node> nodes;
+    std::vector<Edge> edges;
+};
+
+/// Returns a graph in the language of Graphviz. Nodes and edges are sorted.
+std::string toDot(Graph graph);
+
+/// Draws a graph into a file.
+/// @throws OutputError if Graphviz's program is not there or fails, or the file cannot be written.
+void writeSvg(const Graph& graph, const std::string& file);
+
+} // namespace Tool

@@ -1,0 +1,51 @@
+#include "output/Progress.h"
+
+#include <fmt/format.h>
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdio>
+#include <string>
+#include <system_error>
+
+namespace Tool {
+
+Progress::Progress(const std::vector<std::filesystem::path>& files)
+    : isShown_(::isatty(STDERR_FILENO) == 1), nextDrawing_(Clock::now() + std::chrono::seconds(1)) {
+    for (const std::filesystem::path& file : files) {
+        std::error_code unknown; // the size of standard input, for one
+        const std::uintmax_t size = std::filesystem::file_size(file, unknown);
+        total_ += unknown ? 0 : size;
+    }
+}
+
+Progress::~Progress() {
+    if (isDrawn_) {
+        std::fputs("\r\x1B[K", stderr);
+    }
+}
+
+void Progress::advance(std::uintmax_t bytes) {
+    read_ += bytes;
+    if (isShown_ && Clock::now() >= nextDrawing_) {
+        draw();
+        isDrawn_ = true;
+        nextDrawing_ = Clock::now() + std::chrono::milliseconds(100);
+    }
+}
+
+void Progress::draw() const {
+    constexpr std::size_t width = 40;
+    if (read_ > total_) { // more than was announced, as from standard input
+        fmt::print(stderr, "\rreading: {:.1f} MB", static_cast<double>(read_) / 1e6);
+        return;
+    }
+    const double part = static_cast<double>(read_) / static_cast<double>(total_);
+    const auto filled = static_cast<std::size_t>(part * width);
+    fmt::print(stderr, "\rreading [{}{}] {:3.0f} %", std::string(filled, '#'), std::string(width - filled, ' '),
+               part * 100);
+}
+
+} // namespace Tool

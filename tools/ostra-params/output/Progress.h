@@ -1,0 +1,33 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <vector>
+
+namespace Tool {
+
+/// Shows on a terminal's standard error how much of the files is read, once that takes more than a second.
+class Progress {
+public:
+    explicit Progress(const std::vector<std::filesystem::path>& files);
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+    ~Progress();
+
+    /// Says that so many bytes more are read.
+    void advance(std::uintmax_t bytes);
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    void draw() const;
+
+    bool isShown_; // whether anybody could see it
+    bool isDrawn_ = false;
+    std::uintmax_t total_ = 0;
+    std::uintmax_t read_ = 0;
+    Clock::time_point nextDrawing_;
+};
+
+} // namespace Tool

@@ -1,0 +1,16 @@
+# Writes the source FILE with the page of the report, whose files are in FOLDER. Literals are kept short, as compilers
+# need not take long ones.
+set(page "")
+foreach(part IN ITEMS html css js)
+    file(READ ${FOLDER}/report.${part} text)
+    set(literals "")
+    string(LENGTH "${text}" length)
+    set(begin 0)
+    while(begin LESS length)
+        string(SUBSTRING "${text}" ${begin} 4000 piece)
+        string(APPEND literals "R\"ostra(${piece})ostra\"\n")
+        math(EXPR begin "${begin} + 4000")
+    endwhile()
+    string(APPEND page "const std::string_view ${part} = ${literals};\n")
+endforeach()
+file(WRITE ${FILE} "#include \"report/Page.h\"\n\nnamespace Tool::Page {\n\n${page}\n} // namespace Tool::Page\n")

@@ -1,0 +1,34 @@
+# Completion of ostra-params for bash.
+
+_ostra_params() {
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]}
+    local -A options=(
+        [check]="--format --quiet"
+        [list]="--kind --name --json"
+        [show]="--schema"
+        [deps]="--reverse --dot --svg"
+        [export]="--output"
+        [diff]="--json"
+        [report]="--output"
+    )
+    local kinds="unit enumeration float-range int-range string-range discipline bool-spec general-spec int-spec
+        measurable-spec reference-spec string-spec group enumeration-parameter bool-parameter int-parameter
+        measurable-parameter reference-parameter string-parameter domain category"
+    COMPREPLY=()
+    if ((COMP_CWORD == 1)); then
+        mapfile -t COMPREPLY < <(compgen -W "${!options[*]} --help --version" -- "$current")
+    elif [[ $previous == --format ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "text json sarif" -- "$current")
+    elif [[ $previous == --kind ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$kinds" -- "$current")
+    elif [[ $previous == --name ]]; then
+        return
+    elif [[ $current == -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "${options[$verb]} --help" -- "$current")
+    else
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+    fi
+}
+
+complete -F _ostra_params ostra-params

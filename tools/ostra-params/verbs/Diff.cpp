@@ -1,0 +1,111 @@
+#include "catalogue/Catalogue.h"
+#include "output/Json.h"
+#include "output/Text.h"
+#include "verbs/CheckFormats.h"
+#include "verbs/Difference.h"
+#include "verbs/Verb.h"
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include <memory>
+
+namespace Tool {
+
+namespace {
+
+struct Options {
+    std::string oldPath;
+    std::string newPath;
+    bool isJson = false;
+};
+
+constexpr const char* details = R"(Lists what was added (+), removed (-) and changed (~), by object and by property.
+Objects are told apart by their typeids.
+
+Exit codes:
+  0  the catalogues are equal
+  1  they differ
+  2  one of them cannot be read, or has faults)";
+
+std::string lineOf(char sign, const Object& object) {
+    return fmt::format("{} {}  {}{}\n", sign, printable(object.typeId), object.kind->label,
+                       object.name.empty() ? "" : "  " + printable(object.name));
+}
+
+std::string asText(const Difference& difference) {
+    std::string text;
+    for (const Object* object : difference.removed) {
+        text += lineOf('-', *object);
+    }
+    for (const Object* object : difference.added) {
+        text += lineOf('+', *object);
+    }
+    for (const Change& change : difference.changed) {
+        text += lineOf('~', *change.object);
+        for (const PropertyChange& property : change.properties) {
+            text +=
+                fmt::format("    {}: {} -> {}\n", property.name, printable(property.before), printable(property.after));
+        }
+    }
+    return text + fmt::format("{} added, {} removed, {} changed\n", difference.added.size(), difference.removed.size(),
+                              difference.changed.size());
+}
+
+Json asJson(const Object& object) {
+    return {{"typeid", object.typeId}, {"kind", object.kind->id}, {"name", object.name}};
+}
+
+std::string asJson(const Difference& difference) {
+    Json json{{"added", Json::array()}, {"removed", Json::array()}, {"changed", Json::array()}};
+    for (const Object* object : difference.added) {
+        json["added"].push_back(asJson(*object));
+    }
+    for (const Object* object : difference.removed) {
+        json["removed"].push_back(asJson(*object));
+    }
+    for (const Change& change : difference.changed) {
+        Json entry = asJson(*change.object);
+        entry["properties"] = Json::array();
+        for (const PropertyChange& property : change.properties) {
+            entry["properties"].push_back(
+                {{"name", property.name}, {"before", property.before}, {"after", property.after}});
+        }
+        json["changed"].push_back(std::move(entry));
+    }
+    return toText(json);
+}
+
+bool isSound(const Catalogue& catalogue) {
+    fmt::print(stderr, "{}", faultsAsText(catalogue));
+    return catalogue.faults().empty();
+}
+
+ExitCode diff(const Options& options) {
+    const Catalogue before({options.oldPath});
+    const Catalogue after({options.newPath});
+    const bool isOldSound = isSound(before);
+    const bool isNewSound = isSound(after);
+    if (!isOldSound || !isNewSound) { // what is left out as faulty would seem to be removed
+        return Unusable;
+    }
+    const Difference difference = compare(before, after);
+    fmt::print("{}", options.isJson ? asJson(difference) : asText(difference));
+    return difference.isNone() ? Good : Bad;
+}
+
+} // namespace
+
+Action addDiff(CLI::App& program) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb = program.add_subcommand("diff", "Tell what changed from one catalogue to another");
+    verb->add_option("OLD", options->oldPath, "The one catalogue: a file, a folder, or - for standard input")
+        ->required()
+        ->type_name("");
+    verb->add_option("NEW", options->newPath, "The other one")->required()->type_name("");
+    verb->add_flag("--json", options->isJson, "Print a JSON object");
+    verb->footer(details);
+    return [options] { return diff(*options); };
+}
+
+} // namespace Tool

@@ -1,0 +1,78 @@
+#include "catalogue/Catalogue.h"
+#include "output/Folder.h"
+#include "output/OutputFile.h"
+#include "verbs/CheckFormats.h"
+#include "verbs/Verb.h"
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include <filesystem>
+#include <memory>
+
+namespace Tool {
+
+namespace {
+
+struct Options {
+    std::vector<std::string> paths;
+    std::string output;
+};
+
+constexpr const char* details = R"(Each schema is written as the library writes it, without what equals a default,
+sorted by kind and typeid, so that catalogues compare well in version control.
+A folder is replaced as a whole; it must be new, empty, or an earlier export.
+Nothing is written when the catalogue has faults: a schema that is left out
+would be lost.)";
+
+std::string lines(const Catalogue& catalogue) {
+    std::string text;
+    for (const Object& object : catalogue.objects()) {
+        text += catalogue.schemaOf(object) + "\n";
+    }
+    return text;
+}
+
+std::vector<FolderEntry> files(const Catalogue& catalogue) {
+    std::vector<FolderEntry> entries;
+    for (const Object& object : catalogue.objects()) {
+        entries.push_back(
+            {std::string(object.kind->id), fileNameOf(object.typeId) + ".json", catalogue.schemaOf(object) + "\n"});
+    }
+    return entries;
+}
+
+bool isFolder(const std::string& output) { return std::filesystem::path(output).extension() != ".ndjson"; }
+
+ExitCode exportCatalogue(const Options& options) {
+    const Catalogue catalogue(options.paths);
+    if (!catalogue.faults().empty()) {
+        fmt::print(stderr, "{}", faultsAsText(catalogue));
+        return Bad;
+    }
+    if (options.output == "-") {
+        fmt::print("{}", lines(catalogue));
+    } else if (isFolder(options.output)) {
+        replaceFolder(options.output, files(catalogue));
+    } else {
+        writeFile(options.output, lines(catalogue));
+    }
+    return Good;
+}
+
+} // namespace
+
+Action addExport(CLI::App& program) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb = program.add_subcommand("export", "Write the schemas of a catalogue in their normal form");
+    addPaths(*verb, options->paths);
+    verb->add_option("-o,--output", options->output,
+                     "A file that ends in .ndjson gets one schema a line, -\nstands for standard output, and anything "
+                     "else is a folder\nthat gets one file each")
+        ->required()
+        ->type_name("FILE|DIR");
+    verb->footer(details);
+    return [options] { return exportCatalogue(*options); };
+}
+
+} // namespace Tool

@@ -1,0 +1,100 @@
+#include "catalogue/Catalogue.h"
+#include "output/Json.h"
+#include "output/Text.h"
+#include "verbs/Verb.h"
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include <fnmatch.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+
+namespace Tool {
+
+namespace {
+
+struct Options {
+    std::vector<std::string> paths;
+    std::vector<std::string> kinds;
+    std::string name;
+    bool isJson = false;
+};
+
+/// A pattern without a wildcard may stand anywhere in a name.
+bool matches(const std::string& name, const std::string& pattern) {
+    const bool isPlain = pattern.find_first_of("*?[") == std::string::npos;
+    const std::string whole = isPlain ? "*" + pattern + "*" : pattern;
+    return ::fnmatch(whole.c_str(), name.c_str(), FNM_CASEFOLD) == 0;
+}
+
+std::vector<const Object*> select(const Catalogue& catalogue, const Options& options) {
+    std::vector<const Object*> selected;
+    for (const Object& object : catalogue.objects()) {
+        const bool isOfKind = options.kinds.empty() || std::find(options.kinds.begin(), options.kinds.end(),
+                                                                 object.kind->id) != options.kinds.end();
+        if (isOfKind && (options.name.empty() || matches(object.name, options.name))) {
+            selected.push_back(&object);
+        }
+    }
+    return selected;
+}
+
+std::string asJson(const std::vector<const Object*>& objects) {
+    Json list = Json::array();
+    for (const Object* object : objects) {
+        list.push_back({{"typeid", object->typeId}, {"kind", object->kind->id}, {"name", object->name}});
+    }
+    return toText(list);
+}
+
+std::string asTable(const std::vector<const Object*>& objects) {
+    std::vector<std::array<std::string, 3>> rows;
+    std::array<std::size_t, 2> widths{};
+    for (const Object* object : objects) {
+        rows.push_back({printable(object->typeId), std::string(object->kind->label), printable(object->name)});
+        for (std::size_t column = 0; column < widths.size(); ++column) {
+            widths[column] = std::max(widths[column], widthOf(rows.back()[column]));
+        }
+    }
+    std::string table;
+    for (const auto& [typeId, kind, name] : rows) {
+        const std::string line = padded(typeId, widths[0]) + "  " + padded(kind, widths[1]) + "  " + name;
+        table += line.substr(0, line.find_last_not_of(' ') + 1) + "\n";
+    }
+    return table;
+}
+
+std::string refuseUnknownKind(const std::string& id) {
+    return kindOfId(id) == nullptr ? "there is no kind " + id + "; \"ostra-params list --help\" lists the kinds" : "";
+}
+
+ExitCode list(const Options& options) {
+    const Catalogue catalogue(options.paths);
+    const std::vector<const Object*> objects = select(catalogue, options);
+    fmt::print("{}", options.isJson ? asJson(objects) : asTable(objects));
+    return warnOfFaults(catalogue);
+}
+
+} // namespace
+
+Action addList(CLI::App& program) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb = program.add_subcommand("list", "List the objects of a catalogue: typeid, kind and name");
+    addOptionalPaths(*verb, options->paths);
+    verb->add_option("--kind", options->kinds, "Only this kind, or these with commas between them:\n" + kindIds())
+        ->check(CLI::Validator(refuseUnknownKind, ""))
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->type_name("KIND");
+    verb->add_option("--name", options->name,
+                     "Only names with this in them, or that match it as a\nwhole when it has wildcards (* ? [...]); "
+                     "case does not matter")
+        ->type_name("PATTERN");
+    verb->add_flag("--json", options->isJson, "Print a JSON array");
+    return [options] { return list(*options); };
+}
+
+} // namespace Tool

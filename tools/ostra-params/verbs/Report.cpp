@@ -1,0 +1,85 @@
+#include "catalogue/Catalogue.h"
+#include "output/Json.h"
+#include "output/OutputFile.h"
+#include "report/Page.h"
+#include "verbs/Verb.h"
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include <memory>
+
+namespace Tool {
+
+namespace {
+
+struct Options {
+    std::vector<std::string> paths;
+    std::string output;
+};
+
+Json dataOf(const Property& property) {
+    Json values = Json::array();
+    for (const Value& value : property.values) {
+        values.push_back(value.typeId.empty() ? Json::array({value.text}) : Json::array({value.text, value.typeId}));
+    }
+    return Json::array({property.name, std::move(values), property.isOwn});
+}
+
+/// What the page's script reads. Objects are arrays, as there may be many of them.
+Json dataOf(const Catalogue& catalogue) {
+    Json data{{"kinds", Json::array()}, {"objects", Json::array()}, {"faults", Json::array()}};
+    for (const Kind& kind : kinds()) {
+        data["kinds"].push_back({{"label", kind.label}, {"plural", kind.plural}});
+    }
+    for (const Object& object : catalogue.objects()) {
+        Json properties = Json::array();
+        for (const Property& property : object.properties) {
+            properties.push_back(dataOf(property));
+        }
+        data["objects"].push_back(Json::array({object.typeId, indexOf(*object.kind), object.name, std::move(properties),
+                                               toString(beginningOf(catalogue.sourceOf(object)))}));
+    }
+    for (const Fault& fault : catalogue.faults()) {
+        data["faults"].push_back(Json::array({fault.place ? toString(*fault.place) : "", fault.message}));
+    }
+    return data;
+}
+
+std::string pageOf(const Catalogue& catalogue) {
+    std::string page(Page::html);
+    // Data last, so that no mark is looked for in what schemas say.
+    const std::pair<std::string_view, std::string> parts[] = {{"@STYLE@", std::string(Page::css)},
+                                                              {"@SCRIPT@", std::string(Page::js)},
+                                                              {"@DATA@", toTextInHtml(dataOf(catalogue))}};
+    for (const auto& [mark, text] : parts) {
+        page.replace(page.find(mark), mark.size(), text);
+    }
+    return page;
+}
+
+ExitCode report(const Options& options) {
+    const Catalogue catalogue(options.paths);
+    const std::string page = pageOf(catalogue);
+    if (options.output == "-") {
+        fmt::print("{}", page);
+    } else {
+        writeFile(options.output, page);
+    }
+    return warnOfFaults(catalogue);
+}
+
+} // namespace
+
+Action addReport(CLI::App& program) {
+    const auto options = std::make_shared<Options>();
+    CLI::App* verb = program.add_subcommand("report", "Write a page to browse a catalogue with, in one file");
+    addPaths(*verb, options->paths);
+    verb->add_option("-o,--output", options->output, "The page, an HTML file; - stands for standard output")
+        ->required()
+        ->type_name("FILE");
+    verb->footer("The page needs no network. What is faulty is left out of it, and listed.");
+    return [options] { return report(*options); };
+}
+
+} // namespace Tool

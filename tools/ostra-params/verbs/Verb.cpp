@@ -1,0 +1,56 @@
+#include "verbs/Verb.h"
+
+#include "catalogue/Catalogue.h"
+#include "output/Text.h"
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include <cstdio>
+
+namespace Tool {
+
+namespace {
+
+CLI::Option* addPathOption(CLI::App& verb, std::vector<std::string>& paths, const std::string& otherwise) {
+    return verb
+        .add_option("PATH", paths,
+                    ".json files (one schema each), .ndjson files (one schema\nper line), folders to be searched for "
+                    "such files at all\ndepths, and - for standard input" +
+                        otherwise)
+        ->type_name("");
+}
+
+} // namespace
+
+void addPaths(CLI::App& verb, std::vector<std::string>& paths) { addPathOption(verb, paths, "")->required(); }
+
+void addOptionalPaths(CLI::App& verb, std::vector<std::string>& paths) {
+    paths = {"."};
+    addPathOption(verb, paths, "; the working folder\nwhen none is given");
+}
+
+std::string kindIds() {
+    constexpr std::size_t width = 50;
+    std::string ids;
+    std::size_t lineBegin = 0;
+    for (const Kind& kind : kinds()) {
+        ids += ids.empty() ? "" : ",";
+        const bool isFull = ids.size() + kind.id.size() - lineBegin > width;
+        ids += ids.empty() ? "" : isFull ? "\n" : " ";
+        lineBegin = isFull ? ids.size() : lineBegin;
+        ids += kind.id;
+    }
+    return ids;
+}
+
+ExitCode warnOfFaults(const Catalogue& catalogue) {
+    if (catalogue.faults().empty()) {
+        return Good;
+    }
+    fmt::print(stderr, "ostra-params: {} left out; \"ostra-params check\" tells more.\n",
+               counted(catalogue.faults().size(), "faulty schema"));
+    return Bad;
+}
+
+} // namespace Tool

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace CLI {
+class App;
+} // namespace CLI
+
+namespace Tool {
+
+class Catalogue;
+
+/// What the program tells the shell.
+enum ExitCode {
+    Good = 0,
+    Bad = 1,     ///< Faults, or differences.
+    Unusable = 2 ///< Wrong usage, or an input or output that fails.
+};
+
+/// Does what a verb is for, after the arguments are read.
+using Action = std::function<ExitCode()>;
+
+/// Each adds a verb to the program and returns its action.
+/// @{
+Action addCheck(CLI::App& program);
+Action addList(CLI::App& program);
+Action addShow(CLI::App& program);
+Action addDeps(CLI::App& program);
+Action addExport(CLI::App& program);
+Action addDiff(CLI::App& program);
+Action addReport(CLI::App& program);
+/// @}
+
+/// Adds the paths of a catalogue to a verb: required, or the working folder when none is given.
+/// @{
+void addPaths(CLI::App& verb, std::vector<std::string>& paths);
+void addOptionalPaths(CLI::App& verb, std::vector<std::string>& paths);
+/// @}
+
+/// Returns the kinds as options name them, for the help of an option.
+std::string kindIds();
+
+/// Says on standard error that a catalogue has faults, if it has, and returns the exit code that says so, too.
+ExitCode warnOfFaults(const Catalogue& catalogue);
+
+} // namespace Tool
