@@ -25,7 +25,6 @@ using Parameters::UnrecognizedIdentifierException;
 using Parameters::ValidationException;
 using Support::boolParameterText;
 using Support::constant;
-using Support::disciplineText;
 using Support::engineOf;
 using Support::failureOf;
 using Support::Fault;
@@ -336,15 +335,15 @@ INSTANTIATE_TEST_SUITE_P(Spec, RefusedSpecOfBoolParameter, testing::ValuesIn(spe
 class ReadBoolParameter : public testing::Test {
 protected:
     std::string failureOfReading(const std::string& text) const {
-        return messageOf<ValidationException>([&] { engine.readBoolParameter(text); });
+        return messageOf<ValidationException>([&] { engine_.readBoolParameter(text); });
     }
 
-    ParametersEngine engine;
+    ParametersEngine engine_;
 };
 
 TEST_F(ReadBoolParameter, FindsWhatIsRegistered) {
-    engine = engineOf({groupText("safety", "Dam Safety"), openSpec});
-    const BoolParameter parameter = engine.readBoolParameter(boolParameterText("gate", "safety", "open"));
+    engine_ = engineOf({groupText("safety", "Dam Safety"), openSpec});
+    const BoolParameter parameter = engine_.readBoolParameter(boolParameterText("gate", "safety", "open"));
     EXPECT_EQ(parameter.getCore().getGroup().getName(), "Dam Safety");
     EXPECT_EQ(parameter.getSpec().getCore().getName(), "Open/Closed");
 }
@@ -359,12 +358,12 @@ TEST_F(ReadBoolParameter, MissesItsSpec) {
 }
 
 TEST_F(ReadBoolParameter, MissesASpecThatIsOnlyPending) {
-    engine.registerSchema(openSpec);
+    engine_.registerSchema(openSpec);
     EXPECT_EQ(failureOfReading(textNaming("open")), "Could not find Boolean spec with typeid open.");
 }
 
 TEST_F(ReadBoolParameter, KeepsTheTypeIdOfABuiltInSpec) {
-    const SpecCore spec = engine.readBoolParameter(textNaming("norvex.spec:spec.bool-1.4.0")).getSpec().getCore();
+    const SpecCore spec = engine_.readBoolParameter(textNaming("norvex.spec:spec.bool-1.4.0")).getSpec().getCore();
     EXPECT_EQ(spec.getTypeId(), "norvex.spec:spec.bool-1.4.0");
     EXPECT_EQ(spec.getName(), "Yes/No");
 }
