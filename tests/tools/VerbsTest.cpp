@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <filesystem>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -105,6 +105,11 @@ const Hint hints[] = {
      group("x:safety-1.0.0", "S") + group("x:safely-1.0.0", "S") + group("x:other-1.0.0", "O") +
          parameter("p", R"(,{"id":"group","typedValue":{"typeid":"x:safey-1.0.0"}})"),
      "did you mean x:safely-1.0.0 or x:safety-1.0.0?"},
+    {"FaultyItself",
+     R"({"typeid":"g","inherits":["norvex.parameter:group-1.0.0"]})"
+     "\n" +
+         parameter("p", namesG),
+     "it is in f.ndjson:1:1, and faulty."},
     {"WrongKind",
      R"({"typeid":"d","inherits":["norvex.spec:discipline-1.0.0"],"constants":[{"id":"name","value":"D"}]})"
      "\n" +
@@ -469,6 +474,27 @@ TEST(Tool, ReadsOneSchemaOfManyLinesFromStandardInput) {
     const Outcome outcome =
         folder.run({"check", "-q", "-"}, ".out", "{\n \"typeid\": \"a\",\n \"inherits\": [\"Enum\"]\n}\n");
     EXPECT_EQ(outcome.out, "<stdin>:1:1: Enumeration schema a must specify at least one value.\n");
+}
+
+/// A program that waits for a file which is written only after more than a second.
+const std::string slowReading = "mkfifo slow.ndjson; (sleep 1.2; echo ']') > slow.ndjson & "
+                                "'" OSTRA_PARAMS_TOOL "' check --quiet slow.ndjson";
+
+TEST(Progress, IsShownOnATerminalWhenReadingTakesLong) {
+    const Folder folder;
+    folder.write("slow.sh", slowReading);
+    ASSERT_EQ(std::system(("cd '" + folder.path().string() + "' && script -qc 'bash slow.sh' seen >/dev/null").c_str()),
+              0);
+    EXPECT_THAT(folder.read("seen"), HasSubstr("\rreading"));
+    EXPECT_THAT(folder.read("seen"), HasSubstr("\r\x1B[K")); // and gone afterwards
+}
+
+TEST(Progress, IsNotShownElsewhere) {
+    const Folder folder;
+    folder.write("slow.sh", slowReading);
+    std::ignore = std::system(("cd '" + folder.path().string() + "' && bash slow.sh 2>seen >out").c_str());
+    EXPECT_EQ(folder.read("seen"), "");
+    EXPECT_EQ(folder.read("out"), "slow.ndjson:1:1: JSON parsing error at offset 0: Invalid value.\n");
 }
 
 class Help : public testing::TestWithParam<const char*> {};

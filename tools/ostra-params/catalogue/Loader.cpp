@@ -10,14 +10,14 @@ namespace Tool {
 
 void Loader::add(const Source& source) {
     const std::size_t number = schemas_++;
+    const Heading heading = headingOf(source.text);
     try {
         registerWith(engine_, source.text);
+        entries_.insert_or_assign(heading.typeId, Entry{source, heading.base, number});
     } catch (const std::logic_error& fault) {
         refuse(number, source, fault.what(), Stage::reading);
-        return;
+        entries_.try_emplace(heading.typeId, Entry{source, heading.base, number, false});
     }
-    const Heading heading = headingOf(source.text);
-    entries_.try_emplace(heading.typeId, Entry{source, heading.base, number});
 }
 
 void Loader::resolve() {

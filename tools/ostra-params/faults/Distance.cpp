@@ -74,7 +74,7 @@ std::vector<std::string_view> nearest(std::string_view text, const std::vector<s
     std::sort(near.begin(), near.end());
     near.erase(std::unique(near.begin(), near.end()), near.end());
     std::vector<std::string_view> texts;
-    for (std::size_t i = 0; i < std::min(near.size(), most); ++i) {
+    for (std::size_t i = 0; i < std::min(near.size(), most) && near[i].first == near.front().first; ++i) {
         texts.push_back(near[i].second);
     }
     return texts;
