@@ -144,10 +144,10 @@ const std::vector<Kind>& kinds() { return table; }
 
 std::size_t indexOf(const Kind& kind) { return static_cast<std::size_t>(&kind - table.data()); }
 
-const Kind* kindOfBase(std::string_view base) {
-    return firstKind([base](const Kind& kind) {
+const Kind* kindOfBase(std::string_view inherited) {
+    return firstKind([inherited](const Kind& kind) {
         return std::any_of(kind.bases.begin(), kind.bases.end(),
-                           [base](std::string_view known) { return inherits(base, known); });
+                           [inherited](std::string_view base) { return inherits(inherited, base); });
     });
 }
 

@@ -25,8 +25,8 @@ const std::vector<Kind>& kinds();
 /// Returns where a kind stands among all kinds.
 std::size_t indexOf(const Kind& kind);
 
-/// Returns the kind whose schemas inherit a base, in whatever minor version; nullptr if there is none.
-const Kind* kindOfBase(std::string_view base);
+/// Returns the kind whose schemas inherit this, which is a base in whatever minor version; nullptr if there is none.
+const Kind* kindOfBase(std::string_view inherited);
 
 /// Returns the kind of an identifier as options name it; nullptr if there is none.
 const Kind* kindOfId(std::string_view id);

@@ -93,8 +93,9 @@ std::string Hints::forMissing(const Source& source, const Heading& heading, cons
 }
 
 std::string Hints::similarTo(const std::string& typeId, const Kind& kind) {
+    constexpr std::size_t mostSearches = 200; // each goes through all typeids of a kind
     const auto [similar, isNew] = similar_.try_emplace({&kind, typeId});
-    if (!isNew) {
+    if (!isNew || similar_.size() > mostSearches) {
         return similar->second;
     }
     std::vector<std::string_view>& typeIds = typeIds_[&kind];
