@@ -17,6 +17,7 @@ using Bench::Results;
 using Words = std::span<const std::string>;
 
 constexpr const char* usage = "usage: bench-report labels SIZE...\n"
+                              "       bench-report held SIZE...\n"
                               "       bench-report table SIZE... -- FILE...\n"
                               "       bench-report instructions SIZE... -- FILE...\n"
                               "       bench-report compare FILE... -- FILE...\n";
@@ -47,13 +48,29 @@ std::vector<Reach> reachesAt(Words sizeWords) {
     return chosen;
 }
 
-/// Prints a regular expression of the benchmarks that the ratios need.
-void printLabels(Words sizes) {
+/// The benchmarks that the ratios need.
+std::set<std::string> labelsOf(const std::vector<Reach>& reaches) {
     std::set<std::string> labels;
-    for (const Reach& reach : reachesAt(sizes)) {
+    for (const Reach& reach : reaches) {
         labels.insert(labelOf(reach.ours, reach.size));
         labels.insert(labelOf(reach.floor, reach.floorSize));
     }
+    return labels;
+}
+
+/// Those of the library that are held to something, without their floors.
+std::set<std::string> heldLabelsOf(const std::vector<Reach>& reaches) {
+    std::set<std::string> labels;
+    for (const Reach& reach : reaches) {
+        if (reach.atMost) {
+            labels.insert(labelOf(reach.ours, reach.size));
+        }
+    }
+    return labels;
+}
+
+/// Prints a regular expression that fits these benchmarks and no others.
+void printLabels(const std::set<std::string>& labels) {
     const char* separator = "^(";
     for (const std::string& label : labels) {
         std::cout << separator << label;
@@ -162,7 +179,11 @@ int run(Words words) {
     const Words first = arguments.first(split);
     const Words second = arguments.subspan(std::min(split + 1, arguments.size()));
     if (command == "labels") {
-        printLabels(first);
+        printLabels(labelsOf(reachesAt(first)));
+        return 0;
+    }
+    if (command == "held") {
+        printLabels(heldLabelsOf(reachesAt(first)));
         return 0;
     }
     if (command == "table") {
