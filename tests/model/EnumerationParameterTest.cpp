@@ -284,8 +284,7 @@ const NamingFault namingFaults[] = {
      "Dependency Enum in schema p is missing or does not represent an object of the expected type."},
 };
 
-class EnumerationParameterNaming : public testing::TestWithParam<NamingFault> {
-protected:
+struct EnumerationParameterNaming : testing::TestWithParam<NamingFault> {
     ParametersEngine engine = stocked();
 };
 

@@ -117,8 +117,7 @@ const NotFinite notFinite[] = {
     {"TopNegativeInfinite", 1.0, -infinity}, {"BottomAndTop", -infinity, infinity},
 };
 
-class FloatRangeNotFinite : public testing::TestWithParam<NotFinite> {
-protected:
+struct FloatRangeNotFinite : testing::TestWithParam<NotFinite> {
     ParametersEngine engine;
 };
 

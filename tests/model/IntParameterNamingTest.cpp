@@ -58,8 +58,7 @@ const NamingFault namingFaults[] = {
      "type."},
 };
 
-class IntParameterNaming : public testing::TestWithParam<NamingFault> {
-protected:
+struct IntParameterNaming : testing::TestWithParam<NamingFault> {
     static IntParameter parameter() {
         return IntParameter(coreOf("p", GetParam().group), specOf(GetParam().spec),
                             IntRange(GetParam().third, true, 1, true, 2));
@@ -120,8 +119,7 @@ const TypeIdFault typeIdFaults[] = {
      "Schema with typeid norvex.spec:spec.int64-2.0.0 is already registered."},
 };
 
-class IntParameterTypeId : public testing::TestWithParam<TypeIdFault> {
-protected:
+struct IntParameterTypeId : testing::TestWithParam<TypeIdFault> {
     // All that it names is missing, too.
     const IntParameter parameter{coreOf(GetParam().typeId, "x"), specOf("y"), IntRange("z", true, 1, true, 2)};
     ParametersEngine engine = stocked();

@@ -184,8 +184,7 @@ const InlineFault inlineFaults[] = {
     {"FlagFromTopBeforeTop", R"({"topBoundary": "1", "fromBottom": true, "bottomBoundary": 1})", noFromTop},
 };
 
-class IntParameterInlineFault : public testing::TestWithParam<InlineFault> {
-protected:
+struct IntParameterInlineFault : testing::TestWithParam<InlineFault> {
     static std::string text() { return inlineText(GetParam().value); }
 
     ParametersEngine engine;

@@ -80,8 +80,7 @@ struct Traits<FloatRange> {
 };
 
 template <class Range>
-class NumericRange : public testing::Test {
-protected:
+struct NumericRange : testing::Test {
     using T = Traits<Range>;
 
     static Range get(const ParametersEngine& engine, const std::string& typeId = "r") {
@@ -106,7 +105,7 @@ protected:
 
 struct NameOfRange {
     template <class Range>
-    static std::string GetName(int) {
+    static std::string GetName(int) { // NOLINT(readability-identifier-naming): GoogleTest calls it
         return std::is_same_v<Range, IntRange> ? "Int" : "Float";
     }
 };

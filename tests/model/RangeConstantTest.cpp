@@ -117,8 +117,7 @@ const std::vector<Fault> rangeFaults = {
      "Expected a Boolean value."},
 };
 
-class RangeConstant : public testing::TestWithParam<std::tuple<RangeBase, Fault>> {
-protected:
+struct RangeConstant : testing::TestWithParam<std::tuple<RangeBase, Fault>> {
     RangeConstant() { base().addNamedRange(engine); }
 
     static const RangeBase& base() { return std::get<RangeBase>(GetParam()); }

@@ -53,8 +53,7 @@ const NamingFault namingFaults[] = {
      "of the expected type."},
 };
 
-class StringParameterNaming : public testing::TestWithParam<NamingFault> {
-protected:
+struct StringParameterNaming : testing::TestWithParam<NamingFault> {
     static StringParameter parameter() {
         return StringParameter(coreOf("p", GetParam().group), specOf(GetParam().spec), setOf(GetParam().third, {"a"}));
     }
@@ -145,8 +144,7 @@ const UnfitRange unfitRanges[] = {
      "values."},
 };
 
-class UnfitStringRange : public testing::TestWithParam<UnfitRange> {
-protected:
+struct UnfitStringRange : testing::TestWithParam<UnfitRange> {
     const StringParameter parameter{coreOf("p", GetParam().group), specOf(GetParam().spec), GetParam().range};
     ParametersEngine engine = stocked();
 };
@@ -179,8 +177,7 @@ const TypeIdFault typeIdFaults[] = {
      "Schema with typeid norvex.range:range.string-1.0.0 is already registered."},
 };
 
-class StringParameterTypeId : public testing::TestWithParam<TypeIdFault> {
-protected:
+struct StringParameterTypeId : testing::TestWithParam<TypeIdFault> {
     // All that it names is missing, too, and its own range repeats a value.
     const StringParameter parameter{coreOf(GetParam().typeId, "x"), specOf("y"), setOf("z", {"a", "a"})};
     ParametersEngine engine = stocked();

@@ -165,8 +165,7 @@ const std::vector<Fault> inlineFaults = {
     {"ExpressionBehindDefault", inlineText(defaultAndRegexBase, "{}"), noRegex},
 };
 
-class StringParameterInlineFault : public testing::TestWithParam<Fault> {
-protected:
+struct StringParameterInlineFault : testing::TestWithParam<Fault> {
     ParametersEngine engine;
 };
 
