@@ -37,7 +37,7 @@ constexpr std::array namings{
 } // namespace
 
 const Kind* expectedKind(const Kind& schemaKind, std::string_view definitionId) {
-    const auto found = std::find_if(namings.begin(), namings.end(), [&](const Naming& naming) {
+    const auto* const found = std::find_if(namings.begin(), namings.end(), [&](const Naming& naming) {
         return naming.definitionId == definitionId && (naming.schemaKind.empty() || naming.schemaKind == schemaKind.id);
     });
     return found == namings.end() ? nullptr : kindOfId(found->expected);

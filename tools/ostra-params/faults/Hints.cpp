@@ -58,7 +58,7 @@ std::string Hints::hintFor(const Source& source, const Heading& heading, const s
 }
 
 std::string Hints::forBase(const std::string& base) const {
-    if (entries_.count(base) > 0) {
+    if (entries_.contains(base)) {
         return "only built-in bases can be inherited, and this is another schema.";
     }
     std::vector<std::string_view> bases;

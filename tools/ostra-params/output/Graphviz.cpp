@@ -45,6 +45,7 @@ std::string labelOf(const Graph::Node& node) {
 /// Runs a program and returns whether it came to a good end.
 bool run(std::vector<std::string> arguments) {
     std::vector<char*> pointers;
+    pointers.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) {
         pointers.push_back(argument.data());
     }
