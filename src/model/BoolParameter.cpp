@@ -42,9 +42,9 @@ BoolParameterKind::Record BoolParameterKind::recordOf(const BoolParameter& param
 
 BoolParameter BoolParameterKind::build(const Record& record, const Finder& finder) {
     auto core = buildParameterCore(record, finder);
-    auto spec = finder.requireOrStandIn<BoolSpecKind>(record.spec(), record.typeId(), record.givenSpec);
+    const auto spec = finder.requireOrStandIn<BoolSpecKind>(record.spec(), record.typeId(), record.givenSpec);
     return Access::make<BoolParameter>(
-        std::make_shared<const BoolParameterData>(BoolParameterData{std::move(core), std::move(spec)}));
+        std::make_shared<const BoolParameterData>(BoolParameterData{std::move(core), spec}));
 }
 
 Ostra::JSON BoolParameterKind::write(const BoolParameter& parameter) {

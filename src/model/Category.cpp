@@ -77,13 +77,13 @@ namespace Internal {
 namespace {
 
 MajorCategoryComponent buildMajor(const CategoryKind::Record& record, const Finder& finder) {
-    auto domain = finder.require<DomainKind>(record.references[0], record.texts[0]);
+    const Taxon domain = finder.require<DomainKind>(record.references[0], record.texts[0]);
     std::vector<Taxon> disciplines;
     disciplines.reserve(record.references.size() - 1);
     for (std::size_t i = 1; i < record.references.size(); ++i) {
         disciplines.push_back(finder.requireOrStandIn<DisciplineKind>(record.references[i], record.texts[0]));
     }
-    return majorOf({std::move(domain), std::move(disciplines)});
+    return majorOf({domain, std::move(disciplines)});
 }
 
 SubCategoryComponent buildSub(const CategoryKind::Record& record, const Finder& finder) {

@@ -107,11 +107,11 @@ EnumerationParameter EnumerationParameterKind::build(const Record& record, const
     auto core = buildParameterCore(record, finder);
     // Of two things missing, resolution names the spec, binding the enumeration.
     if (finder.binds()) {
-        auto enumeration = findEnumeration();
-        return parameterOf({std::move(core), findSpec(), std::move(enumeration)});
+        const auto enumeration = findEnumeration();
+        return parameterOf({std::move(core), findSpec(), enumeration});
     }
-    auto spec = findSpec();
-    return parameterOf({std::move(core), std::move(spec), findEnumeration()});
+    const auto spec = findSpec();
+    return parameterOf({std::move(core), spec, findEnumeration()});
 }
 
 Ostra::JSON EnumerationParameterKind::write(const EnumerationParameter& parameter) {

@@ -47,11 +47,11 @@ IntParameter IntParameterKind::build(const Record& record, const Finder& finder)
     auto core = buildParameterCore(record, finder);
     // Of two things missing, resolution names the spec, binding the range.
     if (finder.binds()) {
-        auto range = record.findRange<IntRangeKind>(finder);
-        return makeRanged<IntParameter>(std::move(core), findSpec(), std::move(range));
+        const auto range = record.findRange<IntRangeKind>(finder);
+        return makeRanged<IntParameter>(std::move(core), findSpec(), range);
     }
-    auto spec = findSpec();
-    return makeRanged<IntParameter>(std::move(core), std::move(spec), record.findRange<IntRangeKind>(finder));
+    const auto spec = findSpec();
+    return makeRanged<IntParameter>(std::move(core), spec, record.findRange<IntRangeKind>(finder));
 }
 
 Ostra::JSON IntParameterKind::write(const IntParameter& parameter) {

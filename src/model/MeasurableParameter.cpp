@@ -37,9 +37,9 @@ MeasurableParameterKind::Record MeasurableParameterKind::recordOf(const Measurab
 
 MeasurableParameter MeasurableParameterKind::build(const Record& record, const Finder& finder) {
     auto core = buildParameterCore(record, finder);
-    auto spec = finder.require<MeasurableSpecKind>(record.spec(), record.typeId());
-    auto range = record.findRange<FloatRangeKind>(finder);
-    return makeRanged<MeasurableParameter>(std::move(core), std::move(spec), std::move(range));
+    const auto spec = finder.require<MeasurableSpecKind>(record.spec(), record.typeId());
+    const auto range = record.findRange<FloatRangeKind>(finder);
+    return makeRanged<MeasurableParameter>(std::move(core), spec, range);
 }
 
 Ostra::JSON MeasurableParameterKind::write(const MeasurableParameter& parameter) {

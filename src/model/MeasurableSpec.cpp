@@ -52,7 +52,7 @@ FoundUnits findUnits(const MeasurableSpecKind::Record& record, const Finder& fin
 }
 
 MeasurableSpec specOf(SpecCoreData core, FoundUnits units) {
-    return Parameters::specOf({std::move(core), std::move(units.applicable), std::move(units.storage)});
+    return Parameters::specOf({std::move(core), std::move(units.applicable), units.storage});
 }
 
 } // namespace

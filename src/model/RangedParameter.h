@@ -24,10 +24,9 @@ struct RangedParameterData {
 };
 
 template <class Parameter, class Spec, class Range>
-Parameter makeRanged(ParameterCoreData core, Spec spec, Range range) {
+Parameter makeRanged(ParameterCoreData core, const Spec& spec, const Range& range) {
     using Data = RangedParameterData<Spec, Range>;
-    return Access::make<Parameter>(
-        std::make_shared<const Data>(Data{std::move(core), std::move(spec), std::move(range)}));
+    return Access::make<Parameter>(std::make_shared<const Data>(Data{std::move(core), spec, range}));
 }
 
 /// The record of a parameter that has a range.

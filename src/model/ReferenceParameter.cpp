@@ -127,10 +127,10 @@ ReferenceParameterKind::Record ReferenceParameterKind::recordOf(const ReferenceP
 
 ReferenceParameter ReferenceParameterKind::build(const Record& record, const Finder& finder) {
     auto core = buildParameterCore(record, finder);
-    auto spec = BuiltIn::familyType.isIn(record.spec())
-                    ? buildFamilyType(record, finder)
-                    : finder.requireOrUsualStandIn<ReferenceSpecKind>(record.spec(), record.typeId());
-    return parameterOf({std::move(core), std::move(spec), record.ranged});
+    const auto spec = BuiltIn::familyType.isIn(record.spec())
+                          ? buildFamilyType(record, finder)
+                          : finder.requireOrUsualStandIn<ReferenceSpecKind>(record.spec(), record.typeId());
+    return parameterOf({std::move(core), spec, record.ranged});
 }
 
 Ostra::JSON ReferenceParameterKind::write(const ReferenceParameter& parameter) {

@@ -48,11 +48,11 @@ StringParameter StringParameterKind::build(const Record& record, const Finder& f
         if (record.ownRange) {
             StringRangeKind::check(*record.ownRange);
         }
-        auto range = record.findRange<StringRangeKind>(finder);
-        return makeRanged<StringParameter>(std::move(core), findSpec(), std::move(range));
+        const auto range = record.findRange<StringRangeKind>(finder);
+        return makeRanged<StringParameter>(std::move(core), findSpec(), range);
     }
-    auto spec = findSpec();
-    return makeRanged<StringParameter>(std::move(core), std::move(spec), record.findRange<StringRangeKind>(finder));
+    const auto spec = findSpec();
+    return makeRanged<StringParameter>(std::move(core), spec, record.findRange<StringRangeKind>(finder));
 }
 
 Ostra::JSON StringParameterKind::write(const StringParameter& parameter) {
