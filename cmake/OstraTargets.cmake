@@ -39,6 +39,8 @@ function(ostra_add_library target)
     string(TOLOWER ${name} folder)
     set(generated ${CMAKE_CURRENT_BINARY_DIR}/include)
     set(export_header ${generated}/${folder}/Export.h)
+    set(version_header ${generated}/${folder}/Version.h)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/Version.h.in ${version_header} @ONLY)
     file(GLOB headers CONFIGURE_DEPENDS ${arg_HEADERS}/${folder}/*.h)
 
     add_library(${target}Objects OBJECT ${arg_SOURCES})
@@ -51,7 +53,8 @@ function(ostra_add_library target)
     add_library(Ostra::${name} ALIAS ${target})
     generate_export_header(${target} BASE_NAME ${macro} EXPORT_FILE_NAME ${export_header})
     target_sources(
-        ${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${arg_HEADERS} ${generated} FILES ${headers} ${export_header}
+        ${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${arg_HEADERS} ${generated}
+                         FILES ${headers} ${export_header} ${version_header}
     )
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_link_libraries(${target} PUBLIC ${arg_LINKS})

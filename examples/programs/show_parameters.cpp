@@ -1,36 +1,17 @@
 // Loads a folder of schema files, one schema a file, and shows the first parameter of each kind with what it names.
 
+#include "Files.h"
+
 #include <parameters/ParametersEngine.h>
 
-#include <filesystem>
-#include <fstream>
+#include <exception>
 #include <iostream>
-#include <iterator>
 #include <map>
 #include <string>
 
 using namespace Parameters;
 
 namespace {
-
-std::string textOf(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-/// Loads everything below a folder in one batch: units go to the units engine by themselves.
-ParametersEngine load(const std::filesystem::path& folder) {
-    std::map<std::string, std::string> texts;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-        if (entry.path().extension() == ".json") {
-            // The keys only tell what is registered already from what is not; a path does as well as a typeid.
-            texts.emplace(entry.path().string(), textOf(entry.path()));
-        }
-    }
-    ParametersEngine engine;
-    engine.registerSchemas(texts);
-    return engine;
-}
 
 std::string boundsOf(bool fromBottom, const std::string& bottom, bool fromTop, const std::string& top) {
     if (!fromBottom && !fromTop) {
@@ -101,7 +82,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        const ParametersEngine engine = load(argv[1]);
+        ParametersEngine engine;
+        engine.registerSchemas(textsIn(argv[1])); // units go to the units engine by themselves
         show("Boolean", engine.getAllBoolParameters());
         show("integer", engine.getAllIntParameters());
         show("string", engine.getAllStringParameters());

@@ -13,20 +13,28 @@ struct Access;
 struct SpecCoreData;
 } // namespace Internal
 
-/// The spec of a Boolean parameter. Copies share their data.
+/// The spec of a Boolean parameter.
+/// @ingroup values
 class PARAMETERS_EXPORT BoolSpec {
 public:
+    /// Makes a spec that is its core and nothing more.
     explicit BoolSpec(const SpecCore& core);
+    /// Copies share their data; moving copies.
+    /// @{
     BoolSpec(const BoolSpec&) noexcept = default;
     BoolSpec& operator=(const BoolSpec&) noexcept = default;
+    /// @}
 
+    /// Returns what all specs have in common: the type identifier, the name and the discipline.
     SpecCore getCore() const;
 
-    /// Comparisons are by identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// @{
     bool operator==(const BoolSpec& other) const noexcept;
     bool operator!=(const BoolSpec& other) const noexcept;
     bool operator<(const BoolSpec& other) const noexcept;
     bool operator>(const BoolSpec& other) const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;

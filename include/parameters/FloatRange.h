@@ -14,30 +14,40 @@ template <class Number>
 struct NumericRangeData;
 } // namespace Internal
 
-/// The bounds of the values of a measurable parameter. Copies share their data.
+/// The bounds of the values of a measurable parameter.
 ///
 /// A boundary is kept whatever its flag says, and the two are in no order: a range describes and tests nothing.
+/// @ingroup values
 class PARAMETERS_EXPORT FloatRange {
 public:
+    /// Makes a range to be registered under its own type identifier. Nothing is checked.
     FloatRange(const std::string& typeId, bool fromBottom, double bottomBoundary, bool fromTop, double topBoundary);
-    /// The type identifier is the built-in one: such a range belongs to the parameter that has it.
+    /// Makes a range with the built-in type identifier: such a range belongs to the parameter that has it.
     FloatRange(bool fromBottom, double bottomBoundary, bool fromTop, double topBoundary);
+    /// Copies share their data; moving copies.
+    /// @{
     FloatRange(const FloatRange&) noexcept = default;
     FloatRange& operator=(const FloatRange&) noexcept = default;
+    /// @}
 
+    /// Returns the identifier by which the range is known.
     std::string getTypeId() const;
+    /// Returns whether the values have a lower bound.
     bool isBoundFromBottom() const;
     /// Returns the lower bound; it has a meaning only where isBoundFromBottom().
     double getBottomBoundary() const;
+    /// Returns whether the values have an upper bound.
     bool isBoundFromTop() const;
     /// Returns the upper bound; it has a meaning only where isBoundFromTop().
     double getTopBoundary() const;
 
-    /// Comparisons are by identity: the bytes of the type identifier alone decide, nothing else takes part.
+    /// Compares identity: the bytes of the type identifier alone decide, nothing else takes part.
+    /// @{
     bool operator==(const FloatRange& other) const noexcept;
     bool operator!=(const FloatRange& other) const noexcept;
     bool operator<(const FloatRange& other) const noexcept;
     bool operator>(const FloatRange& other) const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;

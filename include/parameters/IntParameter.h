@@ -16,24 +16,34 @@ template <class Spec, class Range>
 struct RangedParameterData;
 } // namespace Internal
 
-/// A parameter whose values are 64-bit integers within a range. Copies share their data.
+/// A parameter whose values are 64-bit integers within a range.
+/// @ingroup values
 class PARAMETERS_EXPORT IntParameter {
 public:
-    /// The spec is the built-in one, "Integer".
+    /// Makes a parameter of the built-in spec, "Integer".
     IntParameter(const ParameterCore& core, const IntRange& range);
+    /// Makes a parameter of a core, a spec and a range. Nothing is checked before it is registered.
     IntParameter(const ParameterCore& core, const IntSpec& spec, const IntRange& range);
+    /// Copies share their data; moving copies.
+    /// @{
     IntParameter(const IntParameter&) noexcept = default;
     IntParameter& operator=(const IntParameter&) noexcept = default;
+    /// @}
 
+    /// Returns what all parameters have in common: the type identifier, the name, the group and more.
     ParameterCore getCore() const;
+    /// Returns the spec.
     IntSpec getSpec() const;
+    /// Returns the bounds of the values; unbounded on both sides where the schema has no range.
     IntRange getRange() const;
 
-    /// Comparisons are by identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// @{
     bool operator==(const IntParameter& other) const noexcept;
     bool operator!=(const IntParameter& other) const noexcept;
     bool operator<(const IntParameter& other) const noexcept;
     bool operator>(const IntParameter& other) const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;

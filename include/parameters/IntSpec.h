@@ -13,20 +13,28 @@ struct Access;
 struct SpecCoreData;
 } // namespace Internal
 
-/// The spec of an integer parameter. Copies share their data.
+/// The spec of an integer parameter.
+/// @ingroup values
 class PARAMETERS_EXPORT IntSpec {
 public:
+    /// Makes a spec that is its core and nothing more.
     explicit IntSpec(const SpecCore& core);
+    /// Copies share their data; moving copies.
+    /// @{
     IntSpec(const IntSpec&) noexcept = default;
     IntSpec& operator=(const IntSpec&) noexcept = default;
+    /// @}
 
+    /// Returns what all specs have in common: the type identifier, the name and the discipline.
     SpecCore getCore() const;
 
-    /// Comparisons are by identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// @{
     bool operator==(const IntSpec& other) const noexcept;
     bool operator!=(const IntSpec& other) const noexcept;
     bool operator<(const IntSpec& other) const noexcept;
     bool operator>(const IntSpec& other) const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;

@@ -14,13 +14,19 @@ struct Access;
 struct MajorCategoryComponentData;
 } // namespace Internal
 
-/// What makes a category a major one: its domain and the disciplines that use it. Copies share their data.
+/// What makes a category a major one: its domain and the disciplines that use it.
+/// @ingroup values
 class PARAMETERS_EXPORT MajorCategoryComponent {
 public:
+    /// Makes the component of a domain and disciplines, which may be none and keep their order.
     MajorCategoryComponent(const Taxon& domain, const std::vector<Taxon>& disciplines);
+    /// Copies share their data; moving copies.
+    /// @{
     MajorCategoryComponent(const MajorCategoryComponent&) noexcept = default;
     MajorCategoryComponent& operator=(const MajorCategoryComponent&) noexcept = default;
+    /// @}
 
+    /// Returns the domain to which the category belongs.
     Taxon getDomain() const;
     /// Returns the disciplines in the order given; there may be none.
     std::vector<Taxon> getDisciplines() const;

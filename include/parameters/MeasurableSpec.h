@@ -16,26 +16,34 @@ struct Access;
 struct MeasurableSpecData;
 } // namespace Internal
 
-/// The spec of a measurable parameter: a physical quantity with its units. Copies share their data.
+/// The spec of a measurable parameter: a physical quantity with its units.
+/// @ingroup values
 class PARAMETERS_EXPORT MeasurableSpec {
 public:
-    /// The storage unit need not be among the applicable units, which are kept in their order, repeated ones too.
+    /// Makes a spec. The storage unit need not be among the applicable units, which are kept in their order, repeated
+    /// ones too.
     MeasurableSpec(const SpecCore& core, const std::vector<Units::Unit>& applicableUnits,
                    const Units::Unit& storageUnit);
+    /// Copies share their data; moving copies.
+    /// @{
     MeasurableSpec(const MeasurableSpec&) noexcept = default;
     MeasurableSpec& operator=(const MeasurableSpec&) noexcept = default;
+    /// @}
 
+    /// Returns what all specs have in common: the type identifier, the name and the discipline.
     SpecCore getCore() const;
     /// Returns the units in which values may be shown, in the order given; there may be none.
     std::vector<Units::Unit> getApplicableUnits() const;
     /// Returns the unit in which values are stored.
     Units::Unit getStorageUnit() const;
 
-    /// Comparisons are by identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// @{
     bool operator==(const MeasurableSpec& other) const noexcept;
     bool operator!=(const MeasurableSpec& other) const noexcept;
     bool operator<(const MeasurableSpec& other) const noexcept;
     bool operator>(const MeasurableSpec& other) const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;

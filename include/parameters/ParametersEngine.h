@@ -52,6 +52,12 @@ class Engine;
 /// Every operation that throws, std::bad_alloc included, leaves the engine as it was, save where it says otherwise.
 /// An engine is not to be used from two threads at once while one of them changes it; calls of const operations alone
 /// may run side by side, and so may copies in different threads.
+///
+/// Costs are told in numbers of objects; where none is told, an operation costs the same however many the engine holds,
+/// and time in proportion to the texts that it reads or writes. Beyond the limits (2^31 objects, 4 GiB of texts in one
+/// object) std::length_error is thrown.
+///
+/// @include minimal.cpp
 class PARAMETERS_EXPORT ParametersEngine {
 public:
     /// Makes an empty engine. Nothing is registered beforehand: built-in identifiers are recognised, not stored.
@@ -59,17 +65,28 @@ public:
     /// Copies an engine with all that it holds; the two are independent afterwards. What they hold is shared until one
     /// of them changes, so that the cost does not grow with the number of objects (the units engine is copied as it
     /// is); the first change of either then costs a copy of its tables.
+    /// @{
     ParametersEngine(const ParametersEngine& other);
     ParametersEngine& operator=(const ParametersEngine& other);
-    /// A moved-from engine may only be destroyed or assigned to.
+    /// @}
+    /// Takes over another engine whole, its units engine too. A moved-from engine may only be destroyed or assigned to.
+    /// @{
     ParametersEngine(ParametersEngine&& other) noexcept;
     ParametersEngine& operator=(ParametersEngine&& other) noexcept;
+    /// @}
+    /// Destroys the engine. What it has handed out stays as it is.
     ~ParametersEngine();
+
+    /// Returns the version of the library that runs, such as "1.0.0". The one that a program was compiled with is
+    /// PARAMETERS_VERSION of parameters/Version.h.
+    static std::string libraryVersion();
 
     /// Returns the object of a kind and type identifier. Only resolved objects are found. Disciplines, groups and
     /// Boolean, integer, reference and string specs have a built-in object: an identifier that contains the version
-    /// prefix of the kind's built-in identifier gives that object under exactly this identifier.
-    /// @throws UnrecognizedIdentifierException "Could not find K with typeid T.", where K is the kind's name.
+    /// prefix of the kind's built-in identifier gives that object under exactly this identifier. Costs one look-up, and
+    /// no copy: what is returned shares its data with the engine.
+    /// @throws UnrecognizedIdentifierException "Could not find K with typeid T.", where K is the kind's name: "integer
+    ///         range", "Boolean spec" and so on.
     /// @{
     Enumeration getEnumeration(const std::string& typeId) const;
     FloatRange getFloatRange(const std::string& typeId) const;
@@ -93,7 +110,8 @@ public:
     Category getCategory(const std::string& typeId) const;
     /// @}
 
-    /// Returns all resolved objects of a kind by type identifier, in its byte order.
+    /// Returns all resolved objects of a kind by type identifier, in its byte order; built-in objects are not among
+    /// them. Costs time in proportion to their number; the first list after a change also sorts what is new.
     /// @{
     std::map<std::string, Enumeration> getAllEnumerations() const;
     std::map<std::string, FloatRange> getAllFloatRanges() const;
@@ -121,9 +139,11 @@ public:
     /// registered objects take the place of those that it was made with.
     /// @throws ValidationException "Typeid must not be empty."
     /// @throws ValidationException "Schema with typeid T is already registered." if T names anything at all: a schema
-    /// or
-    ///         object of any kind, a unit, or a built-in identifier.
+    ///         or object of any kind, a unit, or a built-in identifier.
     /// @throws ValidationException "Could not find K with typeid T." if the object names something that is not there.
+    /// @throws ValidationException if the object itself is faulty: an enumeration without values or with one twice, a
+    ///         string range with a value twice, a string parameter whose range is not what its base says, a subcategory
+    ///         of a subcategory, a family type without a category. @ref errors "Errors" has the messages.
     /// @{
     void registerEnumeration(const Enumeration& enumeration);
     void registerFloatRange(const FloatRange& range);
@@ -151,17 +171,21 @@ public:
     /// contains a built-in identifier.
     bool isRegistered(const std::string& typeId) const;
 
-    /// Returns the units engine, through which units can be registered and resolved directly.
+    /// Returns the units engine, through which units can be registered and resolved directly. The reference is good
+    /// until the engine is assigned to, moved from or destroyed.
     Units::UnitsEngine& getUnitsEngine();
 
     /// Returns what values a parameter schema describes; None for other kinds, for enumeration parameters, and for a
-    /// text that its kind refuses. Nothing is registered.
-    /// @throws ValidationException if the text is no schema.
+    /// text that its kind refuses. Nothing is registered, and whether the type identifier is taken does not matter.
+    /// @throws ValidationException if the text is no schema: it is not JSON, or its "typeid", "inherits", "constants"
+    ///         or "properties" are not what they must be.
     ValueType readValueType(const std::string& schemaText) const;
 
     /// Returns the parameter that a schema text describes, with what it names as registered. Nothing is registered.
-    /// @throws ValidationException if the text is no schema of that kind, or its type identifier is taken, or it names
-    ///         something that is not registered.
+    /// @throws ValidationException if the text is no schema, or one with a fault that its kind finds.
+    /// @throws ValidationException "Inheritance from an incorrect base schema." if the text is of another kind.
+    /// @throws ValidationException "Schema with typeid T is already registered."
+    /// @throws ValidationException "Could not find K with typeid T." if it names something that is not registered.
     /// @{
     BoolParameter readBoolParameter(const std::string& schemaText) const;
     IntParameter readIntParameter(const std::string& schemaText) const;
@@ -172,12 +196,18 @@ public:
 
     /// Registers a schema; its object is there after resolveSchemas. Unit schemas are not accepted.
     /// @return the type identifiers that the schema names and that are not registered yet: schemas first, then units.
-    /// @throws ValidationException if the text is no schema, or its type identifier is taken.
-    /// @throws ValidationException "Inheritance from an unrecognized base schema."
+    /// @throws ValidationException if the text is no schema, or one with a fault that its kind finds.
+    /// @throws ValidationException "Schema with typeid T is already registered." if T is that of a schema or object, of
+    ///         a unit, or built in.
+    /// @throws ValidationException "Inheritance from an unrecognized base schema." if it is of no kind of this engine.
+    ///
+    /// An application that gets its schemas one by one asks for what is missing until nothing is:
+    /// @snippet register_missing.cpp missing
     std::pair<std::set<std::string>, std::set<std::string>> registerSchema(const std::string& schemaText);
 
     /// Registers schemas, unit schemas among them, in ascending order of their keys, then resolves. The keys are type
-    /// identifiers; entries whose key is taken are passed over unread, so that a batch may be registered again.
+    /// identifiers; entries whose key is taken are passed over unread, so that a batch may be registered again. Costs
+    /// what registerSchema for each entry and resolveSchemas do.
     /// @throws ValidationException as registerSchema and resolveSchemas do. Entries before a refused one stay pending,
     ///         entries after it are not looked at, and nothing is resolved.
     /// @throws Units::ValidationException if the units engine refuses a schema that no kind of this engine accepts.
@@ -185,14 +215,18 @@ public:
 
     /// Turns all pending schemas, units first, into objects; schemas may name each other in whatever order they were
     /// registered. All or nothing: when it throws, pending schemas stay pending and no object is added, save that
-    /// the units engine may have resolved its own.
+    /// the units engine may have resolved its own. Costs time in proportion to the number of pending schemas.
     /// @throws ValidationException "Dependency T in schema S is missing or does not represent an object of the expected
     ///         type."
+    /// @throws ValidationException "Typeid T for storageUnit constant in measurable spec schema S does not belong to a
+    ///         unit.", or "... in applicableUnits constant ...".
+    /// @throws ValidationException "Parent T of subcategory schema S is not a major category."
     void resolveSchemas();
 
     /// Returns what resolveSchemas could not build now: the type identifier of each such pending schema, in byte order,
     /// with the message that resolution would raise for it. A schema that names one of these is among them. Empty
-    /// exactly when resolveSchemas would succeed. Costs about what resolveSchemas does.
+    /// exactly when resolveSchemas would succeed. Costs about what resolveSchemas does, and a copy of the units engine.
+    /// @snippet load_folder.cpp faults
     /// @throws whatever the units engine throws when its pending units, which are tried on a copy, do not resolve.
     std::map<std::string, std::string> findUnresolvable() const;
 
@@ -204,7 +238,8 @@ public:
     /// @throws UnrecognizedIdentifierException "Could not find any object with typeid T.", also for the kinds that name
     ///         nothing: enumerations, ranges, disciplines, domains and groups.
     std::set<std::string> getDependencies(const std::string& typeId) const;
-    /// Returns the type identifiers that a parameter made in code names. It is checked as if it were registered.
+    /// Returns the type identifiers that a parameter made in code names, built-in ones included. It is checked as if it
+    /// were registered.
     /// @throws ValidationException as registering it would.
     /// @{
     std::set<std::string> getDependencies(const BoolParameter& parameter) const;
@@ -216,7 +251,9 @@ public:
 
     /// Returns the schema of a resolved object, as JSON text without blanks. It is written from the object and leaves
     /// out what equals its default.
-    /// @throws UnrecognizedIdentifierException "Could not find any object with typeid T."
+    /// @throws UnrecognizedIdentifierException "Could not find any object with typeid T.", also for those built in.
+    /// @throws ValidationException "Schema T has a number that is not finite." if a range's bound is infinite or no
+    ///         number, which only one made in code can be.
     std::string getSchema(const std::string& typeId) const;
     /// Returns the schema of a parameter made in code. It is checked as if it were registered.
     /// @throws ValidationException as registering it would.

@@ -15,27 +15,36 @@ struct Access;
 struct ReferenceParameterData;
 } // namespace Internal
 
-/// A parameter whose values are references to objects of the host's model. Copies share their data.
+/// A parameter whose values are references to objects of the host's model.
+/// @ingroup values
 class PARAMETERS_EXPORT ReferenceParameter {
 public:
-    /// The spec is the built-in one for family types, "Family Type", of that category.
+    /// Makes a parameter of the built-in spec for family types, "Family Type", of that category.
     ReferenceParameter(const ParameterCore& core, const Category& category, bool ranged);
+    /// Makes a parameter of a core and a spec. Nothing is checked before it is registered.
     ReferenceParameter(const ParameterCore& core, const ReferenceSpec& spec, bool ranged);
-    /// The spec is the built-in one, "Reference", without a category.
+    /// Makes a parameter of the built-in spec, "Reference", which has no category.
     ReferenceParameter(const ParameterCore& core, bool ranged);
+    /// Copies share their data; moving copies.
+    /// @{
     ReferenceParameter(const ReferenceParameter&) noexcept = default;
     ReferenceParameter& operator=(const ReferenceParameter&) noexcept = default;
+    /// @}
 
+    /// Returns what all parameters have in common: the type identifier, the name, the group and more.
     ParameterCore getCore() const;
+    /// Returns the spec, which may limit references to one category.
     ReferenceSpec getSpec() const;
-    /// Returns whether the parameter's schema is of the ranged base.
+    /// Returns whether the parameter's schema is of the ranged base. Nothing else hangs on it.
     bool isRanged() const;
 
-    /// Comparisons are by identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// @{
     bool operator==(const ReferenceParameter& other) const noexcept;
     bool operator!=(const ReferenceParameter& other) const noexcept;
     bool operator<(const ReferenceParameter& other) const noexcept;
     bool operator>(const ReferenceParameter& other) const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;

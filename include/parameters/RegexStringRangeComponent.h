@@ -13,15 +13,21 @@ struct Access;
 struct RegexStringRangeComponentData;
 } // namespace Internal
 
-/// The limitation of a string range to what a regular expression matches. Copies share their data.
+/// The limitation of a string range to what a regular expression matches.
 ///
 /// The expression is kept as text; it is neither checked nor matched.
+/// @ingroup values
 class PARAMETERS_EXPORT RegexStringRangeComponent {
 public:
+    /// Keeps the expression as it is.
     explicit RegexStringRangeComponent(const std::string& regex);
+    /// Copies share their data; moving copies.
+    /// @{
     RegexStringRangeComponent(const RegexStringRangeComponent&) noexcept = default;
     RegexStringRangeComponent& operator=(const RegexStringRangeComponent&) noexcept = default;
+    /// @}
 
+    /// Returns the expression.
     std::string getRegex() const;
 
 private:

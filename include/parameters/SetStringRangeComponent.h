@@ -14,13 +14,17 @@ struct Access;
 struct SetStringRangeComponentData;
 } // namespace Internal
 
-/// The limitation of a string range to certain values. Copies share their data.
+/// The limitation of a string range to certain values.
+/// @ingroup values
 class PARAMETERS_EXPORT SetStringRangeComponent {
 public:
     /// Keeps the values in their order, without any check.
     explicit SetStringRangeComponent(const std::vector<std::string>& allowedValues);
+    /// Copies share their data; moving copies.
+    /// @{
     SetStringRangeComponent(const SetStringRangeComponent&) noexcept = default;
     SetStringRangeComponent& operator=(const SetStringRangeComponent&) noexcept = default;
+    /// @}
 
     /// Returns the allowed values in the order given.
     std::vector<std::string> getAllowedValues() const;

@@ -14,24 +14,34 @@ struct Access;
 struct SpecCoreData;
 } // namespace Internal
 
-/// What all specs have in common. Copies share their data.
+/// What all specs have in common.
+/// @ingroup values
 class PARAMETERS_EXPORT SpecCore {
 public:
-    /// The discipline is the built-in one, "Common".
+    /// Makes a core with the built-in discipline, "Common".
     SpecCore(const std::string& typeId, const std::string& name);
+    /// Makes a core with a discipline.
     SpecCore(const std::string& typeId, const std::string& name, const Taxon& discipline);
+    /// Copies share their data; moving copies.
+    /// @{
     SpecCore(const SpecCore&) noexcept = default;
     SpecCore& operator=(const SpecCore&) noexcept = default;
+    /// @}
 
+    /// Returns the identifier by which the spec is known.
     std::string getTypeId() const;
+    /// Returns the name to show.
     std::string getName() const;
+    /// Returns the discipline that is responsible for what the spec describes.
     Taxon getDiscipline() const;
 
-    /// Comparisons are by identity: the bytes of the type identifier alone decide, nothing else takes part.
+    /// Compares identity: the bytes of the type identifier alone decide, nothing else takes part.
+    /// @{
     bool operator==(const SpecCore& other) const noexcept;
     bool operator!=(const SpecCore& other) const noexcept;
     bool operator<(const SpecCore& other) const noexcept;
     bool operator>(const SpecCore& other) const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;

@@ -17,31 +17,39 @@ struct StringRangeData;
 } // namespace Internal
 
 /// Which texts a string parameter may have as values: any, those of a set, or those that a regular expression matches.
-/// Copies share their data.
+/// @ingroup values
 class PARAMETERS_EXPORT StringRange {
 public:
-    /// Any text; the type identifier is the built-in one of the default range.
+    /// Makes the range of any text, with the built-in type identifier of the default range.
     StringRange();
-    /// The type identifier is the built-in one of set ranges: such a range belongs to the parameter that has it.
+    /// Makes a set range with the built-in type identifier: such a range belongs to the parameter that has it.
     explicit StringRange(const SetStringRangeComponent& set);
-    /// The type identifier is the built-in one of regex ranges: such a range belongs to the parameter that has it.
+    /// Makes a regex range with the built-in type identifier: such a range belongs to the parameter that has it.
     explicit StringRange(const RegexStringRangeComponent& regex);
+    /// Makes a set range to be registered under its own type identifier.
     StringRange(const std::string& typeId, const SetStringRangeComponent& set);
+    /// Makes a regex range to be registered under its own type identifier.
     StringRange(const std::string& typeId, const RegexStringRangeComponent& regex);
+    /// Copies share their data; moving copies.
+    /// @{
     StringRange(const StringRange&) noexcept = default;
     StringRange& operator=(const StringRange&) noexcept = default;
+    /// @}
 
+    /// Returns the identifier by which the range is known.
     std::string getTypeId() const;
     /// Returns the set of allowed values, where the range has one.
     std::optional<SetStringRangeComponent> getSetStringRangeComponent() const;
     /// Returns the regular expression, where the range has one.
     std::optional<RegexStringRangeComponent> getRegexStringRangeComponent() const;
 
-    /// Comparisons are by identity: the bytes of the type identifier alone decide, nothing else takes part.
+    /// Compares identity: the bytes of the type identifier alone decide, nothing else takes part.
+    /// @{
     bool operator==(const StringRange& other) const noexcept;
     bool operator!=(const StringRange& other) const noexcept;
     bool operator<(const StringRange& other) const noexcept;
     bool operator>(const StringRange& other) const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;

@@ -13,20 +13,28 @@ struct Access;
 struct SpecCoreData;
 } // namespace Internal
 
-/// The spec of a string parameter. Copies share their data.
+/// The spec of a string parameter.
+/// @ingroup values
 class PARAMETERS_EXPORT StringSpec {
 public:
+    /// Makes a spec that is its core and nothing more.
     explicit StringSpec(const SpecCore& core);
+    /// Copies share their data; moving copies.
+    /// @{
     StringSpec(const StringSpec&) noexcept = default;
     StringSpec& operator=(const StringSpec&) noexcept = default;
+    /// @}
 
+    /// Returns what all specs have in common: the type identifier, the name and the discipline.
     SpecCore getCore() const;
 
-    /// Comparisons are by identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
+    /// @{
     bool operator==(const StringSpec& other) const noexcept;
     bool operator!=(const StringSpec& other) const noexcept;
     bool operator<(const StringSpec& other) const noexcept;
     bool operator>(const StringSpec& other) const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;

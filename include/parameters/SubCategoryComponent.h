@@ -13,13 +13,17 @@ struct Access;
 struct SubCategoryComponentData;
 } // namespace Internal
 
-/// What makes a category a subcategory: its parent. Copies share their data.
+/// What makes a category a subcategory: its parent.
+/// @ingroup values
 class PARAMETERS_EXPORT SubCategoryComponent {
 public:
-    /// The parent is the type identifier of a major category.
+    /// Makes the component of a parent: the type identifier of a major category.
     explicit SubCategoryComponent(const std::string& parentCategory);
+    /// Copies share their data; moving copies.
+    /// @{
     SubCategoryComponent(const SubCategoryComponent&) noexcept = default;
     SubCategoryComponent& operator=(const SubCategoryComponent&) noexcept = default;
+    /// @}
 
     /// Returns the type identifier of the parent.
     std::string getParentCategory() const;

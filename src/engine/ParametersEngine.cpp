@@ -1,6 +1,7 @@
 #include "engine/Engine.h"
 
 #include <parameters/ParametersEngine.h>
+#include <parameters/Version.h>
 
 namespace Parameters {
 
@@ -18,6 +19,8 @@ ParametersEngine::ParametersEngine(ParametersEngine&& other) noexcept = default;
 ParametersEngine& ParametersEngine::operator=(ParametersEngine&& other) noexcept = default;
 
 ParametersEngine::~ParametersEngine() = default;
+
+std::string ParametersEngine::libraryVersion() { return PARAMETERS_VERSION; }
 
 Enumeration ParametersEngine::getEnumeration(const std::string& typeId) const {
     return engine_->get<EnumerationKind>(typeId);

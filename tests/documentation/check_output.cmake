@@ -1,6 +1,13 @@
-# Runs PROGRAM and fails unless its whole output is the content of the file EXPECTED.
-execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+# Runs PROGRAM with ARGUMENTS and fails unless its whole output is the content of the file EXPECTED and its exit code is
+# STATUS (0 when none is given).
+execute_process(COMMAND ${PROGRAM} ${ARGUMENTS} OUTPUT_VARIABLE output RESULT_VARIABLE result)
 file(READ ${EXPECTED} expected)
 if(NOT "${output}" STREQUAL "${expected}")
     message(FATAL_ERROR "Expected:\n${expected}\nbut the program printed:\n${output}")
+endif()
+if(NOT DEFINED STATUS)
+    set(STATUS 0)
+endif()
+if(NOT result EQUAL STATUS)
+    message(FATAL_ERROR "Expected the exit code ${STATUS}, but it was ${result}.")
 endif()

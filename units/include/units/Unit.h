@@ -7,15 +7,17 @@
 
 namespace Units {
 
-/// A unit of measurement, such as the litre per second. Never changes after construction; copies share its data.
-///
-/// Only copying is declared: moving copies, so a unit that was moved from still answers.
+/// A unit of measurement, such as the litre per second. Never changes after construction.
+/// @ingroup values
 class UNITS_EXPORT Unit {
 public:
     /// Makes a unit from its typeid, its name and its symbol, which may be empty. Nothing is checked.
     Unit(std::string typeId, std::string name, std::string symbol);
+    /// Copies share their data; moving copies.
+    /// @{
     Unit(const Unit&) noexcept = default;
     Unit& operator=(const Unit&) noexcept = default;
+    /// @}
     ~Unit();
 
     /// Returns a copy of the typeid, by which the unit is known.

@@ -23,6 +23,7 @@ public:
     /// Makes an engine without units.
     UnitsEngine();
     /// Makes an engine with the same units and registered schemas; independent afterwards. The units share their data.
+    /// Costs time in proportion to their number.
     UnitsEngine(const UnitsEngine& other);
     /// Takes the other engine's units; it may only be assigned to or destroyed afterwards.
     UnitsEngine(UnitsEngine&& other) noexcept;
@@ -36,22 +37,24 @@ public:
     bool isRegistered(const std::string& typeId) const;
 
     /// Registers one unit schema. Returns the typeids that it needs and that are missing: none, as units need nothing.
-    /// @throws ValidationException if the text is no schema, its typeid is registered, its base is not that of units,
-    ///         or a constant is missing or of the wrong type.
+    /// @throws ValidationException if the text is no schema, or a constant is missing or of the wrong type.
+    /// @throws ValidationException "Inheritance from an unrecognized base schema."
+    /// @throws ValidationException "Schema with typeid T is already registered."
     std::set<std::string> registerSchema(const std::string& schemaText);
 
     /// Makes units of all registered schemas. Costs the same however many there are.
     void resolveSchemas();
 
-    /// Returns the unit of that typeid.
-    /// @throws ValidationException if there is none, or its schema is not resolved yet.
+    /// Returns the unit of that typeid. Costs one look-up.
+    /// @throws ValidationException "Could not find unit with typeid T." if there is none, or its schema is not resolved
+    ///         yet.
     Unit getUnit(const std::string& typeId) const;
 
-    /// Returns all units, by typeid in ascending byte order.
+    /// Returns all units, by typeid in ascending byte order. Costs time in proportion to their number.
     std::map<std::string, Unit> getAllUnits() const;
 
     /// Returns the typeids that the unit names: none, as units need nothing.
-    /// @throws ValidationException if there is no unit of that typeid, or its schema is not resolved yet.
+    /// @throws ValidationException "Could not find unit with typeid T." as getUnit does.
     std::set<std::string> getDependencies(const std::string& typeId) const;
 
 private:
