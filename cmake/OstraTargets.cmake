@@ -18,6 +18,10 @@ function(ostra_configure target)
         ${target}
         PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Wall -Wextra -Wpedantic -Wconversion -Wshadow>
     )
+    get_target_property(type ${target} TYPE)
+    if(OSTRA_PARAMETERS_FUZZERS AND type STREQUAL "OBJECT_LIBRARY") # the libraries' own code
+        target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link) # tells fuzzers what an input reaches
+    endif()
     set_target_properties(
         ${target}
         PROPERTIES CXX_EXTENSIONS OFF

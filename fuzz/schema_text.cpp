@@ -1,0 +1,75 @@
+#include "Fuzz.h"
+#include "support/Catalogue.h"
+
+#include <map>
+#include <string>
+
+// One text into registration, resolution and export, with an engine that holds a whole catalogue to name.
+
+namespace {
+
+using Parameters::ParametersEngine;
+
+ParametersEngine loaded() {
+    std::map<std::string, std::string> batch;
+    for (const std::string& text : Support::textsIn(OSTRA_SOURCE_DIR "/examples/catalogue")) {
+        batch.emplace(std::to_string(batch.size()), text);
+    }
+    ParametersEngine engine;
+    engine.registerSchemas(batch);
+    return engine;
+}
+
+void exportObject(ParametersEngine& engine, const std::string& typeId) {
+    const std::string schema = engine.getSchema(typeId);
+    Fuzz::require(!schema.empty(), "an object has a schema");
+    try {
+        engine.getDependencies(typeId);
+    } catch (const Parameters::UnrecognizedIdentifierException&) {
+        return; // of a kind that names nothing
+    }
+}
+
+/// Reads the text in the other ways that there are; what registration refuses, they refuse.
+void readAsParameter(const ParametersEngine& engine, const std::string& text) {
+    Fuzz::refusalOf([&] { engine.readValueType(text); });
+    Fuzz::refusalOf([&] { engine.readBoolParameter(text); });
+    Fuzz::refusalOf([&] { engine.readIntParameter(text); });
+    Fuzz::refusalOf([&] { engine.readMeasurableParameter(text); });
+    Fuzz::refusalOf([&] { engine.readReferenceParameter(text); });
+    Fuzz::refusalOf([&] { engine.readStringParameter(text); });
+}
+
+void registerAndResolve(ParametersEngine engine, const std::string& text) {
+    static const auto before = Fuzz::objectsIn(engine); // the same in each run
+    const bool accepted = Fuzz::refusalOf([&] { engine.registerSchema(text); }).empty();
+    const auto unresolvable = engine.findUnresolvable();
+    Fuzz::require(unresolvable.size() <= (accepted ? 1U : 0U), "what is refused leaves nothing pending");
+    const std::string fault = Fuzz::refusalOf([&] { engine.resolveSchemas(); });
+    Fuzz::require(fault.empty() == unresolvable.empty(), "what cannot be resolved is found beforehand");
+    auto added = Fuzz::objectsIn(engine);
+    if (!fault.empty()) {
+        Fuzz::require(unresolvable.begin()->second == fault, "the fault that is found is the one that is raised");
+        Fuzz::require(added == before, "resolution that fails adds nothing");
+        Fuzz::require(engine.discardPending(unresolvable.begin()->first), "what cannot be resolved is pending");
+        engine.resolveSchemas();
+        return;
+    }
+    for (const std::string& typeId : before) {
+        Fuzz::require(added.erase(typeId) == 1, "objects stay");
+    }
+    Fuzz::require(added.size() == (accepted ? 1U : 0U), "each schema that is accepted becomes one object");
+    for (const std::string& typeId : added) {
+        exportObject(engine, typeId);
+    }
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const ParametersEngine catalogue = loaded();
+    const std::string text(data, data + size);
+    readAsParameter(catalogue, text);
+    registerAndResolve(catalogue, text);
+    return 0;
+}
