@@ -143,7 +143,7 @@ public:
     /// @throws ValidationException "Could not find K with typeid T." if the object names something that is not there.
     /// @throws ValidationException if the object itself is faulty: an enumeration without values or with one twice, a
     ///         string range with a value twice, a string parameter whose range is not what its base says, a subcategory
-    ///         of a subcategory, a family type without a category. @ref errors "Errors" has the messages.
+    ///         of a subcategory, a family type without a category. @ref md_docs_errors "Errors" has the messages.
     /// @{
     void registerEnumeration(const Enumeration& enumeration);
     void registerFloatRange(const FloatRange& range);
