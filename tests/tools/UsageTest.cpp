@@ -3,8 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -33,10 +35,24 @@ TEST_P(WrongUsage, SaysSoAndExitsWithTwo) {
 INSTANTIATE_TEST_SUITE_P(
     Tool, WrongUsage,
     testing::Values(
-        Misuse{"NoVerb", {}, "A subcommand is required"},
-        Misuse{"UnknownVerb", {"repair", "."}, "A subcommand is required"},
-        Misuse{"NoPath", {"check"}, "PATH is required"},
-        Misuse{"UnknownOption", {"check", "--fast", "empty"}, "--fast"},
+        Misuse{"NoVerb", {}, "ostra-params: a verb is required\n\"ostra-params --help\" tells more.\n"},
+        Misuse{"UnknownVerb", {"repair", "."}, "ostra-params: there is no verb repair\n\"ostra-params --help\" tells"},
+        Misuse{"MisspeltVerb", {"chekc", "."}, "ostra-params: there is no verb chekc; did you mean check?\n"},
+        Misuse{"NoPath", {"check"}, "ostra-params: PATH is required\n\"ostra-params check --help\" tells more.\n"},
+        Misuse{"UnknownOption", {"check", "--fast", "empty"}, "was not expected: --fast\n"},
+        Misuse{"UnknownFormat", {"check", "--format", "xml", "empty"}, "--format: xml not in {text,json,sarif}\n"},
+        Misuse{"UnknownKind", {"list", "--kind", "pump", "empty"}, "--kind: there is no kind pump\n"},
+        Misuse{"MisspeltKind",
+               {"list", "--kind", "group,boolean paramter", "empty"},
+               "--kind: there is no kind boolean paramter; did you mean Boolean parameter?\n"},
+        Misuse{"EmptyPath", {"check", ""}, "ostra-params: PATH: must not be empty\n"},
+        Misuse{"EmptyTypeId", {"show", "", "empty"}, "ostra-params: TYPEID: must not be empty\n"},
+        Misuse{"EmptyOutput", {"report", "empty", "-o", ""}, "ostra-params: --output: must not be empty\n"},
+        Misuse{"EmptyPicture", {"deps", "x", "empty", "--svg", ""}, "ostra-params: --svg: must not be empty\n"},
+        Misuse{"PictureAndGraph", {"deps", "x", "empty", "--svg", "f", "--dot"}, "--dot excludes --svg\n"},
+        Misuse{"TwiceStandardInput",
+               {"diff", "-", "-"},
+               "ostra-params: Standard input can be only one of the two catalogues.\n"},
         Misuse{"MissingPath", {"check", "nowhere"}, "ostra-params: Cannot read nowhere: No such file or directory.\n"},
         Misuse{"MissingFile",
                {"check", "nowhere.json"},
@@ -89,15 +105,61 @@ TEST_P(BrokenFile, IsRefusedAndNotTakenForAShortOne) {
 INSTANTIATE_TEST_SUITE_P(Tool, BrokenFile, testing::Values("f.json", "f.ndjson"),
                          [](const auto& test) { return std::string(test.param).substr(2); });
 
-TEST(Tool, FailsWhenItsResultCannotBeWritten) {
+TEST(Tool, RefusesAStandardInputThatCannotBeRead) {
+    const Folder folder;
+    folder.makeFolder("c");
+    folder.write("run.sh", "'" OSTRA_PARAMS_TOOL "' check - < c 2> err; echo $? >> err");
+    std::ignore = std::system(("cd '" + folder.path().string() + "' && sh run.sh").c_str());
+    EXPECT_EQ(folder.read("err"), "ostra-params: Cannot read <stdin>: Is a directory.\n2\n");
+}
+
+struct Printing {
+    const char* name;
+    std::vector<std::string> arguments;
+};
+
+class FullDevice : public testing::TestWithParam<Printing> {};
+
+TEST_P(FullDevice, IsSaid) {
     if (!std::filesystem::exists("/dev/full")) {
         GTEST_SKIP() << "There is no device that refuses what is written to it.";
     }
     const Folder folder;
-    folder.write("f.json", "{}");
-    const Outcome outcome = folder.run({"check", "f.json"}, "/dev/full");
+    folder.write("g.json", R"({"typeid":"g","inherits":["norvex.parameter:group-1.0.0"],)"
+                           R"("constants":[{"id":"name","value":"G"}]})");
+    const Outcome outcome = folder.run(GetParam().arguments, "/dev/full");
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_EQ(outcome.err, "ostra-params: Cannot write the result.\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(Tool, FullDevice,
+                         testing::Values(Printing{"Check", {"check", "g.json"}}, Printing{"List", {"list"}},
+                                         Printing{"Show", {"show", "g"}}, Printing{"Deps", {"deps", "g"}},
+                                         Printing{"Export", {"export", "g.json", "-o", "-"}},
+                                         Printing{"Diff", {"diff", "g.json", "g.json"}},
+                                         Printing{"Report", {"report", "g.json", "-o", "-"}},
+                                         Printing{"Help", {"--help"}}, Printing{"Version", {"--version"}}),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+TEST(Tool, ExitsAsItWouldWhenItsComplaintCannotBeWritten) {
+    const Folder folder;
+    folder.write("f.json", "]");
+    folder.write("run.sh", "'" OSTRA_PARAMS_TOOL "' list f.json 2>&-; echo $? > code");
+    std::ignore = std::system(("cd '" + folder.path().string() + "' && sh run.sh").c_str());
+    EXPECT_EQ(folder.read("code"), "1\n");
+}
+
+TEST(Tool, EndsQuietlyWhenNobodyReadsOn) {
+    const Folder folder;
+    std::string lines;
+    for (int i = 0; i < 5000; ++i) {
+        lines += "]\n";
+    }
+    folder.write("f.ndjson", lines);
+    folder.write("run.sh", "'" OSTRA_PARAMS_TOOL "' check f.ndjson 2>err | head -n 1 > out");
+    std::ignore = std::system(("cd '" + folder.path().string() + "' && sh run.sh").c_str());
+    EXPECT_EQ(folder.read("out"), "f.ndjson:1:1: JSON parsing error at offset 0: Invalid value.\n");
+    EXPECT_EQ(folder.read("err"), "");
 }
 
 TEST(Tool, PrintsItsVersion) {
@@ -111,7 +173,7 @@ TEST(Tool, HelpNamesItsVerb) {
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_THAT(outcome.out,
                 StartsWith("Tools for people who write and review parameter catalogues\nUsage: ostra-params "));
-    EXPECT_THAT(outcome.out, HasSubstr("\n  check "));
+    EXPECT_THAT(outcome.out, HasSubstr("\nVerbs:\n  check "));
 }
 
 TEST(Tool, HelpOfCheckNamesItsExitCodes) {

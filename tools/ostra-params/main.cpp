@@ -1,13 +1,18 @@
+#include "faults/Distance.h"
+#include "output/OutputFile.h"
+#include "output/Text.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
 
 #include <array>
+#include <clocale>
 #include <cstdio>
 #include <exception>
 #include <map>
-#include <stdexcept>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace {
 
@@ -22,21 +27,51 @@ Exit codes:
 constexpr std::array verbs{Tool::addCheck,  Tool::addList, Tool::addShow,  Tool::addDeps,
                            Tool::addExport, Tool::addDiff, Tool::addReport};
 
+/// Returns what to say of a verb that there is not; the library that reads the arguments takes it for a missing one.
+std::string noVerb(const CLI::App& program, const char* argument) {
+    if (argument == nullptr || *argument == '-') {
+        return "a verb is required";
+    }
+    std::vector<std::string_view> names;
+    for (const CLI::App* verb : program.get_subcommands([](const CLI::App*) { return true; })) {
+        names.emplace_back(verb->get_name());
+    }
+    const std::string question = Tool::didYouMean(argument, names);
+    return "there is no verb " + Tool::printable(argument) + (question.empty() ? "" : "; " + question);
+}
+
+/// Says what is wrong with the arguments.
+void complain(const CLI::App& program, const CLI::ParseError& error, const char* argument) {
+    const std::vector<CLI::App*> chosen = program.get_subcommands();
+    const bool isMissing = dynamic_cast<const CLI::RequiredError*>(&error) != nullptr && chosen.empty();
+    Tool::printError("ostra-params: " + (isMissing ? noVerb(program, argument) : Tool::printable(error.what())) +
+                     "\n\"ostra-params" + (chosen.empty() ? "" : " " + chosen.front()->get_name()) +
+                     " --help\" tells more.\n");
+}
+
 int run(int argc, char** argv) {
     CLI::App program{"Tools for people who write and review parameter catalogues", "ostra-params"};
     program.set_version_flag("--version", std::string("ostra-params ") + OSTRA_PARAMETERS_VERSION);
     program.footer(footer);
+    program.get_formatter()->label("SUBCOMMAND", "VERB");
+    program.get_formatter()->label("REQUIRED", "(required)");
     program.require_subcommand(1);
     std::map<const CLI::App*, Tool::Action> actions;
     for (const auto& addVerb : verbs) {
         Tool::Action action = addVerb(program);
-        actions.emplace(program.get_subcommands({}).back(), std::move(action));
+        CLI::App* verb = program.get_subcommands({}).back();
+        verb->group("Verbs");
+        actions.emplace(verb, std::move(action));
     }
 
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? Tool::Good : Tool::Unusable;
+        if (error.get_exit_code() == 0) { // help, or the version
+            return program.exit(error);
+        }
+        complain(program, error, argv[1]);
+        return Tool::Unusable;
     }
     return actions.at(program.get_subcommands().front())();
 }
@@ -44,14 +79,15 @@ int run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    std::setlocale(LC_CTYPE, "C.UTF-8"); // for patterns of names
     try {
         const int code = run(argc, argv);
-        if (std::fflush(stdout) != 0) {
-            throw std::runtime_error("Cannot write the result.");
+        if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+            throw Tool::OutputError("Cannot write the result.");
         }
         return code;
     } catch (const std::exception& exception) {
-        std::fputs((std::string("ostra-params: ") + exception.what() + "\n").c_str(), stderr);
+        Tool::printError(std::string("ostra-params: ") + exception.what() + "\n");
         return Tool::Unusable;
     }
 }

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -154,7 +155,7 @@ void readTexts(const fs::path& file, const std::function<void(const Source&)>& v
     errno = 0;
     if (file == standardInput) {
         readStandardInput(visit);
-        if (std::cin.bad()) {
+        if (std::cin.bad() || std::ferror(stdin) != 0) {
             failToRead(file, {errno, std::generic_category()});
         }
         return;

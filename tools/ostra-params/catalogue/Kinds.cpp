@@ -3,6 +3,8 @@
 #include "catalogue/Describe.h"
 
 #include <algorithm>
+#include <cctype>
+#include <string>
 #include <utility>
 
 namespace Tool {
@@ -133,6 +135,16 @@ bool inherits(std::string_view inherited, std::string_view base) {
                           : inherited.find(base.substr(0, base.size() - anyVersion.size())) != std::string_view::npos;
 }
 
+/// Returns a word in small letters, with hyphens between its parts.
+std::string normal(std::string_view word) {
+    std::string result(word);
+    for (char& character : result) {
+        const bool isBlank = character == ' ' || character == '_';
+        character = isBlank ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+    }
+    return result;
+}
+
 const Kind* firstKind(const auto& isWanted) {
     const auto found = std::find_if(table.begin(), table.end(), isWanted);
     return found == table.end() ? nullptr : &*found;
@@ -153,6 +165,14 @@ const Kind* kindOfBase(std::string_view inherited) {
 
 const Kind* kindOfId(std::string_view id) {
     return firstKind([id](const Kind& kind) { return kind.id == id; });
+}
+
+bool isMeant(const Kind& kind, std::string_view word) {
+    const std::string wanted = normal(word);
+    const auto names = {kind.id, kind.label, kind.plural};
+    return std::any_of(names.begin(), names.end(), [&](std::string_view name) {
+        return wanted == normal(name) || wanted == normal(name.substr(name.rfind(' ') + 1));
+    });
 }
 
 } // namespace Tool

@@ -31,4 +31,8 @@ const Kind* kindOfBase(std::string_view inherited);
 /// Returns the kind of an identifier as options name it; nullptr if there is none.
 const Kind* kindOfId(std::string_view id);
 
+/// Tells whether a person means a kind by a word: its identifier or label, one or many, or the last word alone, which
+/// all parameters have in common. Case does not matter.
+bool isMeant(const Kind& kind, std::string_view word);
+
 } // namespace Tool

@@ -44,6 +44,10 @@ std::string forUndefined(const std::string& text, std::string_view id) {
 } // namespace
 
 std::string Hints::hintFor(const Source& source, const Heading& heading, const std::string& message) {
+    const std::string_view mark = std::string_view(source.text).substr(0, 2);
+    if (mark == "\xFF\xFE" || mark == "\xFE\xFF") {
+        return "the text is in UTF-16, and must be in UTF-8.";
+    }
     if (message == "Inheritance from an unrecognized base schema.") {
         return forBase(heading.base);
     }

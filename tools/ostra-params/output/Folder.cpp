@@ -57,6 +57,9 @@ bool isFromAnExport(const fs::path& folder, const fs::directory_entry& entry) {
 
 void mustBeReplaceable(const fs::path& folder) {
     std::error_code error;
+    if (fs::equivalent(folder, fs::current_path(), error)) { // which the shell would go on to look for
+        throw OutputError(fmt::format("{} is not replaced: it is the working folder.", printable(folder.string())));
+    }
     for (fs::recursive_directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
         if (!isFromAnExport(folder, *entry)) {
             throw OutputError(fmt::format("{} is not replaced: {} is not from an export.", printable(folder.string()),
@@ -77,11 +80,13 @@ std::string fileNameOf(const std::string& text) {
 
 void replaceFolder(const fs::path& folder, const std::vector<FolderEntry>& entries) {
     std::error_code error;
-    const fs::path target = folder.has_filename() ? folder : folder.parent_path(); // "folder/" names the folder
-    const bool isThere = fs::exists(target, error);
+    const bool isThere = fs::exists(folder, error);
     if (isThere) {
-        mustBeReplaceable(target);
+        mustBeReplaceable(folder);
     }
+    const fs::path target = isThere                 ? fs::canonical(folder) // so that a link to a folder is kept
+                            : folder.has_filename() ? folder
+                                                    : folder.parent_path(); // "folder/" names the folder
     const FolderAside aside(target);
     const fs::path fresh = aside.path() / "new";
     fs::create_directory(fresh, error);

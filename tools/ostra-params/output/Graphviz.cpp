@@ -10,9 +10,11 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
+#include <filesystem>
 #include <iterator>
+#include <optional>
 #include <tuple>
+#include <utility>
 
 namespace Tool {
 
@@ -79,13 +81,20 @@ std::string toDot(Graph graph) {
 }
 
 void writeSvg(const Graph& graph, const std::string& file) {
-    OutputFile dot(file + ".dot");
+    const OutputFile dot(std::filesystem::temp_directory_path() / "ostra-params.dot");
     dot.write(toDot(graph));
-    OutputFile svg(file);
-    if (!run({"dot", "-Tsvg", "-o", svg.path().string(), dot.path().string()})) {
+    std::vector<std::string> arguments{"dot", "-Tsvg", dot.path().string()};
+    std::optional<OutputFile> svg;
+    if (file != "-") {
+        svg.emplace(file.front() == '-' ? "./" + file : file); // no name is taken for an option
+        arguments.insert(arguments.end(), {"-o", svg->path().string()});
+    }
+    if (!run(std::move(arguments))) {
         throw OutputError(fmt::format("Cannot draw {}: Graphviz's program dot is missing or failed.", printable(file)));
     }
-    svg.commit();
+    if (svg) {
+        svg->commit();
+    }
 }
 
 } // namespace Tool

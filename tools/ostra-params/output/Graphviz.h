@@ -24,7 +24,7 @@ struct Graph {
 /// Returns a graph in the language of Graphviz. Nodes and edges are sorted.
 std::string toDot(Graph graph);
 
-/// Draws a graph into a file.
+/// Draws a graph into a file; - stands for standard output.
 /// @throws OutputError if Graphviz's program is not there or fails, or the file cannot be written.
 void writeSvg(const Graph& graph, const std::string& file);
 

@@ -8,25 +8,50 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <fstream>
 #include <string>
 #include <system_error>
+#include <tuple>
 #include <utility>
 
 namespace Tool {
 
 namespace fs = std::filesystem;
 
-OutputFile::OutputFile(fs::path target) : target_(std::move(target)) {
+namespace {
+
+/// Returns what a link leads to, so that the link is kept; other paths are as they are.
+fs::path followed(fs::path path) {
+    std::error_code error;
+    fs::path target = fs::is_symlink(path, error) ? fs::canonical(path, error) : fs::path();
+    return target.empty() ? std::move(path) : std::move(target);
+}
+
+/// Returns the permissions that a file has, or those of any new file, not for its owner alone.
+mode_t permissionsOf(const fs::file_status& status) {
+    if (fs::is_regular_file(status)) {
+        return static_cast<mode_t>(status.permissions()) & 0777U;
+    }
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666U & ~mask;
+}
+
+} // namespace
+
+OutputFile::OutputFile(fs::path target) : target_(followed(std::move(target))) {
+    std::error_code unknown; // as of a folder that is not there, which is found out below
+    const fs::file_status status = fs::status(target_, unknown);
+    if (fs::is_other(status)) {
+        return;
+    }
     std::string name = target_.string() + ".XXXXXX";
     const int descriptor = ::mkstemp(name.data());
     if (descriptor < 0) {
         failToWrite(target_, {errno, std::generic_category()});
     }
-    // As any new file, not for its owner alone.
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    ::fchmod(descriptor, 0666U & ~mask);
+    ::fchmod(descriptor, permissionsOf(status));
     ::close(descriptor);
     aside_ = name;
 }
@@ -40,7 +65,7 @@ OutputFile::~OutputFile() {
 
 void OutputFile::write(std::string_view content) const {
     errno = 0;
-    std::ofstream stream(aside_, std::ios::binary);
+    std::ofstream stream(path(), std::ios::binary);
     stream.write(content.data(), static_cast<std::streamsize>(content.size()));
     stream.close();
     if (!stream) {
@@ -49,6 +74,9 @@ void OutputFile::write(std::string_view content) const {
 }
 
 void OutputFile::commit() {
+    if (aside_.empty()) {
+        return;
+    }
     std::error_code error;
     fs::rename(aside_, target_, error);
     if (error) {
@@ -62,6 +90,14 @@ void writeFile(const fs::path& file, std::string_view content) {
     output.write(content);
     output.commit();
 }
+
+void print(std::string_view text) {
+    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) {
+        throw OutputError("Cannot write the result.");
+    }
+}
+
+void printError(std::string_view text) { std::ignore = std::fwrite(text.data(), 1, text.size(), stderr); }
 
 void failToWrite(const fs::path& path, const std::error_code& reason) {
     throw OutputError(fmt::format("Cannot write {}: {}.", printable(path.string()), reason.message()));

@@ -13,10 +13,11 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// A file that is written aside, and takes the place of another only when it is whole.
+/// A file that is written aside, and takes the place of another only when it is whole. What is no file, such as a
+/// device or a pipe, cannot be replaced and is written to at once.
 class OutputFile {
 public:
-    /// Makes an empty file aside, in the same folder.
+    /// Makes an empty file aside, in the same folder as the target or what the target is a link to.
     /// @throws OutputError
     explicit OutputFile(std::filesystem::path target);
     OutputFile(const OutputFile&) = delete;
@@ -24,8 +25,8 @@ public:
     /// What was not committed goes without a trace.
     ~OutputFile();
 
-    /// Returns where the file is until it is committed.
-    const std::filesystem::path& path() const { return aside_; }
+    /// Returns where to write until the file is committed.
+    const std::filesystem::path& path() const { return aside_.empty() ? target_ : aside_; }
 
     /// Replaces the content.
     /// @throws OutputError
@@ -43,6 +44,13 @@ private:
 /// Writes a file as a whole, or not at all.
 /// @throws OutputError
 void writeFile(const std::filesystem::path& file, std::string_view content);
+
+/// Writes to standard output.
+/// @throws OutputError
+void print(std::string_view text);
+
+/// Writes to standard error, where nobody can be told of a failure.
+void printError(std::string_view text);
 
 /// Throws an OutputError that names a path and the system's reason.
 [[noreturn]] void failToWrite(const std::filesystem::path& path, const std::error_code& reason);

@@ -38,7 +38,7 @@ void Progress::advance(std::uintmax_t bytes) {
 
 void Progress::draw() const {
     constexpr std::size_t width = 40;
-    if (read_ > total_) { // more than was announced, as from standard input
+    if (total_ == 0 || read_ > total_) { // more than was announced, as from standard input
         fmt::print(stderr, "\rreading: {:.1f} MB", static_cast<double>(read_) / 1e6);
         return;
     }

@@ -9,15 +9,39 @@
 
 namespace Tool {
 
+namespace {
+
+bool isWithin(std::string_view character, std::string_view first, std::string_view last) {
+    return first <= character && character <= last;
+}
+
+/// Returns how many bytes at the start of a text are one character that a terminal would obey: controls, also those of
+/// two bytes, and what turns the direction of writing.
+std::size_t lengthOfControl(std::string_view text) {
+    const auto code = static_cast<unsigned char>(text.front());
+    if (code < 0x20 || code == 0x7F) {
+        return 1;
+    }
+    if (isWithin(text.substr(0, 2), "\u0080", "\u009F")) {
+        return 2;
+    }
+    const std::string_view three = text.substr(0, 3);
+    return isWithin(three, "\u202A", "\u202E") || isWithin(three, "\u2066", "\u2069") ? 3 : 0;
+}
+
+} // namespace
+
 std::string printable(std::string_view text) {
     std::string line;
-    for (const char byte : text) {
-        const auto code = static_cast<unsigned char>(byte);
-        if (code < 0x20 || code == 0x7F) {
-            fmt::format_to(std::back_inserter(line), "\\x{:02X}", code);
-        } else {
-            line += byte;
+    while (!text.empty()) {
+        const std::size_t controls = lengthOfControl(text);
+        for (const char byte : text.substr(0, controls)) {
+            fmt::format_to(std::back_inserter(line), "\\x{:02X}", static_cast<unsigned char>(byte));
         }
+        if (controls == 0) {
+            line += text.front();
+        }
+        text.remove_prefix(controls == 0 ? 1 : controls);
     }
     return line;
 }

@@ -1,9 +1,9 @@
 #include "catalogue/Catalogue.h"
+#include "output/OutputFile.h"
 #include "verbs/CheckFormats.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
-#include <fmt/format.h>
 
 #include <map>
 #include <memory>
@@ -31,11 +31,11 @@ Exit codes:
 ExitCode check(const Options& options) {
     const Catalogue catalogue(options.paths);
     if (options.format == "json") {
-        fmt::print("{}", checkAsJson(catalogue));
+        print(checkAsJson(catalogue));
     } else if (options.format == "sarif") {
-        fmt::print("{}", checkAsSarif(catalogue));
+        print(checkAsSarif(catalogue));
     } else {
-        fmt::print("{}{}", faultsAsText(catalogue), options.isQuiet ? "" : summaryAsText(catalogue));
+        print(faultsAsText(catalogue) + (options.isQuiet ? std::string() : summaryAsText(catalogue)));
     }
     return catalogue.faults().empty() ? Good : Bad;
 }

@@ -1,11 +1,11 @@
 #include "catalogue/Catalogue.h"
 #include "output/Graphviz.h"
+#include "output/OutputFile.h"
 #include "output/Text.h"
 #include "verbs/Find.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
-#include <fmt/format.h>
 
 #include <memory>
 #include <set>
@@ -98,7 +98,7 @@ ExitCode deps(const Options& options) {
     if (!options.svgFile.empty()) {
         writeSvg(walk.graph(object), options.svgFile);
     } else {
-        fmt::print("{}", options.isDot ? toDot(walk.graph(object)) : walk.tree(object));
+        print(options.isDot ? toDot(walk.graph(object)) : walk.tree(object));
     }
     return warnOfFaults(catalogue);
 }
@@ -112,7 +112,9 @@ Action addDeps(CLI::App& program) {
     addOptionalPaths(*verb, options->paths);
     verb->add_flag("--reverse", options->isReverse, "Show what depends on the object instead");
     CLI::Option* dot = verb->add_flag("--dot", options->isDot, "Print a graph in the language of Graphviz");
-    verb->add_option("--svg", options->svgFile, "Draw the graph into a file, by Graphviz's program dot")
+    verb->add_option("--svg", options->svgFile,
+                     "Draw the graph into a file, by Graphviz's program dot;\n- stands for standard output")
+        ->check(refuseEmpty)
         ->type_name("FILE")
         ->excludes(dot);
     return [options] { return deps(*options); };

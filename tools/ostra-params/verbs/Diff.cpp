@@ -1,5 +1,7 @@
 #include "catalogue/Catalogue.h"
+#include "catalogue/Input.h"
 #include "output/Json.h"
+#include "output/OutputFile.h"
 #include "output/Text.h"
 #include "verbs/CheckFormats.h"
 #include "verbs/Difference.h"
@@ -77,11 +79,14 @@ std::string asJson(const Difference& difference) {
 }
 
 bool isSound(const Catalogue& catalogue) {
-    fmt::print(stderr, "{}", faultsAsText(catalogue));
+    printError(faultsAsText(catalogue));
     return catalogue.faults().empty();
 }
 
 ExitCode diff(const Options& options) {
+    if (options.oldPath == standardInput && options.newPath == standardInput) {
+        throw InputError("Standard input can be only one of the two catalogues.");
+    }
     const Catalogue before({options.oldPath});
     const Catalogue after({options.newPath});
     const bool isOldSound = isSound(before);
@@ -90,7 +95,7 @@ ExitCode diff(const Options& options) {
         return Unusable;
     }
     const Difference difference = compare(before, after);
-    fmt::print("{}", options.isJson ? asJson(difference) : asText(difference));
+    print(options.isJson ? asJson(difference) : asText(difference));
     return difference.isNone() ? Good : Bad;
 }
 
@@ -101,8 +106,9 @@ Action addDiff(CLI::App& program) {
     CLI::App* verb = program.add_subcommand("diff", "Tell what changed from one catalogue to another");
     verb->add_option("OLD", options->oldPath, "The one catalogue: a file, a folder, or - for standard input")
         ->required()
+        ->check(refuseEmpty)
         ->type_name("");
-    verb->add_option("NEW", options->newPath, "The other one")->required()->type_name("");
+    verb->add_option("NEW", options->newPath, "The other one")->required()->check(refuseEmpty)->type_name("");
     verb->add_flag("--json", options->isJson, "Print a JSON object");
     verb->footer(details);
     return [options] { return diff(*options); };

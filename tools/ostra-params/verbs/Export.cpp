@@ -1,6 +1,7 @@
 #include "catalogue/Catalogue.h"
 #include "output/Folder.h"
 #include "output/OutputFile.h"
+#include "output/Text.h"
 #include "verbs/CheckFormats.h"
 #include "verbs/Verb.h"
 
@@ -42,16 +43,25 @@ std::vector<FolderEntry> files(const Catalogue& catalogue) {
     return entries;
 }
 
-bool isFolder(const std::string& output) { return std::filesystem::path(output).extension() != ".ndjson"; }
+/// @throws OutputError for what is most likely meant to be a file and would be a folder.
+bool isFolder(const std::string& output) {
+    const std::filesystem::path path(output);
+    if (path.extension() == ".json" && !std::filesystem::is_directory(path)) {
+        throw OutputError(fmt::format("Cannot write {}: a .json file holds one schema; .ndjson files hold many, and so "
+                                      "do folders, of any other name.",
+                                      printable(output)));
+    }
+    return path.extension() != ".ndjson";
+}
 
 ExitCode exportCatalogue(const Options& options) {
     const Catalogue catalogue(options.paths);
     if (!catalogue.faults().empty()) {
-        fmt::print(stderr, "{}", faultsAsText(catalogue));
+        printError(faultsAsText(catalogue));
         return Bad;
     }
     if (options.output == "-") {
-        fmt::print("{}", lines(catalogue));
+        print(lines(catalogue));
     } else if (isFolder(options.output)) {
         replaceFolder(options.output, files(catalogue));
     } else {
@@ -70,6 +80,7 @@ Action addExport(CLI::App& program) {
                      "A file that ends in .ndjson gets one schema a line, -\nstands for standard output, and anything "
                      "else is a folder\nthat gets one file each")
         ->required()
+        ->check(refuseEmpty)
         ->type_name("FILE|DIR");
     verb->footer(details);
     return [options] { return exportCatalogue(*options); };

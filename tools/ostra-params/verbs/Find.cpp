@@ -3,6 +3,7 @@
 #include "catalogue/Catalogue.h"
 #include "faults/Distance.h"
 #include "output/Text.h"
+#include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -28,6 +29,7 @@ std::string severalHave(const std::string& text, const std::vector<const Object*
 void addTypeId(CLI::App& verb, std::string& typeId) {
     verb.add_option("TYPEID", typeId, "The typeid of an object, or a part that no other has")
         ->required()
+        ->check(refuseEmpty)
         ->type_name("");
 }
 
@@ -49,6 +51,7 @@ const Object& findObject(const Catalogue& catalogue, const std::string& text) {
     if (having.size() > 1) {
         throw NotFound(severalHave(text, having));
     }
+    warnOfFaults(catalogue); // what is looked for may be among what was left out
     const std::string question = didYouMean(text, typeIds);
     throw NotFound(fmt::format("There is no object with typeid {}.{}", printable(text),
                                question.empty() ? "" : " " + printable("Did" + question.substr(3))));

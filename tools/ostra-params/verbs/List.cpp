@@ -1,10 +1,11 @@
 #include "catalogue/Catalogue.h"
+#include "faults/Distance.h"
 #include "output/Json.h"
+#include "output/OutputFile.h"
 #include "output/Text.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
-#include <fmt/format.h>
 
 #include <fnmatch.h>
 
@@ -33,8 +34,9 @@ bool matches(const std::string& name, const std::string& pattern) {
 std::vector<const Object*> select(const Catalogue& catalogue, const Options& options) {
     std::vector<const Object*> selected;
     for (const Object& object : catalogue.objects()) {
-        const bool isOfKind = options.kinds.empty() || std::find(options.kinds.begin(), options.kinds.end(),
-                                                                 object.kind->id) != options.kinds.end();
+        const bool isOfKind =
+            options.kinds.empty() || std::any_of(options.kinds.begin(), options.kinds.end(),
+                                                 [&](const auto& word) { return isMeant(*object.kind, word); });
         if (isOfKind && (options.name.empty() || matches(object.name, options.name))) {
             selected.push_back(&object);
         }
@@ -67,14 +69,22 @@ std::string asTable(const std::vector<const Object*>& objects) {
     return table;
 }
 
-std::string refuseUnknownKind(const std::string& id) {
-    return kindOfId(id) == nullptr ? "there is no kind " + id + "; \"ostra-params list --help\" lists the kinds" : "";
+std::string refuseUnknownKind(const std::string& word) {
+    std::vector<std::string_view> names;
+    for (const Kind& kind : kinds()) {
+        if (isMeant(kind, word)) {
+            return {};
+        }
+        names.insert(names.end(), {kind.id, kind.label, kind.plural});
+    }
+    const std::string question = didYouMean(word, names);
+    return "there is no kind " + printable(word) + (question.empty() ? "" : "; " + question);
 }
 
 ExitCode list(const Options& options) {
     const Catalogue catalogue(options.paths);
     const std::vector<const Object*> objects = select(catalogue, options);
-    fmt::print("{}", options.isJson ? asJson(objects) : asTable(objects));
+    print(options.isJson ? asJson(objects) : asTable(objects));
     return warnOfFaults(catalogue);
 }
 
@@ -84,14 +94,17 @@ Action addList(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("list", "List the objects of a catalogue: typeid, kind and name");
     addOptionalPaths(*verb, options->paths);
-    verb->add_option("--kind", options->kinds, "Only this kind, or these with commas between them:\n" + kindIds())
+    verb->add_option(
+            "--kind", options->kinds,
+            "Only this kind, or these with commas between them;\nparameter, spec and range stand for all of them:\n" +
+                kindIds())
         ->check(CLI::Validator(refuseUnknownKind, ""))
         ->delimiter(',')
         ->allow_extra_args(false)
         ->type_name("KIND");
     verb->add_option("--name", options->name,
                      "Only names with this in them, or that match it as a\nwhole when it has wildcards (* ? [...]); "
-                     "case does not matter")
+                     "case does\nnot matter")
         ->type_name("PATTERN");
     verb->add_flag("--json", options->isJson, "Print a JSON array");
     return [options] { return list(*options); };

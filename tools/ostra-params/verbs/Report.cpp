@@ -5,7 +5,6 @@
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
-#include <fmt/format.h>
 
 #include <memory>
 
@@ -62,7 +61,7 @@ ExitCode report(const Options& options) {
     const Catalogue catalogue(options.paths);
     const std::string page = pageOf(catalogue);
     if (options.output == "-") {
-        fmt::print("{}", page);
+        print(page);
     } else {
         writeFile(options.output, page);
     }
@@ -77,6 +76,7 @@ Action addReport(CLI::App& program) {
     addPaths(*verb, options->paths);
     verb->add_option("-o,--output", options->output, "The page, an HTML file; - stands for standard output")
         ->required()
+        ->check(refuseEmpty)
         ->type_name("FILE");
     verb->footer("The page needs no network. What is faulty is left out of it, and listed.");
     return [options] { return report(*options); };

@@ -1,5 +1,6 @@
 #include "catalogue/Catalogue.h"
 #include "catalogue/Compact.h"
+#include "output/OutputFile.h"
 #include "output/Text.h"
 #include "verbs/Find.h"
 #include "verbs/Verb.h"
@@ -91,7 +92,7 @@ std::string sheetOf(const Catalogue& catalogue, const Object& object) {
 ExitCode show(const Options& options) {
     const Catalogue catalogue(options.paths);
     const Object& object = findObject(catalogue, options.typeId);
-    fmt::print("{}", options.isSchema ? indented(catalogue.schemaOf(object)) + "\n" : sheetOf(catalogue, object));
+    print(options.isSchema ? indented(catalogue.schemaOf(object)) + "\n" : sheetOf(catalogue, object));
     return warnOfFaults(catalogue);
 }
 

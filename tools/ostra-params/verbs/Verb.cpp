@@ -1,12 +1,11 @@
 #include "verbs/Verb.h"
 
 #include "catalogue/Catalogue.h"
+#include "output/OutputFile.h"
 #include "output/Text.h"
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-
-#include <cstdio>
 
 namespace Tool {
 
@@ -18,6 +17,7 @@ CLI::Option* addPathOption(CLI::App& verb, std::vector<std::string>& paths, cons
                     ".json files (one schema each), .ndjson files (one schema\nper line), folders to be searched for "
                     "such files at all\ndepths, and - for standard input" +
                         otherwise)
+        ->check(refuseEmpty)
         ->type_name("");
 }
 
@@ -29,6 +29,8 @@ void addOptionalPaths(CLI::App& verb, std::vector<std::string>& paths) {
     paths = {"."};
     addPathOption(verb, paths, "; the working folder\nwhen none is given");
 }
+
+std::string refuseEmpty(const std::string& argument) { return argument.empty() ? "must not be empty" : ""; }
 
 std::string kindIds() {
     constexpr std::size_t width = 50;
@@ -48,8 +50,8 @@ ExitCode warnOfFaults(const Catalogue& catalogue) {
     if (catalogue.faults().empty()) {
         return Good;
     }
-    fmt::print(stderr, "ostra-params: {} left out; \"ostra-params check\" tells more.\n",
-               counted(catalogue.faults().size(), "faulty schema"));
+    printError(fmt::format("ostra-params: {} left out; \"ostra-params check\" tells more.\n",
+                           counted(catalogue.faults().size(), "faulty schema")));
     return Bad;
 }
 

@@ -40,6 +40,9 @@ void addPaths(CLI::App& verb, std::vector<std::string>& paths);
 void addOptionalPaths(CLI::App& verb, std::vector<std::string>& paths);
 /// @}
 
+/// Returns what is wrong with an argument: that it is empty. A check for options of paths and typeids.
+std::string refuseEmpty(const std::string& argument);
+
 /// Returns the kinds as options name them, for the help of an option.
 std::string kindIds();
 
