@@ -531,6 +531,7 @@ TEST(Completion, OffersVerbsOptionsAndValues) {
     EXPECT_EQ(complete("ostra-params check --f", "2"), "--format\n");
     EXPECT_EQ(complete("ostra-params check --format s", "3"), "sarif\n");
     EXPECT_EQ(complete("ostra-params list --kind bool-", "3"), "bool-spec bool-parameter\n");
+    EXPECT_EQ(complete("ostra-params list --kind unit,dom", "3"), "unit,domain\n");
 }
 
 } // namespace

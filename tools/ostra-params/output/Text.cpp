@@ -11,22 +11,22 @@ namespace Tool {
 
 namespace {
 
-bool isWithin(std::string_view character, std::string_view first, std::string_view last) {
-    return first <= character && character <= last;
-}
-
 /// Returns how many bytes at the start of a text are one character that a terminal would obey: controls, also those of
 /// two bytes, and what turns the direction of writing.
 std::size_t lengthOfControl(std::string_view text) {
-    const auto code = static_cast<unsigned char>(text.front());
-    if (code < 0x20 || code == 0x7F) {
+    const auto byteAt = [&](std::size_t index) -> unsigned {
+        return index < text.size() ? static_cast<unsigned char>(text[index]) : 0U;
+    };
+    if (byteAt(0) < 0x20 || byteAt(0) == 0x7F) {
         return 1;
     }
-    if (isWithin(text.substr(0, 2), "\u0080", "\u009F")) {
+    if (byteAt(0) == 0xC2 && byteAt(1) >= 0x80 && byteAt(1) <= 0x9F) { // U+0080 to U+009F
         return 2;
     }
-    const std::string_view three = text.substr(0, 3);
-    return isWithin(three, "\u202A", "\u202E") || isWithin(three, "\u2066", "\u2069") ? 3 : 0;
+    const unsigned lastTwo = byteAt(0) == 0xE2 ? byteAt(1) * 0x100 + byteAt(2) : 0;
+    const bool isTurning = (lastTwo >= 0x80AA && lastTwo <= 0x80AE) || // U+202A to U+202E
+                           (lastTwo >= 0x81A6 && lastTwo <= 0x81A9);   // U+2066 to U+2069
+    return isTurning ? 3 : 0;
 }
 
 } // namespace

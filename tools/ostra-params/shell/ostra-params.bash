@@ -20,7 +20,8 @@ _ostra_params() {
     elif [[ $previous == --format ]]; then
         mapfile -t COMPREPLY < <(compgen -W "text json sarif" -- "$current")
     elif [[ $previous == --kind ]]; then
-        mapfile -t COMPREPLY < <(compgen -W "$kinds" -- "$current")
+        local last=${current##*,}
+        mapfile -t COMPREPLY < <(compgen -P "${current%"$last"}" -W "$kinds" -- "$last")
     elif [[ $previous == --name ]]; then
         return
     elif [[ $current == -* ]]; then
