@@ -5,7 +5,7 @@
 #include "schema/Schema.h"
 
 #include <cstddef>
-#include <unordered_map>
+#include <map>
 #include <utility>
 
 namespace Units {
@@ -48,7 +48,7 @@ private:
 
     bool isResolved(const Entry& entry) const { return entry.position < resolved_; }
 
-    std::unordered_map<std::string, Entry> entries_;
+    std::map<std::string, Entry> entries_; // no hash table: there are catalogues that make one degenerate
     std::size_t resolved_ = 0;
 };
 
