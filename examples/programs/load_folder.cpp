@@ -4,6 +4,7 @@
 
 #include <parameters/ParametersEngine.h>
 
+#include <cstddef>
 #include <exception>
 #include <filesystem>
 #include <iostream>

@@ -172,7 +172,7 @@ public:
     bool isRegistered(const std::string& typeId) const;
 
     /// Returns the units engine, through which units can be registered and resolved directly. The reference is good
-    /// until the engine is assigned to, moved from or destroyed.
+    /// until the engine is assigned to or destroyed; when the engine is moved, it belongs to the new one.
     Units::UnitsEngine& getUnitsEngine();
 
     /// Returns what values a parameter schema describes; None for other kinds, for enumeration parameters, and for a

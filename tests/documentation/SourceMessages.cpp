@@ -70,10 +70,10 @@ private:
     }
 
     void takeWord() {
-        const auto end = std::find_if_not(rest_.begin(), rest_.end(), [](char c) {
-            return isWordCharacter(c) || c == '\''; // a digit separator belongs to its number
-        });
-        const auto length = static_cast<std::size_t>(end - rest_.begin());
+        std::size_t length = 0;
+        while (length < rest_.size() && (isWordCharacter(rest_[length]) || rest_[length] == '\'')) {
+            ++length; // a digit separator belongs to its number
+        }
         tokens_.push_back({Token::Type::word, std::string(rest_.substr(0, length))});
         rest_.remove_prefix(length);
     }
