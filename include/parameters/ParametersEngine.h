@@ -62,18 +62,25 @@ class PARAMETERS_EXPORT ParametersEngine {
 public:
     /// Makes an empty engine. Nothing is registered beforehand: built-in identifiers are recognised, not stored.
     ParametersEngine();
+
+    /// @name Copying
+    /// @{
+
     /// Copies an engine with all that it holds; the two are independent afterwards. What they hold is shared until one
     /// of them changes, so that the cost does not grow with the number of objects (the units engine is copied as it
     /// is); the first change of either then costs a copy of its tables.
-    /// @{
     ParametersEngine(const ParametersEngine& other);
     ParametersEngine& operator=(const ParametersEngine& other);
     /// @}
-    /// Takes over another engine whole, its units engine too. A moved-from engine may only be destroyed or assigned to.
+
+    /// @name Moving
     /// @{
+
+    /// Takes over another engine whole, its units engine too. A moved-from engine may only be destroyed or assigned to.
     ParametersEngine(ParametersEngine&& other) noexcept;
     ParametersEngine& operator=(ParametersEngine&& other) noexcept;
     /// @}
+
     /// Destroys the engine. What it has handed out stays as it is.
     ~ParametersEngine();
 
@@ -81,13 +88,15 @@ public:
     /// PARAMETERS_VERSION of parameters/Version.h.
     static std::string libraryVersion();
 
+    /// @name Objects by type identifier
+    /// @{
+
     /// Returns the object of a kind and type identifier. Only resolved objects are found. Disciplines, groups and
     /// Boolean, integer, reference and string specs have a built-in object: an identifier that contains the version
     /// prefix of the kind's built-in identifier gives that object under exactly this identifier. Costs one look-up, and
     /// no copy: what is returned shares its data with the engine.
     /// @throws UnrecognizedIdentifierException "Could not find K with typeid T.", where K is the kind's name: "integer
     ///         range", "Boolean spec" and so on.
-    /// @{
     Enumeration getEnumeration(const std::string& typeId) const;
     FloatRange getFloatRange(const std::string& typeId) const;
     IntRange getIntRange(const std::string& typeId) const;
@@ -110,9 +119,11 @@ public:
     Category getCategory(const std::string& typeId) const;
     /// @}
 
+    /// @name All objects of a kind
+    /// @{
+
     /// Returns all resolved objects of a kind by type identifier, in its byte order; built-in objects are not among
     /// them. Costs time in proportion to their number; the first list after a change also sorts what is new.
-    /// @{
     std::map<std::string, Enumeration> getAllEnumerations() const;
     std::map<std::string, FloatRange> getAllFloatRanges() const;
     std::map<std::string, IntRange> getAllIntRanges() const;
@@ -135,6 +146,9 @@ public:
     std::map<std::string, Category> getAllCategories() const;
     /// @}
 
+    /// @name Registering objects made in code
+    /// @{
+
     /// Registers an object made in code. What it names by type identifier must be registered or built in; the
     /// registered objects take the place of those that it was made with.
     /// @throws ValidationException "Typeid must not be empty."
@@ -144,7 +158,6 @@ public:
     /// @throws ValidationException if the object itself is faulty: an enumeration without values or with one twice, a
     ///         string range with a value twice, a string parameter whose range is not what its base says, a subcategory
     ///         of a subcategory, a family type without a category. @ref md_docs_errors "Errors" has the messages.
-    /// @{
     void registerEnumeration(const Enumeration& enumeration);
     void registerFloatRange(const FloatRange& range);
     void registerIntRange(const IntRange& range);
@@ -181,12 +194,14 @@ public:
     ///         or "properties" are not what they must be.
     ValueType readValueType(const std::string& schemaText) const;
 
+    /// @name Reading parameters without registering them
+    /// @{
+
     /// Returns the parameter that a schema text describes, with what it names as registered. Nothing is registered.
     /// @throws ValidationException if the text is no schema, or one with a fault that its kind finds.
     /// @throws ValidationException "Inheritance from an incorrect base schema." if the text is of another kind.
     /// @throws ValidationException "Schema with typeid T is already registered."
     /// @throws ValidationException "Could not find K with typeid T." if it names something that is not registered.
-    /// @{
     BoolParameter readBoolParameter(const std::string& schemaText) const;
     IntParameter readIntParameter(const std::string& schemaText) const;
     MeasurableParameter readMeasurableParameter(const std::string& schemaText) const;
@@ -238,10 +253,13 @@ public:
     /// @throws UnrecognizedIdentifierException "Could not find any object with typeid T.", also for the kinds that name
     ///         nothing: enumerations, ranges, disciplines, domains and groups.
     std::set<std::string> getDependencies(const std::string& typeId) const;
+
+    /// @name Dependencies of parameters made in code
+    /// @{
+
     /// Returns the type identifiers that a parameter made in code names, built-in ones included. It is checked as if it
     /// were registered.
     /// @throws ValidationException as registering it would.
-    /// @{
     std::set<std::string> getDependencies(const BoolParameter& parameter) const;
     std::set<std::string> getDependencies(const IntParameter& parameter) const;
     std::set<std::string> getDependencies(const MeasurableParameter& parameter) const;
@@ -255,9 +273,12 @@ public:
     /// @throws ValidationException "Schema T has a number that is not finite." if a range's bound is infinite or no
     ///         number, which only one made in code can be.
     std::string getSchema(const std::string& typeId) const;
+
+    /// @name Schemas of parameters made in code
+    /// @{
+
     /// Returns the schema of a parameter made in code. It is checked as if it were registered.
     /// @throws ValidationException as registering it would.
-    /// @{
     std::string getSchema(const BoolParameter& parameter) const;
     std::string getSchema(const IntParameter& parameter) const;
     std::string getSchema(const MeasurableParameter& parameter) const;
