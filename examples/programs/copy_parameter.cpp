@@ -13,6 +13,7 @@ using namespace Parameters;
 
 namespace {
 
+//! [copy]
 /// Registers the schema of an object, and of what it names, and so on; built-in objects need no copy.
 void copy(const ParametersEngine& from, ParametersEngine& to, const std::string& typeId) {
     std::set<std::string> wanted{typeId};
@@ -24,6 +25,7 @@ void copy(const ParametersEngine& from, ParametersEngine& to, const std::string&
     }
     to.resolveSchemas();
 }
+//! [copy]
 
 } // namespace
 

@@ -29,11 +29,14 @@ double convert(double value, const Units::Unit& from, const Units::Unit& to) {
 
 int main() {
     ParametersEngine engine;
+    //! [units]
     Units::UnitsEngine& units = engine.getUnitsEngine();
     units.registerSchema(unitText(litre, "Litre per Minute", "L/min"));
     units.registerSchema(unitText(bucket, "Bucket per Hour", "bkt/h"));
     units.resolveSchemas();
+    //! [units]
 
+    //! [objects]
     // Objects made in code need no schema text; they are there at once.
     const MeasurableSpec flow(SpecCore("pumps:spec.flow-1.0.0", "Flow"), {units.getUnit(litre), units.getUnit(bucket)},
                               units.getUnit(litre));
@@ -41,6 +44,7 @@ int main() {
     engine.registerMeasurableParameter(
         MeasurableParameter(ParameterCore("pumps:parameter.leakage-1.0.0", "Leakage", "", "", false), flow,
                             FloatRange(true, 0.0, true, 2.5)));
+    //! [objects]
 
     const MeasurableParameter leakage = engine.getMeasurableParameter("pumps:parameter.leakage-1.0.0");
     const MeasurableSpec spec = leakage.getSpec();

@@ -28,6 +28,7 @@ struct Row {
     std::function<std::string(const std::string&)> complaintAbout;
 };
 
+//! [range]
 /// The library describes a range and tests nothing; that bounds belong to the range is the choice of this dialog.
 template <class Range>
 std::string complaintAbout(const Range& range, const std::string& text, const std::string& unit) {
@@ -43,7 +44,9 @@ std::string complaintAbout(const Range& range, const std::string& text, const st
     }
     return complaint.str();
 }
+//! [range]
 
+//! [text]
 std::string complaintAbout(const StringRange& range, const std::string& text) {
     if (const auto set = range.getSetStringRangeComponent()) {
         const auto values = set->getAllowedValues();
@@ -52,6 +55,7 @@ std::string complaintAbout(const StringRange& range, const std::string& text) {
     const auto regex = range.getRegexStringRangeComponent();
     return !regex || std::regex_match(text, std::regex(regex->getRegex())) ? "" : "must match " + regex->getRegex();
 }
+//! [text]
 
 std::string complaintAbout(const Enumeration& enumeration, const std::string& text) {
     for (const auto& [identifier, integer] : enumeration.getValues()) {

@@ -17,6 +17,8 @@ struct NumericRangeData;
 /// The bounds of the values of a measurable parameter.
 ///
 /// A boundary is kept whatever its flag says, and the two are in no order: a range describes and tests nothing.
+/// An application tests values itself:
+/// @snippet parameter_dialog.cpp range
 /// @ingroup values
 class PARAMETERS_EXPORT FloatRange {
 public:

@@ -17,6 +17,9 @@ struct MeasurableSpecData;
 } // namespace Internal
 
 /// The spec of a measurable parameter: a physical quantity with its units.
+///
+/// Made in code, as any object can be:
+/// @snippet own_unit.cpp objects
 /// @ingroup values
 class PARAMETERS_EXPORT MeasurableSpec {
 public:

@@ -272,6 +272,9 @@ public:
     /// @throws UnrecognizedIdentifierException "Could not find any object with typeid T.", also for those built in.
     /// @throws ValidationException "Schema T has a number that is not finite." if a range's bound is infinite or no
     ///         number, which only one made in code can be.
+    ///
+    /// So a parameter goes from one engine to another with all that it needs:
+    /// @snippet copy_parameter.cpp copy
     std::string getSchema(const std::string& typeId) const;
 
     /// @name Schemas of parameters made in code

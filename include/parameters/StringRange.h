@@ -17,6 +17,9 @@ struct StringRangeData;
 } // namespace Internal
 
 /// Which texts a string parameter may have as values: any, those of a set, or those that a regular expression matches.
+///
+/// An application tests values itself:
+/// @snippet parameter_dialog.cpp text
 /// @ingroup values
 class PARAMETERS_EXPORT StringRange {
 public:

@@ -18,6 +18,7 @@ namespace Units {
 ///
 /// The text of a unit schema is a JSON object: "typeid", "inherits" with one base that contains
 /// "norvex.unit:unit-1.", and the constants "name" (a non-empty string) and "symbol" (a string, empty by default).
+/// @snippet own_unit.cpp units
 class UNITS_EXPORT UnitsEngine {
 public:
     /// Makes an engine without units.
