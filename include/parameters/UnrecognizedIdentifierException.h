@@ -16,6 +16,7 @@ public:
     UnrecognizedIdentifierException(const UnrecognizedIdentifierException&) noexcept = default;
     UnrecognizedIdentifierException& operator=(const UnrecognizedIdentifierException&) noexcept = default;
     /// @}
+    /// Defined in the library, so that a host catches the very class that the library throws.
     ~UnrecognizedIdentifierException() override;
 };
 

@@ -16,6 +16,7 @@ public:
     ValidationException(const ValidationException&) noexcept = default;
     ValidationException& operator=(const ValidationException&) noexcept = default;
     /// @}
+    /// Defined in the library, so that a host catches the very class that the library throws.
     ~ValidationException() override;
 };
 

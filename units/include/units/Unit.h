@@ -18,6 +18,7 @@ public:
     Unit(const Unit&) noexcept = default;
     Unit& operator=(const Unit&) noexcept = default;
     /// @}
+    /// Lets go of the data.
     ~Unit();
 
     /// Returns a copy of the typeid, by which the unit is known.

@@ -32,6 +32,7 @@ public:
     UnitsEngine& operator=(const UnitsEngine& other);
     /// Takes the other engine's units; it may only be assigned to or destroyed afterwards, unless it is this one.
     UnitsEngine& operator=(UnitsEngine&& other) noexcept;
+    /// Destroys the engine. What it has handed out stays as it is.
     ~UnitsEngine();
 
     /// True when a schema of that typeid is registered, resolved or not.
