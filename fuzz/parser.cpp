@@ -23,7 +23,7 @@ std::string shown(const Ostra::ParseOutcome& outcome) {
 }
 
 std::string rewritten(const std::string& text) {
-    return Ostra::JSON::parse(text, Ostra::ExceptionFactoryOf<std::runtime_error>::shared()).toText();
+    return Ostra::JSON(text, Ostra::ExceptionFactoryOf<std::runtime_error>::shared()).toText();
 }
 
 } // namespace

@@ -1,28 +1,19 @@
 #include "engine/Directory.h"
 
-#include "engine/Hash.h"
-
 #include <algorithm>
 #include <stdexcept>
 
 namespace Parameters::Internal {
 
-namespace {
-
-std::uint32_t shortHashOf(std::string_view typeId) noexcept { return static_cast<std::uint32_t>(hashOf(typeId)); }
-
-} // namespace
-
-const Directory::Entry* Directory::find(std::string_view typeId) const noexcept {
+const Directory::Entry* Directory::find(const Key& key) const noexcept {
     if (slots_.empty()) {
         return nullptr;
     }
     const std::size_t mask = slots_.size() - 1;
-    const std::uint32_t hash = shortHashOf(typeId);
-    for (std::size_t at = hash & mask; slots_[at].entry != none; at = (at + 1) & mask) {
-        if (slots_[at].hash == hash) {
+    for (std::size_t at = key.hash & mask; slots_[at].entry != none; at = (at + 1) & mask) {
+        if (slots_[at].hash == key.hash) {
             const Entry& entry = entries_[slots_[at].entry];
-            if (entry.typeId == typeId) {
+            if (entry.typeId == key.typeId) {
                 return &entry;
             }
         }
@@ -43,10 +34,10 @@ void Directory::reserveOne() {
     }
 }
 
-Directory::EntryId Directory::add(const Entry& entry) noexcept {
+Directory::EntryId Directory::add(const Entry& entry, std::uint32_t hash) noexcept {
     const auto id = static_cast<EntryId>(entries_.size());
     entries_.push_back(entry);
-    place({shortHashOf(entry.typeId), id});
+    place({hash, id});
     return id;
 }
 
@@ -62,7 +53,7 @@ void Directory::remove(EntryId id) noexcept {
 
 std::size_t Directory::slotOf(EntryId id) const noexcept {
     const std::size_t mask = slots_.size() - 1;
-    std::size_t at = shortHashOf(entries_[id].typeId) & mask;
+    std::size_t at = Key(entries_[id].typeId).hash & mask;
     while (slots_[at].entry != id) {
         at = (at + 1) & mask;
     }

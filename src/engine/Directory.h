@@ -1,5 +1,8 @@
 #pragma once
 
+#include "schema/Hash.h"
+
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -21,15 +24,25 @@ public:
         bool resolved;
     };
 
+    /// A typeid to look for, with its hash, so that who looks for it and then adds it works that out once.
+    struct Key {
+        template <std::convertible_to<std::string_view> Bytes>
+        Key(const Bytes& bytes) noexcept // NOLINT(google-explicit-constructor): any typeid is a key
+            : typeId(bytes), hash(static_cast<std::uint32_t>(Ostra::hashOf(typeId))) {}
+
+        std::string_view typeId;
+        std::uint32_t hash;
+    };
+
     /// Returns the entry of a typeid, or null.
-    const Entry* find(std::string_view typeId) const noexcept;
+    const Entry* find(const Key& key) const noexcept;
     Entry& operator[](EntryId id) noexcept { return entries_[id]; }
     const Entry& operator[](EntryId id) const noexcept { return entries_[id]; }
 
     /// Makes room for one entry more, so that the next add cannot throw.
     void reserveOne();
-    /// Adds an entry for a typeid that has none, after reserveOne.
-    EntryId add(const Entry& entry) noexcept;
+    /// Adds an entry for a typeid of that hash that has none, after reserveOne.
+    EntryId add(const Entry& entry, std::uint32_t hash) noexcept;
     /// Removes an entry. The last one takes its id.
     void remove(EntryId id) noexcept;
     EntryId idOf(const Entry& entry) const noexcept { return static_cast<EntryId>(&entry - entries_.data()); }

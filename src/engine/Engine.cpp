@@ -14,17 +14,17 @@ namespace {
 
 } // namespace
 
-bool Engine::isRegistered(std::string_view typeId) const {
-    return registry_.read().find(typeId) != nullptr || Ostra::BuiltIn::isReserved(typeId) ||
-           units_.isRegistered(std::string(typeId));
+bool Engine::isRegistered(const Directory::Key& key) const {
+    return registry_.read().find(key) != nullptr || Ostra::BuiltIn::isReserved(key.typeId) ||
+           units_.isRegistered(key.typeId);
 }
 
-void Engine::checkNew(std::string_view typeId) const {
-    if (typeId.empty()) {
+void Engine::checkNew(const Directory::Key& key) const {
+    if (key.typeId.empty()) {
         throw ValidationException("Typeid must not be empty.");
     }
-    if (isRegistered(typeId)) {
-        throw ValidationException("Schema with typeid " + std::string(typeId) + " is already registered.");
+    if (isRegistered(key)) {
+        throw ValidationException("Schema with typeid " + std::string(key.typeId) + " is already registered.");
     }
 }
 
@@ -62,7 +62,8 @@ void Engine::registerSchemas(const std::map<std::string, std::string>& texts) {
 
 bool Engine::offer(const std::string& text, Missing* missing) {
     const Ostra::Schema schema(text, ValidationExceptionFactory::shared());
-    checkNew(schema.typeId());
+    const Directory::Key key(schema.typeId());
+    checkNew(key);
     return anyKind(OfferingOrder{}, [&]<class K>() {
         auto record = K::read(schema);
         if (!record) {
@@ -71,7 +72,7 @@ bool Engine::offer(const std::string& text, Missing* missing) {
         if (missing != nullptr) {
             findMissing<K>(*record, *missing);
         }
-        registry_.write().addPending<K>(std::move(*record));
+        registry_.write().addPending<K>(std::move(*record), key);
         return true;
     });
 }
@@ -97,6 +98,7 @@ void Engine::findMissing(const Texts& named, std::string_view ownTypeId, std::se
 void Engine::resolveSchemas() {
     units_.resolveSchemas();
     Registry& registry = registry_.write();
+    registry.shrinkPending();
     Resolution resolution(registry, units_);
     if (const auto& faults = resolution.run(Resolution::Stop::afterFaultyKind); !faults.empty()) {
         throw ValidationException(faults.begin()->second);
@@ -135,7 +137,7 @@ std::set<std::string> Engine::dependenciesOf(const std::string& typeId) const {
 std::string Engine::schemaOf(const std::string& typeId) const {
     std::string text;
     const bool found = registry_.read().visitObject(
-        typeId, [&]<class K>(const typename K::Object& object) { text = K::write(object).toText(); });
+        typeId, [&]<class K>(const typename K::Object& object) { text = K::write(object); });
     if (!found) {
         failUnknown(typeId);
     }

@@ -70,10 +70,10 @@ public:
 
     template <class K>
     std::string schemaOf(const typename K::Object& object) const {
-        return K::write(bind<K>(object)).toText();
+        return K::write(bind<K>(object));
     }
 
-    bool isRegistered(std::string_view typeId) const;
+    bool isRegistered(const Directory::Key& key) const;
     ValueType valueTypeOf(const std::string& text) const;
     Missing registerSchema(const std::string& text);
     void registerSchemas(const std::map<std::string, std::string>& texts);
@@ -103,7 +103,7 @@ private:
     }
 
     /// @throws ValidationException if something has that typeid already, or nothing may have it.
-    void checkNew(std::string_view typeId) const;
+    void checkNew(const Directory::Key& key) const;
 
     /// Files a schema as pending with the first kind that accepts it; returns whether one did. What it names and is not
     /// registered is added to missing, unless that is null.

@@ -6,6 +6,8 @@
 #include "model/Access.h"
 
 #include <algorithm>
+#include <array>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -35,9 +37,18 @@ struct Store {
         const auto less = [this](std::uint32_t a, std::uint32_t b) {
             return typeIdOf(objects[a]) < typeIdOf(objects[b]);
         };
+        const auto& places = order.of(static_cast<std::uint32_t>(objects.size()), less);
         std::map<std::string, Object> result;
-        for (const std::uint32_t place : order.of(static_cast<std::uint32_t>(objects.size()), less)) {
-            result.emplace_hint(result.end(), typeIdOf(objects[place]), objects[place]);
+        constexpr std::size_t ahead = 16; // objects lie anywhere: waiting for several at a time is waiting once
+        std::array<std::string_view, ahead> typeIds;
+        for (std::size_t begin = 0; begin < places.size(); begin += ahead) {
+            const std::size_t count = std::min(ahead, places.size() - begin);
+            for (std::size_t i = 0; i < count; ++i) {
+                typeIds[i] = typeIdOf(objects[places[begin + i]]);
+            }
+            for (std::size_t i = 0; i < count; ++i) {
+                result.emplace_hint(result.end(), typeIds[i], objects[places[begin + i]]);
+            }
         }
         return result;
     }
@@ -58,7 +69,7 @@ public:
     const Store<K>& store() const noexcept {
         return std::get<kindIndex<K>>(stores_);
     }
-    const Directory::Entry* find(std::string_view typeId) const noexcept { return directory_.find(typeId); }
+    const Directory::Entry* find(const Directory::Key& key) const noexcept { return directory_.find(key); }
 
     /// Returns the object of that kind and typeid, or null.
     template <class K>
@@ -85,15 +96,16 @@ public:
         return true;
     }
 
-    /// Files a record whose typeid is new. Changes nothing when it throws.
+    /// Files a record whose typeid, the key, is new. Changes nothing when it throws.
     template <class K>
-    void addPending(typename K::Record&& record) {
+    void addPending(typename K::Record&& record, const Directory::Key& key) {
         auto& pending = std::get<kindIndex<K>>(stores_).pending;
         directory_.reserveOne();
         pending.push_back({std::move(record), 0});
         pending.back().entry =
             directory_.add({pending.back().record.texts[0], static_cast<std::uint32_t>(pending.size() - 1),
-                            static_cast<std::uint8_t>(kindIndex<K>), false});
+                            static_cast<std::uint8_t>(kindIndex<K>), false},
+                           key.hash);
     }
 
     /// Withdraws a record that is pending.
@@ -121,32 +133,46 @@ public:
         store.objects.push_back(object);
         store.order.grown();
         directory_.add({typeIdOf(object), static_cast<std::uint32_t>(store.objects.size() - 1),
-                        static_cast<std::uint8_t>(kindIndex<K>), true});
+                        static_cast<std::uint8_t>(kindIndex<K>), true},
+                       Directory::Key(typeIdOf(object)).hash);
+    }
+
+    /// Gives back the room for pending records that was made ahead.
+    void shrinkPending() {
+        forEachKind(StoreOrder{}, [this]<class K>() { std::get<kindIndex<K>>(stores_).pending.shrink_to_fit(); });
     }
 
     /// Makes room for an object for each pending record, so that commit cannot throw.
     void reserveForPending() {
         forEachKind(StoreOrder{}, [this]<class K>() {
             auto& store = std::get<kindIndex<K>>(stores_);
-            store.reserveObjects(store.pending.size());
+            if (!store.objects.empty()) {
+                store.reserveObjects(store.pending.size());
+            }
         });
     }
 
     /// Puts the objects built for the pending records of a kind, in their order, in the records' place.
-    template <class K, class Objects>
-    void commit(const Objects& built) noexcept {
+    template <class K>
+    void commit(std::vector<typename K::Object>& built) noexcept {
         auto& store = std::get<kindIndex<K>>(stores_);
-        for (std::size_t place = 0; place < store.pending.size(); ++place) {
-            Directory::Entry& entry = directory_[store.pending[place].entry];
-            entry.place = static_cast<std::uint32_t>(store.objects.size());
+        if (store.pending.empty()) {
+            return;
+        }
+        auto place = static_cast<std::uint32_t>(store.objects.size());
+        if (store.objects.empty()) {
+            store.objects.swap(built);
+        } else {
+            store.objects.insert(store.objects.end(), built.begin(), built.end());
+        }
+        for (const auto& pending : store.pending) {
+            Directory::Entry& entry = directory_[pending.entry];
+            assert(entry.typeId.data() == typeIdOf(store.objects[place]).data()); // which stays: the texts are shared
+            entry.place = place++;
             entry.resolved = true;
-            store.objects.push_back(*built[place]);
-            entry.typeId = typeIdOf(store.objects.back()); // the record, where it lived until now, goes
         }
-        if (!store.pending.empty()) {
-            store.order.grown();
-            std::vector<typename Store<K>::Pending>().swap(store.pending);
-        }
+        store.order.grown();
+        std::vector<typename Store<K>::Pending>().swap(store.pending);
     }
 
 private:

@@ -1,5 +1,7 @@
 #include "engine/Resolution.h"
 
+#include "model/Access.h"
+
 #include <parameters/ValidationException.h>
 #include <units/ValidationException.h>
 
@@ -27,7 +29,7 @@ const void* addressOf(const Registry& registry, const Staging* staging, const Di
         return nullptr;
     }
     const auto& staged = staging->of<K>()[entry.place];
-    return staged ? &*staged : nullptr;
+    return Access::isNone(staged) ? nullptr : &staged;
 }
 
 template <class... Ks>
@@ -73,7 +75,7 @@ const Resolution::Faults& Resolution::run(Stop stop) {
 template <class K>
 void Resolution::build(Stop stop) {
     const auto& pending = registry_.store<K>().pending;
-    staging_.of<K>().resize(pending.size());
+    staging_.of<K>().assign(pending.size(), Access::none<typename K::Object>());
     if constexpr (KindWithPasses<K>) {
         // Within a pass in ascending order too, since whether an object of this kind is there yet can now matter.
         std::vector<std::size_t> places(pending.size());
@@ -103,7 +105,7 @@ template <class K>
 void Resolution::build(std::size_t place) {
     const auto& record = registry_.store<K>().pending[place].record;
     try {
-        staging_.of<K>()[place].emplace(K::build(record, finder_));
+        Access::put(K::build(record, finder_), staging_.of<K>()[place]);
     } catch (const ValidationException& fault) {
         faults_.emplace(record.texts[0], fault.what());
     }

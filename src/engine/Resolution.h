@@ -16,11 +16,11 @@
 
 namespace Parameters::Internal {
 
-/// The objects that are being built for pending records, place by place; empty where there is none (yet).
+/// The objects that are being built for pending records, place by place; none where there is none (yet).
 class Staging {
 public:
     template <class K>
-    using Objects = std::vector<std::optional<typename K::Object>>;
+    using Objects = std::vector<typename K::Object>;
 
     template <class K>
     Objects<K>& of() noexcept {
@@ -74,7 +74,7 @@ public:
     const Faults& run(Stop stop);
 
     template <class K>
-    const Staging::Objects<K>& built() const noexcept {
+    Staging::Objects<K>& built() noexcept {
         return staging_.of<K>();
     }
 

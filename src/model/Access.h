@@ -21,6 +21,22 @@ struct Access {
     static Value make(std::shared_ptr<Data> data) noexcept {
         return Value(std::move(data));
     }
+
+    /// A handle without data, for a place whose value is not there. It never leaves the library.
+    template <class Value>
+    static Value none() noexcept {
+        return Value(nullptr);
+    }
+    template <class Value>
+    static bool isNone(const Value& value) noexcept {
+        return value.data_ == nullptr;
+    }
+    /// Puts a value in a place without touching its count: handles can only be copied, lest others see one without
+    /// data.
+    template <class Value>
+    static void put(Value&& value, Value& place) noexcept {
+        place.data_ = std::move(value.data_);
+    }
 };
 
 /// Returns the type identifier by which a value is known; it lives as long as the value's data.

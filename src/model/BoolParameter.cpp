@@ -47,7 +47,7 @@ BoolParameter BoolParameterKind::build(const Record& record, const Finder& finde
         std::make_shared<const BoolParameterData>(BoolParameterData{std::move(core), spec}));
 }
 
-Ostra::JSON BoolParameterKind::write(const BoolParameter& parameter) {
+std::string BoolParameterKind::write(const BoolParameter& parameter) {
     const auto& [core, spec] = Access::data(parameter);
     Ostra::SchemaWriter writer = schemaWriter(core.typeId(), BuiltIn::boolParameter);
     writeParameterConstants(writer, core);

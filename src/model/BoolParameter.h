@@ -2,13 +2,13 @@
 
 #include "model/BoolSpec.h"
 #include "model/ParameterCore.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <parameters/BoolParameter.h>
 #include <parameters/ValueType.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace Parameters::Internal {
@@ -32,7 +32,7 @@ struct BoolParameterKind {
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const BoolParameter& parameter);
     static BoolParameter build(const Record& record, const Finder& finder);
-    static Ostra::JSON write(const BoolParameter& parameter);
+    static std::string write(const BoolParameter& parameter);
 };
 
 } // namespace Parameters::Internal

@@ -136,23 +136,23 @@ Category CategoryKind::build(const Record& record, const Finder& finder) {
     return categoryOf({record.texts, buildSub(record, finder)});
 }
 
-Ostra::JSON CategoryKind::write(const Category& category) {
+std::string CategoryKind::write(const Category& category) {
     const CategoryData& data = Access::data(category);
     Ostra::SchemaWriter writer =
         schemaWriter(data.typeId(), data.major() != nullptr ? BuiltIn::majorCategory : BuiltIn::subCategory);
-    writer.constant("name", writer.string(data.name()));
+    writer.constant("name").string(data.name());
     if (data.sub() != nullptr) {
-        writer.typedConstant("parent", writer.typedValue(parentOf(*data.sub())));
+        writer.typedConstant("parent").typedValue(parentOf(*data.sub()));
         return std::move(writer).finish();
     }
     const auto& [domain, disciplines] = Access::data(*data.major());
-    writer.typedConstant("domain", writer.typedValue(typeIdOf(domain)));
+    writer.typedConstant("domain").typedValue(typeIdOf(domain));
     if (!disciplines.empty()) {
-        Ostra::JSON typedValues = writer.array();
+        writer.typedConstant("disciplines").beginArray();
         for (const Taxon& discipline : disciplines) {
-            typedValues.append(writer.typedValue(typeIdOf(discipline)));
+            writer.typedValue(typeIdOf(discipline));
         }
-        writer.typedConstant("disciplines", std::move(typedValues));
+        writer.endArray();
     }
     return std::move(writer).finish();
 }

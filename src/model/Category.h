@@ -3,12 +3,12 @@
 #include "model/Access.h"
 #include "model/Finder.h"
 #include "model/Texts.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <parameters/Category.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
@@ -50,7 +50,7 @@ struct CategoryKind {
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const Category& category);
     static Category build(const Record& record, const Finder& finder);
-    static Ostra::JSON write(const Category& category);
+    static std::string write(const Category& category);
 };
 
 } // namespace Parameters::Internal

@@ -3,11 +3,11 @@
 #include "model/SpecCore.h"
 #include "model/Writing.h"
 #include "schema/BuiltIn.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -35,7 +35,7 @@ public:
 
     static Spec build(const Record& record, const Finder& finder) { return of(buildSpecCore(record, finder)); }
 
-    static Ostra::JSON write(const Spec& spec) {
+    static std::string write(const Spec& spec) {
         const SpecCoreData& core = Access::data(spec);
         Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
         writeSpecConstants(writer, core);

@@ -91,7 +91,7 @@ std::optional<EnumerationKind::Record> EnumerationKind::read(const Ostra::Schema
     const std::string typeId(schema.typeId());
     std::vector<std::string_view> texts{typeId};
     std::vector<std::int64_t> integers;
-    for (const auto& [identifier, definition] : schema.properties()) {
+    for (const auto& [identifier, definition] : schema.properties().sorted()) {
         integers.push_back(readInteger(typeId, identifier, definition));
         texts.push_back(identifier);
     }
@@ -108,11 +108,11 @@ Enumeration EnumerationKind::build(const Record& record, const Finder& finder) {
     return Access::make<Enumeration>(std::make_shared<const EnumerationData>(record));
 }
 
-Ostra::JSON EnumerationKind::write(const Enumeration& enumeration) {
+std::string EnumerationKind::write(const Enumeration& enumeration) {
     const EnumerationData& data = Access::data(enumeration);
     Ostra::SchemaWriter writer(data.typeId(), Ostra::BuiltIn::enumeration, ValidationExceptionFactory::shared());
     for (std::size_t value = 0; value < data.integers.size(); ++value) {
-        writer.property(data.identifier(value), writer.integer(data.integers[value]));
+        writer.property(data.identifier(value)).integer(data.integers[value]);
     }
     return std::move(writer).finish();
 }

@@ -3,13 +3,13 @@
 #include "model/Access.h"
 #include "model/Finder.h"
 #include "model/Texts.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <parameters/Enumeration.h>
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -32,7 +32,7 @@ struct EnumerationKind {
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const Enumeration& enumeration) { return Access::data(enumeration); }
     static Enumeration build(const Record& record, const Finder& finder);
-    static Ostra::JSON write(const Enumeration& enumeration);
+    static std::string write(const Enumeration& enumeration);
 };
 
 } // namespace Parameters::Internal

@@ -46,12 +46,11 @@ bool isEmptyObject(Ostra::JSONView value) { return value.isObject() && value.siz
 
 /// Returns the typeid of the general spec.
 std::string_view readSpec(const Ostra::Schema& schema, const std::string& typeId) {
-    const auto found = schema.constants().find("spec");
-    if (found == schema.constants().end()) {
+    const auto definition = schema.constants().find("spec");
+    if (!definition) {
         schema.fail("Enumeration parameter schema " + typeId + " has an undefined spec constant.");
     }
-    const Ostra::JSONView definition = found->second;
-    const auto typedValue = typedValueIn(definition);
+    const auto typedValue = typedValueIn(*definition);
     if (!typedValue) {
         schema.fail("A spec definition must contain either a value or a typedValue.");
     }
@@ -60,7 +59,7 @@ std::string_view readSpec(const Ostra::Schema& schema, const std::string& typeId
         schema.fail("Spec constant in enumeration parameter schema " + typeId +
                     " must specify a nonempty typeid string.");
     }
-    const auto beside = definition.hasMember("typedValue") ? definition.member("value") : std::nullopt;
+    const auto beside = definition->hasMember("typedValue") ? definition->member("value") : std::nullopt;
     const auto inside = typedValue->member("value");
     if ((beside && !isEmptyObject(*beside)) || (inside && !isEmptyObject(*inside))) {
         schema.fail("Value of spec constant in enumeration parameter schema " + typeId + " must be an empty object.");
@@ -70,12 +69,12 @@ std::string_view readSpec(const Ostra::Schema& schema, const std::string& typeId
 
 /// Returns the typeid of the enumeration.
 std::string_view readEnumeration(const Ostra::Schema& schema, const std::string& typeId) {
-    const auto found = schema.properties().find("value");
-    if (found == schema.properties().end()) {
+    const auto definition = schema.properties().find("value");
+    if (!definition) {
         schema.fail("Enumeration parameter schema " + typeId + " has an undefined value property.");
     }
-    const auto typedValue = typedValueIn(found->second);
-    const auto enumeration = (typedValue ? *typedValue : Ostra::Schema::valueOf(found->second)).member("typeid");
+    const auto typedValue = typedValueIn(*definition);
+    const auto enumeration = (typedValue ? *typedValue : Ostra::Schema::valueOf(*definition)).member("typeid");
     if (!enumeration) {
         schema.fail("Value property in enumeration parameter schema " + typeId +
                     " must specify a nonempty typeid string.");
@@ -114,12 +113,12 @@ EnumerationParameter EnumerationParameterKind::build(const Record& record, const
     return parameterOf({std::move(core), spec, findEnumeration()});
 }
 
-Ostra::JSON EnumerationParameterKind::write(const EnumerationParameter& parameter) {
+std::string EnumerationParameterKind::write(const EnumerationParameter& parameter) {
     const auto& [core, spec, enumeration] = Access::data(parameter);
     Ostra::SchemaWriter writer = schemaWriter(core.typeId(), Ostra::BuiltIn::enumerationParameter);
     writeParameterConstants(writer, core);
     writeSpecConstant(writer, typeIdOf(spec));
-    writer.typedProperty("value", writer.typedValue(typeIdOf(enumeration)));
+    writer.typedProperty("value").typedValue(typeIdOf(enumeration));
     return std::move(writer).finish();
 }
 

@@ -3,12 +3,12 @@
 #include "model/Enumeration.h"
 #include "model/GeneralSpec.h"
 #include "model/ParameterCore.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <parameters/EnumerationParameter.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace Parameters::Internal {
@@ -30,7 +30,7 @@ struct EnumerationParameterKind {
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const EnumerationParameter& parameter);
     static EnumerationParameter build(const Record& record, const Finder& finder);
-    static Ostra::JSON write(const EnumerationParameter& parameter);
+    static std::string write(const EnumerationParameter& parameter);
 };
 
 } // namespace Parameters::Internal

@@ -15,7 +15,7 @@ struct FloatRangeTraits {
 
     static constexpr const auto& base = Ostra::BuiltIn::floatRange;
 
-    static Ostra::JSON json(const Ostra::SchemaWriter& writer, Number number) { return writer.number(number); }
+    static void write(Ostra::SchemaWriter& writer, Number number) { writer.number(number); }
 };
 
 struct FloatRangeKind : NumericRangeKind<FloatRangeTraits> {

@@ -54,7 +54,7 @@ IntParameter IntParameterKind::build(const Record& record, const Finder& finder)
     return makeRanged<IntParameter>(std::move(core), spec, record.findRange<IntRangeKind>(finder));
 }
 
-Ostra::JSON IntParameterKind::write(const IntParameter& parameter) {
+std::string IntParameterKind::write(const IntParameter& parameter) {
     const auto& [core, spec, range] = Access::data(parameter);
     Ostra::SchemaWriter writer = schemaWriter(core.typeId(), BuiltIn::intParameter);
     writeParameterConstants(writer, core);

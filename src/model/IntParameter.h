@@ -3,13 +3,13 @@
 #include "model/IntRange.h"
 #include "model/IntSpec.h"
 #include "model/RangedParameter.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <parameters/IntParameter.h>
 #include <parameters/ValueType.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace Parameters::Internal {
@@ -26,7 +26,7 @@ struct IntParameterKind {
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const IntParameter& parameter);
     static IntParameter build(const Record& record, const Finder& finder);
-    static Ostra::JSON write(const IntParameter& parameter);
+    static std::string write(const IntParameter& parameter);
 };
 
 } // namespace Parameters::Internal

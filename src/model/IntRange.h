@@ -15,7 +15,7 @@ struct IntRangeTraits {
 
     static constexpr const auto& base = Ostra::BuiltIn::intRange;
 
-    static Ostra::JSON json(const Ostra::SchemaWriter& writer, Number number) { return writer.integer(number); }
+    static void write(Ostra::SchemaWriter& writer, Number number) { writer.integer(number); }
 };
 
 struct IntRangeKind : NumericRangeKind<IntRangeTraits> {

@@ -3,11 +3,11 @@
 #include "model/Finder.h"
 #include "model/Texts.h"
 #include "schema/BuiltIn.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <concepts>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace Parameters::Internal {
@@ -24,7 +24,7 @@ concept Kind = requires(const Ostra::Schema& schema, const typename K::Record& r
     { K::read(schema) } -> std::same_as<std::optional<typename K::Record>>; // empty: not this kind
     { K::recordOf(object) } -> std::same_as<typename K::Record>;
     { K::build(record, finder) } -> std::same_as<typename K::Object>;
-    { K::write(object) } -> std::same_as<Ostra::JSON>;
+    { K::write(object) } -> std::same_as<std::string>; // the text
 };
 
 /// A kind whose objects name other objects: its record holds their typeids.

@@ -42,7 +42,7 @@ MeasurableParameter MeasurableParameterKind::build(const Record& record, const F
     return makeRanged<MeasurableParameter>(std::move(core), spec, range);
 }
 
-Ostra::JSON MeasurableParameterKind::write(const MeasurableParameter& parameter) {
+std::string MeasurableParameterKind::write(const MeasurableParameter& parameter) {
     const auto& [core, spec, range] = Access::data(parameter);
     Ostra::SchemaWriter writer = schemaWriter(core.typeId(), Ostra::BuiltIn::measurableParameter);
     writeParameterConstants(writer, core);

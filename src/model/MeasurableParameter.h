@@ -3,13 +3,13 @@
 #include "model/FloatRange.h"
 #include "model/MeasurableSpec.h"
 #include "model/RangedParameter.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <parameters/MeasurableParameter.h>
 #include <parameters/ValueType.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace Parameters::Internal {
@@ -24,7 +24,7 @@ struct MeasurableParameterKind {
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const MeasurableParameter& parameter);
     static MeasurableParameter build(const Record& record, const Finder& finder);
-    static Ostra::JSON write(const MeasurableParameter& parameter);
+    static std::string write(const MeasurableParameter& parameter);
 };
 
 } // namespace Parameters::Internal

@@ -88,18 +88,18 @@ MeasurableSpec MeasurableSpecKind::build(const Record& record, const Finder& fin
     return specOf(buildSpecCore(record, finder), std::move(units));
 }
 
-Ostra::JSON MeasurableSpecKind::write(const MeasurableSpec& spec) {
+std::string MeasurableSpecKind::write(const MeasurableSpec& spec) {
     const auto& [core, applicableUnits, storageUnit] = Access::data(spec);
     Ostra::SchemaWriter writer = schemaWriter(core.typeId(), BuiltIn::measurableSpec);
     writeSpecConstants(writer, core);
     if (!applicableUnits.empty()) {
-        Ostra::JSON typedValues = writer.array();
+        writer.typedConstant("applicableUnits").beginArray();
         for (const Units::Unit& unit : applicableUnits) {
-            typedValues.append(writer.typedValue(unit.getTypeId()));
+            writer.typedValue(unit.getTypeId());
         }
-        writer.typedConstant("applicableUnits", std::move(typedValues));
+        writer.endArray();
     }
-    writer.typedConstant("storageUnit", writer.typedValue(storageUnit.getTypeId()));
+    writer.typedConstant("storageUnit").typedValue(storageUnit.getTypeId());
     return std::move(writer).finish();
 }
 

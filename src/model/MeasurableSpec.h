@@ -1,12 +1,12 @@
 #pragma once
 
 #include "model/SpecCore.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <parameters/MeasurableSpec.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -31,7 +31,7 @@ struct MeasurableSpecKind {
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const MeasurableSpec& spec);
     static MeasurableSpec build(const Record& record, const Finder& finder);
-    static Ostra::JSON write(const MeasurableSpec& spec);
+    static std::string write(const MeasurableSpec& spec);
 };
 
 } // namespace Parameters::Internal

@@ -57,7 +57,7 @@ public:
 
     static Object build(const Record& record, const Finder&) { return of(record); }
 
-    static Ostra::JSON write(const Object& range) {
+    static std::string write(const Object& range) {
         const Record& data = Access::data(range);
         Ostra::SchemaWriter writer = schemaWriter(data.typeId(), base);
         writeSide(writer, "fromBottom", data.fromBottom, "bottomBoundary", data.bottomBoundary);
@@ -97,16 +97,12 @@ public:
         if (!data.fromBottom && !data.fromTop) {
             return;
         }
-        Ostra::JSON typedValue = writer.typedValue(data.typeId());
+        writer.typedConstant("range").beginTypedValue(data.typeId());
         if (data.typeId() == base.full()) {
-            Ostra::JSON value = writer.object();
-            value.add("fromBottom", writer.boolean(data.fromBottom));
-            value.add("bottomBoundary", Traits::json(writer, data.bottomBoundary));
-            value.add("fromTop", writer.boolean(data.fromTop));
-            value.add("topBoundary", Traits::json(writer, data.topBoundary));
-            typedValue.add("value", std::move(value));
+            writer.name("value");
+            writeInline(writer, data);
         }
-        writer.typedConstant("range", std::move(typedValue));
+        writer.endObject();
     }
 
     static Object of(Record record) { return Access::make<Object>(std::make_shared<const Record>(std::move(record))); }
@@ -120,10 +116,23 @@ public:
 private:
     static void writeSide(Ostra::SchemaWriter& writer, std::string_view flagId, bool flag, std::string_view boundaryId,
                           Number boundary) {
-        writer.constant(flagId, writer.boolean(flag));
+        writer.constant(flagId).boolean(flag);
         if (flag && boundary != Number{}) {
-            writer.constant(boundaryId, Traits::json(writer, boundary));
+            Traits::write(writer.constant(boundaryId), boundary);
         }
+    }
+
+    static void writeInline(Ostra::SchemaWriter& writer, const Record& data) {
+        writer.beginObject();
+        writer.name("fromBottom");
+        writer.boolean(data.fromBottom);
+        writer.name("bottomBoundary");
+        Traits::write(writer, data.bottomBoundary);
+        writer.name("fromTop");
+        writer.boolean(data.fromTop);
+        writer.name("topBoundary");
+        Traits::write(writer, data.topBoundary);
+        writer.endObject();
     }
 
     static bool readInlineFlag(Ostra::JSONView value, std::string_view name) {

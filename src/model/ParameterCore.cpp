@@ -48,25 +48,25 @@ ParameterCoreData buildParameterCore(const ParameterRecord& record, const Finder
 }
 
 void writeParameterConstants(Ostra::SchemaWriter& writer, const ParameterCoreData& core) {
-    writer.constant("name", writer.string(core.name()));
+    writer.constant("name").string(core.name());
     if (!core.description().empty()) {
-        writer.constant("description", writer.string(core.description()));
+        writer.constant("description").string(core.description());
     }
     if (!core.sampleText().empty()) {
-        writer.constant("sampleText", writer.string(core.sampleText()));
+        writer.constant("sampleText").string(core.sampleText());
     }
     const std::string_view group = typeIdOf(core.group);
     if (group != Ostra::BuiltIn::group.full()) {
-        writer.typedConstant("group", writer.typedValue(group));
+        writer.typedConstant("group").typedValue(group);
     }
     if (core.readOnly) {
-        writer.constant("readOnly", writer.boolean(true));
+        writer.constant("readOnly").boolean(true);
     }
 }
 
 void writeSpecConstant(Ostra::SchemaWriter& writer, std::string_view spec, std::string_view defaultSpec) {
     if (spec != defaultSpec) {
-        writer.typedConstant("spec", writer.typedValue(spec));
+        writer.typedConstant("spec").typedValue(spec);
     }
 }
 

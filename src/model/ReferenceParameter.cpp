@@ -133,18 +133,20 @@ ReferenceParameter ReferenceParameterKind::build(const Record& record, const Fin
     return parameterOf({std::move(core), spec, record.ranged});
 }
 
-Ostra::JSON ReferenceParameterKind::write(const ReferenceParameter& parameter) {
+std::string ReferenceParameterKind::write(const ReferenceParameter& parameter) {
     const auto& [core, spec, ranged] = Access::data(parameter);
     const auto& base = ranged ? BuiltIn::rangedReferenceParameter : BuiltIn::referenceParameter;
     Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
     writeParameterConstants(writer, core);
     const auto& category = Access::data(spec).category;
     if (category && BuiltIn::familyType.isIn(typeIdOf(spec))) {
-        Ostra::JSON inlined = writer.object();
-        inlined.add("category", writer.typedValue(typeIdOf(*category)));
-        Ostra::JSON typedValue = writer.typedValue(BuiltIn::familyType.full());
-        typedValue.add("typedValue", std::move(inlined));
-        writer.typedConstant("spec", std::move(typedValue));
+        writer.typedConstant("spec").beginTypedValue(BuiltIn::familyType.full());
+        writer.name("typedValue");
+        writer.beginObject();
+        writer.name("category");
+        writer.typedValue(typeIdOf(*category));
+        writer.endObject();
+        writer.endObject();
     } else {
         writeSpecConstant(writer, typeIdOf(spec), BuiltIn::referenceSpec.full());
     }

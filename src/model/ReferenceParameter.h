@@ -2,13 +2,13 @@
 
 #include "model/ParameterCore.h"
 #include "model/ReferenceSpec.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <parameters/ReferenceParameter.h>
 #include <parameters/ValueType.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace Parameters::Internal {
@@ -33,7 +33,7 @@ struct ReferenceParameterKind {
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const ReferenceParameter& parameter);
     static ReferenceParameter build(const Record& record, const Finder& finder);
-    static Ostra::JSON write(const ReferenceParameter& parameter);
+    static std::string write(const ReferenceParameter& parameter);
 };
 
 } // namespace Parameters::Internal

@@ -58,12 +58,12 @@ ReferenceSpec ReferenceSpecKind::build(const Record& record, const Finder& finde
     return specOf(std::move(core), std::move(category));
 }
 
-Ostra::JSON ReferenceSpecKind::write(const ReferenceSpec& spec) {
+std::string ReferenceSpecKind::write(const ReferenceSpec& spec) {
     const auto& [core, category] = Access::data(spec);
     Ostra::SchemaWriter writer = schemaWriter(core.typeId(), BuiltIn::referenceSpec);
     writeSpecConstants(writer, core);
     if (category) {
-        writer.typedConstant("category", writer.typedValue(typeIdOf(*category)));
+        writer.typedConstant("category").typedValue(typeIdOf(*category));
     }
     return std::move(writer).finish();
 }

@@ -2,12 +2,12 @@
 
 #include "model/SpecCore.h"
 #include "schema/BuiltIn.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <parameters/ReferenceSpec.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace Parameters::Internal {
@@ -29,7 +29,7 @@ struct ReferenceSpecKind {
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const ReferenceSpec& spec);
     static ReferenceSpec build(const Record& record, const Finder& finder);
-    static Ostra::JSON write(const ReferenceSpec& spec);
+    static std::string write(const ReferenceSpec& spec);
     static ReferenceSpec standIn(std::string_view typeId);
 
     /// Returns the spec of family types under that typeid.

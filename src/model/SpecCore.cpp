@@ -35,10 +35,10 @@ SpecCoreData buildSpecCore(const SpecRecord& record, const Finder& finder) {
 }
 
 void writeSpecConstants(Ostra::SchemaWriter& writer, const SpecCoreData& core) {
-    writer.constant("name", writer.string(core.name()));
+    writer.constant("name").string(core.name());
     const std::string_view discipline = typeIdOf(core.discipline);
     if (discipline != Ostra::BuiltIn::discipline.full()) {
-        writer.typedConstant("discipline", writer.typedValue(discipline));
+        writer.typedConstant("discipline").typedValue(discipline);
     }
 }
 

@@ -55,7 +55,7 @@ StringParameter StringParameterKind::build(const Record& record, const Finder& f
     return makeRanged<StringParameter>(std::move(core), spec, record.findRange<StringRangeKind>(finder));
 }
 
-Ostra::JSON StringParameterKind::write(const StringParameter& parameter) {
+std::string StringParameterKind::write(const StringParameter& parameter) {
     const auto& [core, spec, range] = Access::data(parameter);
     Ostra::SchemaWriter writer = schemaWriter(core.typeId(), BuiltIn::stringParameter);
     writeParameterConstants(writer, core);

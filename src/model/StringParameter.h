@@ -3,13 +3,13 @@
 #include "model/RangedParameter.h"
 #include "model/StringRange.h"
 #include "model/StringSpec.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <parameters/StringParameter.h>
 #include <parameters/ValueType.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace Parameters::Internal {
@@ -24,7 +24,7 @@ struct StringParameterKind {
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const StringParameter& parameter);
     static StringParameter build(const Record& record, const Finder& finder);
-    static Ostra::JSON write(const StringParameter& parameter);
+    static std::string write(const StringParameter& parameter);
 };
 
 } // namespace Parameters::Internal

@@ -99,12 +99,12 @@ void checkUnique(const StringRangeData& range) {
     }
 }
 
-Ostra::JSON allowedValuesJSON(const Ostra::SchemaWriter& writer, const SetStringRangeComponent& set) {
-    Ostra::JSON values = writer.array();
+void writeAllowedValues(Ostra::SchemaWriter& writer, const SetStringRangeComponent& set) {
+    writer.beginArray();
     for (const std::string_view value : allowedValuesIn(set)) {
-        values.append(writer.string(value));
+        writer.string(value);
     }
-    return values;
+    writer.endArray();
 }
 
 StringRange readInlineSet(Ostra::JSONView value) {
@@ -157,16 +157,16 @@ StringRange StringRangeKind::build(const Record& record, const Finder& finder) {
     return rangeOf(record);
 }
 
-Ostra::JSON StringRangeKind::write(const StringRange& range) {
+std::string StringRangeKind::write(const StringRange& range) {
     const StringRangeData& data = Access::data(range);
     const auto* set = data.set();
     Ostra::SchemaWriter writer =
         schemaWriter(data.typeId(), set != nullptr ? BuiltIn::setStringRange : BuiltIn::regexStringRange);
     if (set != nullptr) {
-        writer.constant("allowedValues", allowedValuesJSON(writer, *set));
+        writeAllowedValues(writer.constant("allowedValues"), *set);
     } else {
         const auto* regex = data.regex(); // none: a range without limitation is written as an empty expression
-        writer.constant("regex", writer.string(regex != nullptr ? regexIn(*regex) : std::string_view()));
+        writer.constant("regex").string(regex != nullptr ? regexIn(*regex) : std::string_view());
     }
     return std::move(writer).finish();
 }
@@ -194,19 +194,25 @@ RangeReference<StringRange> StringRangeKind::referenceTo(const StringRange& rang
 
 void StringRangeKind::writeConstant(Ostra::SchemaWriter& writer, const StringRange& range) {
     const StringRangeData& data = Access::data(range);
-    Ostra::JSON typedValue = writer.typedValue(data.typeId());
-    Ostra::JSON value = writer.object();
-    if (data.set() != nullptr && BuiltIn::setStringRange.isIn(data.typeId())) {
-        value.add("allowedValues", allowedValuesJSON(writer, *data.set()));
-    } else if (data.regex() != nullptr && BuiltIn::regexStringRange.isIn(data.typeId())) {
-        value.add("regex", writer.string(regexIn(*data.regex())));
-    } else if (BuiltIn::stringRange.isIn(data.typeId())) {
+    const bool set = data.set() != nullptr && BuiltIn::setStringRange.isIn(data.typeId());
+    const bool regex = !set && data.regex() != nullptr && BuiltIn::regexStringRange.isIn(data.typeId());
+    if (!set && !regex && BuiltIn::stringRange.isIn(data.typeId())) {
         return;
     }
-    if (value.view().size() != 0) {
-        typedValue.add("value", std::move(value));
+    writer.typedConstant("range").beginTypedValue(data.typeId());
+    if (set || regex) {
+        writer.name("value");
+        writer.beginObject();
+        if (set) {
+            writer.name("allowedValues");
+            writeAllowedValues(writer, *data.set());
+        } else {
+            writer.name("regex");
+            writer.string(regexIn(*data.regex()));
+        }
+        writer.endObject();
     }
-    writer.typedConstant("range", std::move(typedValue));
+    writer.endObject();
 }
 
 void StringRangeKind::check(const StringRange& range) {

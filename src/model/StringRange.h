@@ -5,13 +5,13 @@
 #include "model/RangeConstant.h"
 #include "model/Texts.h"
 #include "schema/Constants.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 #include "schema/SchemaWriter.h"
 
 #include <parameters/StringRange.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <variant>
 
@@ -43,7 +43,7 @@ struct StringRangeKind {
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const StringRange& range) { return Access::data(range); }
     static StringRange build(const Record& record, const Finder& finder);
-    static Ostra::JSON write(const StringRange& range);
+    static std::string write(const StringRange& range);
 
     /// Reads the range constant of a parameter; without it any text is allowed.
     static RangeReference<StringRange> readConstant(const Ostra::Schema& schema, const Ostra::Constants& constants);

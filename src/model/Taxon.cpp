@@ -39,10 +39,10 @@ std::optional<TaxonomyKind::Record> TaxonomyKind::readAs(const Ostra::BuiltIn::I
     return Record{{schema.typeId(), name}};
 }
 
-Ostra::JSON TaxonomyKind::writeAs(const Ostra::BuiltIn::Identifier& base, const Taxon& taxon) {
+std::string TaxonomyKind::writeAs(const Ostra::BuiltIn::Identifier& base, const Taxon& taxon) {
     const TaxonData& data = Access::data(taxon);
     Ostra::SchemaWriter writer = schemaWriter(data.typeId(), base);
-    writer.constant("name", writer.string(data.name()));
+    writer.constant("name").string(data.name());
     return std::move(writer).finish();
 }
 

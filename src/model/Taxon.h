@@ -4,12 +4,12 @@
 #include "model/Finder.h"
 #include "model/Texts.h"
 #include "schema/BuiltIn.h"
-#include "schema/JSON.h"
 #include "schema/Schema.h"
 
 #include <parameters/Taxon.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace Parameters::Internal {
@@ -34,7 +34,7 @@ public:
 
 protected:
     static std::optional<Record> readAs(const Ostra::BuiltIn::Identifier& base, const Ostra::Schema& schema);
-    static Ostra::JSON writeAs(const Ostra::BuiltIn::Identifier& base, const Taxon& taxon);
+    static std::string writeAs(const Ostra::BuiltIn::Identifier& base, const Taxon& taxon);
     static Taxon standInFor(const Ostra::BuiltIn::Identifier& builtIn, std::string_view typeId);
 };
 
@@ -44,7 +44,7 @@ public:
     static constexpr const auto& builtIn = Ostra::BuiltIn::discipline;
 
     static std::optional<Record> read(const Ostra::Schema& schema) { return readAs(builtIn, schema); }
-    static Ostra::JSON write(const Taxon& taxon) { return writeAs(builtIn, taxon); }
+    static std::string write(const Taxon& taxon) { return writeAs(builtIn, taxon); }
     static Taxon standIn(std::string_view typeId) { return standInFor(builtIn, typeId); }
 };
 
@@ -54,7 +54,7 @@ public:
     static constexpr const auto& builtIn = Ostra::BuiltIn::group;
 
     static std::optional<Record> read(const Ostra::Schema& schema) { return readAs(builtIn, schema); }
-    static Ostra::JSON write(const Taxon& taxon) { return writeAs(builtIn, taxon); }
+    static std::string write(const Taxon& taxon) { return writeAs(builtIn, taxon); }
     static Taxon standIn(std::string_view typeId) { return standInFor(builtIn, typeId); }
 };
 
@@ -64,7 +64,7 @@ public:
     static constexpr std::string_view word = "domain";
 
     static std::optional<Record> read(const Ostra::Schema& schema) { return readAs(Ostra::BuiltIn::domain, schema); }
-    static Ostra::JSON write(const Taxon& taxon) { return writeAs(Ostra::BuiltIn::domain, taxon); }
+    static std::string write(const Taxon& taxon) { return writeAs(Ostra::BuiltIn::domain, taxon); }
 };
 
 } // namespace Parameters::Internal

@@ -4,13 +4,21 @@
 
 namespace Ostra::BuiltIn {
 
-bool isReserved(std::string_view typeId) {
-    // Most typeids are told apart by this one search; it stands for all twelve, which begin with the same word.
-    if (typeId.find("norvex.") == std::string_view::npos) {
-        return false;
+bool mayBeIn(std::string_view typeId, std::size_t position) {
+    constexpr std::string_view word = "norvex.";
+    constexpr std::size_t rarest = word.find('x'); // so most searches end without a look at the other letters
+    for (std::size_t at = typeId.find(word[rarest], position + rarest); at != std::string_view::npos;
+         at = typeId.find(word[rarest], at + 1)) {
+        if (typeId.substr(at - rarest, word.size()) == word) {
+            return true;
+        }
     }
-    return std::any_of(reserved.begin(), reserved.end(),
-                       [typeId](const Identifier& identifier) { return identifier.isIn(typeId); });
+    return false;
+}
+
+bool isReserved(std::string_view typeId) {
+    return mayBeIn(typeId) && std::any_of(reserved.begin(), reserved.end(),
+                                          [typeId](const Identifier& identifier) { return identifier.isIn(typeId); });
 }
 
 } // namespace Ostra::BuiltIn

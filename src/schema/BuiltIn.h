@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,11 @@ public:
     /// True when the version prefix occurs anywhere in the typeid: any minor or patch version counts, another major
     /// version does not.
     bool isIn(std::string_view typeId) const { return typeId.find(prefix()) != std::string_view::npos; }
+    /// True when the typeid begins with the version prefix. Others are told apart by the prefix's last character.
+    constexpr bool begins(std::string_view typeId) const {
+        const std::size_t size = prefix().size();
+        return typeId.size() >= size && typeId[size - 1] == '.' && typeId.substr(0, size) == prefix();
+    }
 
 private:
     static constexpr std::string_view minorAndPatch = "0.0";
@@ -63,6 +69,9 @@ inline constexpr std::string_view enumeration = "Enum";
 /// something that is missing.
 inline constexpr std::array reserved{stringRange, setStringRange, regexStringRange, floatRange, intRange,   familyType,
                                      boolSpec,    intSpec,        referenceSpec,    stringSpec, discipline, group};
+
+/// True when an identifier may be in the typeid at that position or behind it: all of them begin with one word.
+bool mayBeIn(std::string_view typeId, std::size_t position = 0);
 
 /// True when the typeid contains the version prefix of a reserved identifier.
 bool isReserved(std::string_view typeId);

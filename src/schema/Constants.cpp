@@ -91,11 +91,8 @@ std::string_view readTypeId(JSONView typeId) {
 }
 
 std::optional<JSONView> Constants::find(std::string_view id) const {
-    const auto found = schema_.constants().find(id);
-    if (found == schema_.constants().end()) {
-        return std::nullopt;
-    }
-    return Schema::valueOf(found->second);
+    const auto definition = schema_.constants().find(id);
+    return definition ? std::optional(Schema::valueOf(*definition)) : std::nullopt;
 }
 
 void Constants::failUndefined(std::string_view id) const {

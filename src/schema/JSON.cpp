@@ -1,25 +1,19 @@
 #include "schema/JSON.h"
 
 #include "schema/JSONParser.h"
+#include "schema/JSONWriter.h"
 
 #include <rapidjson/error/en.h>
-#include <rapidjson/stringbuffer.h>
-#include <rapidjson/writer.h>
 
-#include <algorithm>
-#include <limits>
-#include <stdexcept>
 #include <utility>
+#include <vector>
 
 namespace Ostra {
 
 namespace {
 
-using Buffer = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, ThrowingAllocator>;
-using Writer = rapidjson::Writer<Buffer, rapidjson::UTF8<>, rapidjson::UTF8<>, ThrowingAllocator>;
-
 /// Writes a value with a stack of its own: RapidJSON's way recurses with the depth of the value.
-class TextWriter {
+class ValueWriter {
 public:
     std::string write(const JSONValue& root) {
         begin(root);
@@ -29,13 +23,13 @@ public:
                 end();
             } else if (container.value->IsObject()) {
                 const auto& member = container.value->MemberBegin()[container.next++];
-                writer_.Key(member.name.GetString(), checkedLength(member.name));
+                writer_.name(stringIn(member.name));
                 begin(member.value);
             } else {
                 begin(container.value->Begin()[container.next++]);
             }
         }
-        return {buffer_.GetString(), buffer_.GetSize()};
+        return writer_.text();
     }
 
 private:
@@ -48,10 +42,10 @@ private:
 
     void begin(const JSONValue& value) {
         if (value.IsObject()) {
-            writer_.StartObject();
+            writer_.beginObject();
             open_.push_back({&value, value.MemberCount(), 0});
         } else if (value.IsArray()) {
-            writer_.StartArray();
+            writer_.beginArray();
             open_.push_back({&value, value.Size(), 0});
         } else {
             scalar(value);
@@ -60,64 +54,36 @@ private:
 
     void end() {
         if (open_.back().value->IsObject()) {
-            writer_.EndObject();
+            writer_.endObject();
         } else {
-            writer_.EndArray();
+            writer_.endArray();
         }
         open_.pop_back();
     }
 
     void scalar(const JSONValue& value) {
         if (value.IsString()) {
-            writer_.String(value.GetString(), checkedLength(value));
-        } else if (!value.Accept(writer_)) {
-            throw std::domain_error("A number that is not finite cannot be written as JSON.");
+            writer_.string(stringIn(value));
+        } else if (value.IsBool()) {
+            writer_.boolean(value.GetBool());
+        } else if (value.IsInt64()) {
+            writer_.integer(value.GetInt64());
+        } else if (value.IsUint64()) {
+            writer_.unsignedInteger(value.GetUint64());
+        } else if (value.IsDouble()) {
+            writer_.number(value.GetDouble());
+        } else {
+            writer_.null();
         }
     }
 
-    /// The writer reserves six characters for each byte, and counts them in 32 bits.
-    static rapidjson::SizeType checkedLength(const JSONValue& string) {
-        constexpr auto maxLength = (std::numeric_limits<rapidjson::SizeType>::max() - 2) / 6;
-        if (string.GetStringLength() > maxLength) {
-            throw std::length_error("A string is too long to be written as JSON.");
-        }
-        return string.GetStringLength();
-    }
+    static std::string_view stringIn(const JSONValue& value) { return {value.GetString(), value.GetStringLength()}; }
 
-    ThrowingAllocator allocator_;
-    Buffer buffer_{&allocator_, 1024};
-    Writer writer_{buffer_, &allocator_};
+    JSONWriter writer_;
     std::vector<Container> open_;
 };
 
-/// Copies bytes into a value.
-JSONValue makeString(std::string_view bytes, JSONPool& pool) {
-    if (bytes.size() >= std::numeric_limits<rapidjson::SizeType>::max()) {
-        throw std::length_error("A string is too long for a JSON value.");
-    }
-    // An empty view may be a null pointer, which RapidJSON refuses.
-    return {bytes.empty() ? "" : bytes.data(), static_cast<rapidjson::SizeType>(bytes.size()), pool};
-}
-
-std::shared_ptr<JSONPool> makePool(std::size_t chunkSize) {
-    return std::make_shared<JSONPool>(chunkSize, &sharedAllocator);
-}
-
-/// In most texts the copied text and the values fit into one chunk of this size; long texts take several.
-std::size_t chunkSizeFor(std::string_view text) { return std::clamp<std::size_t>(3 * text.size(), 256, 65'536); }
-
 } // namespace
-
-std::optional<JSONView> JSONView::member(std::string_view name) const {
-    if (isObject()) {
-        for (const auto& member : value_->GetObject()) {
-            if (JSONView(member.name, factory_).string() == name) {
-                return JSONView(member.value, factory_);
-            }
-        }
-    }
-    return std::nullopt;
-}
 
 std::map<std::string, std::string> JSONView::toStringMap() const {
     std::map<std::string, std::string> strings;
@@ -133,66 +99,15 @@ std::map<std::string, std::string> JSONView::toStringMap() const {
     return strings;
 }
 
-std::string JSONView::toText() const { return TextWriter().write(*value_); }
+std::string JSONView::toText() const { return ValueWriter().write(*value_); }
 
-void JSONView::fail(const std::string& message) const {
-    if (factory_ == nullptr) {
-        throw std::logic_error(message);
+void JSONView::fail(const std::string& message) const { factory_->raise(message); }
+
+JSON::JSON(std::string_view text, std::shared_ptr<const ExceptionFactory> factory) : factory_(std::move(factory)) {
+    if (const auto result = parseText(text, memory_.pool(), value_); result.IsError()) {
+        factory_->raise("JSON parsing error at offset " + std::to_string(result.Offset()) + ": " +
+                        rapidjson::GetParseError_En(result.Code()));
     }
-    factory_->raise(message);
-}
-
-JSON::JSON(std::shared_ptr<JSONPool> pool, JSONValue&& value, std::shared_ptr<const ExceptionFactory> factory)
-    : pool_(std::move(pool)), value_(std::move(value)), factory_(std::move(factory)) {}
-
-JSON JSON::parse(std::string_view text, std::shared_ptr<const ExceptionFactory> factory) {
-    std::shared_ptr<JSONPool> pool = makePool(chunkSizeFor(text));
-    JSONValue value;
-    if (const auto result = parseText(text, *pool, value); result.IsError()) {
-        factory->raise("JSON parsing error at offset " + std::to_string(result.Offset()) + ": " +
-                       rapidjson::GetParseError_En(result.Code()));
-    }
-    return {std::move(pool), std::move(value), std::move(factory)};
-}
-
-void JSON::add(std::string_view name, JSON member) {
-    checkPool(member);
-    JSONValue key = makeString(name, *pool_);
-    value_.AddMember(key, member.value_, *pool_);
-}
-
-void JSON::append(JSON element) {
-    checkPool(element);
-    value_.PushBack(element.value_, *pool_);
-}
-
-void JSON::checkPool(const JSON& part) const {
-    if (part.pool_ != pool_) {
-        throw std::invalid_argument("JSON values of different builders cannot be joined.");
-    }
-}
-
-JSONBuilder::JSONBuilder() : pool_(makePool(4000)) {}
-
-JSON JSONBuilder::make(JSONValue&& value) const { return {pool_, std::move(value), nullptr}; }
-
-JSON JSONBuilder::boolean(bool value) const { return make(JSONValue(value)); }
-
-JSON JSONBuilder::number(double value) const { return make(JSONValue(value)); }
-
-JSON JSONBuilder::integer(std::int64_t value) const { return make(JSONValue(value)); }
-
-JSON JSONBuilder::string(std::string_view value) const { return make(makeString(value, *pool_)); }
-
-JSON JSONBuilder::object() const { return make(JSONValue(rapidjson::kObjectType)); }
-
-JSON JSONBuilder::array(std::vector<JSON> elements) const {
-    JSON array = make(JSONValue(rapidjson::kArrayType));
-    array.value_.Reserve(static_cast<rapidjson::SizeType>(elements.size()), *pool_);
-    for (JSON& element : elements) {
-        array.append(std::move(element));
-    }
-    return array;
 }
 
 } // namespace Ostra

@@ -10,7 +10,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace Ostra {
 
@@ -31,7 +30,16 @@ public:
     std::size_t size() const { return isObject() ? value_->MemberCount() : value_->Size(); }
 
     /// Returns the first member of that name, or nothing when there is none or the value is no object.
-    std::optional<JSONView> member(std::string_view name) const;
+    std::optional<JSONView> member(std::string_view name) const {
+        if (isObject()) {
+            for (const auto& member : value_->GetObject()) {
+                if (JSONView(member.name, factory_).string() == name) {
+                    return JSONView(member.value, factory_);
+                }
+            }
+        }
+        return std::nullopt;
+    }
     bool hasMember(std::string_view name) const { return member(name).has_value(); }
 
     /// Calls visit(name, value) for each member of an object in document order.
@@ -63,7 +71,7 @@ public:
     /// @throws std::domain_error if a number is not finite.
     std::string toText() const;
 
-    /// Throws the exception of the library that had the document read; for a value that was built, std::logic_error.
+    /// Throws the exception of the library that had the document read.
     [[noreturn]] void fail(const std::string& message) const;
 
 private:
@@ -71,55 +79,22 @@ private:
     const ExceptionFactory* factory_;
 };
 
-/// A JSON value that owns its memory: a parsed document, or a value under construction (see JSONBuilder).
+/// A parsed document. It owns the memory in which its values lie.
 class JSON {
 public:
     /// Parses a whole text. Neither this nor destruction recurses with the depth of the text.
     /// Fails through the factory with "JSON parsing error at offset N: reason".
-    static JSON parse(std::string_view text, std::shared_ptr<const ExceptionFactory> factory);
-
-    JSON(JSON&&) noexcept = default;
-    JSON& operator=(JSON&&) noexcept = default;
+    JSON(std::string_view text, std::shared_ptr<const ExceptionFactory> factory);
 
     JSONView view() const { return {value_, factory_.get()}; }
-
-    /// Appends a member to an object. After std::bad_alloc the object is only good for destruction.
-    /// @throws std::invalid_argument if the two values come from different builders.
-    void add(std::string_view name, JSON member);
-    /// Appends an element to an array.
-    /// @throws std::invalid_argument if the two values come from different builders.
-    void append(JSON element);
 
     /// Returns the value as text without blanks (see JSONView::toText).
     std::string toText() const { return view().toText(); }
 
 private:
-    friend class JSONBuilder;
-    JSON(std::shared_ptr<JSONPool> pool, JSONValue&& value, std::shared_ptr<const ExceptionFactory> factory);
-    void checkPool(const JSON& part) const;
-
-    std::shared_ptr<JSONPool> pool_; // declared first: the value lives in it
+    JSONMemory memory_;
     JSONValue value_;
     std::shared_ptr<const ExceptionFactory> factory_;
-};
-
-/// Makes JSON values that share one pool of memory, which lives as long as the last of them.
-class JSONBuilder {
-public:
-    JSONBuilder();
-
-    JSON boolean(bool value) const;
-    JSON number(double value) const;
-    JSON integer(std::int64_t value) const;
-    /// Copies the bytes, whatever they are.
-    JSON string(std::string_view value) const;
-    JSON array(std::vector<JSON> elements = {}) const;
-    JSON object() const;
-
-private:
-    JSON make(JSONValue&& value) const;
-
-    std::shared_ptr<JSONPool> pool_;
 };
 
 } // namespace Ostra

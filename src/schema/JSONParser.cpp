@@ -1,27 +1,31 @@
 #include "schema/JSONParser.h"
 
 #include "schema/Numbers.h"
+#include "schema/TextStream.h"
 
 #include <rapidjson/reader.h>
-#include <rapidjson/stream.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <stdexcept>
 
 namespace Ostra {
 
 namespace {
 
-using Document = rapidjson::GenericDocument<rapidjson::UTF8<>, JSONPool, ThrowingAllocator>;
-using Reader = rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, ThrowingAllocator>;
+using Document = rapidjson::GenericDocument<rapidjson::UTF8<>, JSONPool, JSONPool>;
+using Reader = rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, JSONPool>;
 using rapidjson::ParseResult;
 using rapidjson::SizeType;
 
-/// Iterative, for texts of any depth. Numbers come as they are written, because the reader's own conversion is not
-/// correctly rounded. In place, so that neither numbers nor strings are copied one by one.
-constexpr unsigned parseFlags =
-    rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseInsituFlag;
+/// Numbers come as they are written, because the reader's own conversion is not correctly rounded. In place, so that
+/// neither numbers nor strings are copied one by one.
+constexpr unsigned parseFlags = rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseInsituFlag;
+
+/// The recursive parser is a third faster than the iterative one, which any text deeper than this is left to.
+constexpr int maxRecursion = 32;
 
 /// The reader counts the digits of a fraction in an int, and adds a few hundred.
 constexpr std::size_t maxTextSize = std::numeric_limits<int>::max() - 1000;
@@ -29,16 +33,25 @@ constexpr std::size_t maxTextSize = std::numeric_limits<int>::max() - 1000;
 /// Hands what the reader finds to a document, numbers converted.
 class ValueHandler {
 public:
-    explicit ValueHandler(Document& document) : document_(document) {}
+    /// Stops the reader where the text is deeper than maxDepth.
+    ValueHandler(Document& document, int maxDepth) : document_(document), depthLeft_(maxDepth) {}
+
+    bool isTooDeep() const { return depthLeft_ < 0; }
 
     bool Null() { return document_.Null(); }
     bool Bool(bool value) { return document_.Bool(value); }
     bool String(const char* text, SizeType length, bool copy) { return document_.String(text, length, copy); }
-    bool StartObject() { return document_.StartObject(); }
+    bool StartObject() { return --depthLeft_ >= 0 && document_.StartObject(); }
     bool Key(const char* text, SizeType length, bool copy) { return document_.Key(text, length, copy); }
-    bool EndObject(SizeType memberCount) { return document_.EndObject(memberCount); }
-    bool StartArray() { return document_.StartArray(); }
-    bool EndArray(SizeType elementCount) { return document_.EndArray(elementCount); }
+    bool EndObject(SizeType memberCount) {
+        ++depthLeft_;
+        return document_.EndObject(memberCount);
+    }
+    bool StartArray() { return --depthLeft_ >= 0 && document_.StartArray(); }
+    bool EndArray(SizeType elementCount) {
+        ++depthLeft_;
+        return document_.EndArray(elementCount);
+    }
 
     /// Stops the reader at a number that no double holds.
     bool RawNumber(const char* text, SizeType length, bool) {
@@ -62,6 +75,7 @@ public:
 
 private:
     Document& document_;
+    int depthLeft_;
 };
 
 /// Returns the result that the reader's default flags give, and treats a byte 0 as a byte like any other: the reader
@@ -80,10 +94,30 @@ ParseResult adjusted(ParseResult result, std::size_t end, std::size_t textSize) 
 }
 
 char* copyOf(std::string_view text, JSONPool& pool) {
-    auto* const copy = static_cast<char*>(pool.Malloc(text.size() + 1));
+    auto* const copy = static_cast<char*>(pool.Malloc(text.size() + TextStream::room));
     text.copy(copy, text.size());
-    copy[text.size()] = '\0';
+    std::fill_n(copy + text.size(), TextStream::room, '\0');
     return copy;
+}
+
+/// Parses a text that is at most so deep; returns nothing for a deeper one.
+template <unsigned flags>
+std::optional<ParseResult> parseWith(std::string_view text, JSONPool& pool, JSONValue& value, int maxDepth) {
+    TextStream stream(copyOf(text, pool));
+    Reader reader(&pool);
+    Document document(&pool, 1024, &pool);
+    std::optional<ParseResult> result;
+    auto generate = [&](Document& target) {
+        ValueHandler handler(target, maxDepth);
+        const ParseResult parsed = reader.Parse<flags>(stream, handler);
+        if (!handler.isTooDeep()) {
+            result = adjusted(parsed, stream.Tell(), text.size());
+        }
+        return result && !result->IsError();
+    };
+    document.Populate(generate);
+    value.Swap(document);
+    return result;
 }
 
 } // namespace
@@ -92,20 +126,11 @@ ParseResult parseText(std::string_view text, JSONPool& pool, JSONValue& value) {
     if (text.size() > maxTextSize) {
         throw std::length_error("A JSON text is too long.");
     }
-    rapidjson::InsituStringStream stream(copyOf(text, pool));
-    ThrowingAllocator allocator;
-    Reader reader(&allocator);
-    Document document(&pool, 1024, &allocator);
-    ParseResult result;
-    auto generate = [&](Document& target) {
-        ValueHandler handler(target);
-        result = reader.Parse<parseFlags>(stream, handler);
-        result = adjusted(result, stream.Tell(), text.size());
-        return !result.IsError();
-    };
-    document.Populate(generate);
-    value.Swap(document);
-    return result;
+    if (const auto result = parseWith<parseFlags>(text, pool, value, maxRecursion)) {
+        return *result;
+    }
+    constexpr int anyDepth = std::numeric_limits<int>::max(); // more than a text of that size has
+    return *parseWith<parseFlags | rapidjson::kParseIterativeFlag>(text, pool, value, anyDepth);
 }
 
 } // namespace Ostra

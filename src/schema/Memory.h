@@ -2,6 +2,7 @@
 
 #include <rapidjson/document.h>
 
+#include <array>
 #include <cstddef>
 #include <cstring>
 #include <new>
@@ -33,5 +34,22 @@ using JSONPool = rapidjson::MemoryPoolAllocator<ThrowingAllocator>;
 
 /// The value type of the parser, with all its memory from operator new.
 using JSONValue = rapidjson::GenericValue<rapidjson::UTF8<>, JSONPool>;
+
+/// A pool with memory of its own to begin with, in which nearly all schemas find room: they are read and written
+/// without asking the system for any.
+class JSONMemory {
+public:
+    JSONMemory() = default;
+    JSONMemory(const JSONMemory&) = delete;
+    JSONMemory& operator=(const JSONMemory&) = delete;
+
+    JSONPool& pool() noexcept { return pool_; }
+
+private:
+    static constexpr std::size_t chunkSize = 65'536;
+
+    alignas(std::max_align_t) std::array<char, 8192> first_;
+    JSONPool pool_{first_.data(), first_.size(), chunkSize, &sharedAllocator};
+};
 
 } // namespace Ostra

@@ -57,9 +57,9 @@ std::string_view readId(JSONView definition) {
 
 } // namespace
 
-Schema::Schema(const std::string& text, std::shared_ptr<const ExceptionFactory> factory)
-    : document_(JSON::parse(text, std::move(factory))), typeId_(readTypeId(document_.view())),
-      base_(readBase(document_.view())) {
+Schema::Schema(std::string_view text, std::shared_ptr<const ExceptionFactory> factory)
+    : document_(text, std::move(factory)), typeId_(readTypeId(document_.view())), base_(readBase(document_.view())),
+      beginsOnly_(!BuiltIn::mayBeIn(base_, 1)) {
     readDefinitions("constants", constants_);
     readDefinitions("properties", properties_);
 }
@@ -72,9 +72,10 @@ void Schema::readDefinitions(const char* name, Definitions& definitions) {
     if (!array->isArray()) {
         fail(std::string("Expected schema ") + name + " to be an array.");
     }
+    definitions.reserve(array->size());
     array->forEachElement([&](JSONView definition) {
         const std::string_view id = readId(definition);
-        if (!definitions.try_emplace(id, definition).second) {
+        if (!definitions.add(id, definition)) {
             fail("Item " + std::string(id) + " in " + name + " array must be defined only once.");
         }
     });

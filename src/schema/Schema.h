@@ -1,14 +1,13 @@
 #pragma once
 
 #include "schema/BuiltIn.h"
+#include "schema/Definitions.h"
 #include "schema/JSON.h"
 
 #include <array>
 #include <cstddef>
-#include <map>
 #include <memory>
 #include <memory_resource>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,16 +18,13 @@ namespace Ostra {
 class Schema {
 public:
     /// Reads a text; every fault in its structure is raised through the factory.
-    Schema(const std::string& text, std::shared_ptr<const ExceptionFactory> factory);
+    Schema(std::string_view text, std::shared_ptr<const ExceptionFactory> factory);
     Schema(const Schema&) = delete;
     Schema& operator=(const Schema&) = delete;
 
-    /// Property definitions in ascending byte order of their ids.
-    using Definitions = std::pmr::map<std::string_view, JSONView>;
-
     std::string_view typeId() const { return typeId_; }
     /// True when the base is of that built-in identifier's major version.
-    bool inherits(const BuiltIn::Identifier& base) const { return base.isIn(base_); }
+    bool inherits(const BuiltIn::Identifier& base) const { return beginsOnly_ ? base.begins(base_) : base.isIn(base_); }
     std::string_view base() const { return base_; }
     const Definitions& constants() const { return constants_; }
     const Definitions& properties() const { return properties_; }
@@ -44,7 +40,8 @@ private:
     JSON document_;
     std::string_view typeId_;
     std::string_view base_;
-    std::array<std::byte, 1024> buffer_; // the definitions of most schemas fit
+    bool beginsOnly_; // an identifier can be in the base at its beginning alone, which is sooner seen than searched
+    std::array<std::byte, 2048> buffer_; // the definitions of most schemas fit
     std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size()};
     Definitions constants_{&memory_};
     Definitions properties_{&memory_};

@@ -1,64 +1,71 @@
 #include "schema/SchemaWriter.h"
 
 #include <cmath>
+#include <stdexcept>
 #include <utility>
 
 namespace Ostra {
 
 SchemaWriter::SchemaWriter(std::string_view typeId, std::string_view base,
                            std::shared_ptr<const ExceptionFactory> factory)
-    : typeId_(typeId), factory_(std::move(factory)), schema_(json_.object()), constants_(json_.array()),
-      properties_(json_.array()) {
-    schema_.add("typeid", json_.string(typeId));
-    JSON inherits = json_.array();
-    inherits.append(json_.string(base));
-    schema_.add("inherits", std::move(inherits));
+    : typeId_(typeId), factory_(std::move(factory)) {
+    beginObject();
+    name("typeid");
+    string(typeId);
+    name("inherits");
+    beginArray();
+    string(base);
+    endArray();
 }
 
-void SchemaWriter::constant(std::string_view id, JSON value) {
-    constants_.append(definition(id, "value", std::move(value)));
-}
-
-void SchemaWriter::typedConstant(std::string_view id, JSON typedValue) {
-    constants_.append(definition(id, "typedValue", std::move(typedValue)));
-}
-
-void SchemaWriter::property(std::string_view id, JSON value) {
-    properties_.append(definition(id, "value", std::move(value)));
-}
-
-void SchemaWriter::typedProperty(std::string_view id, JSON typedValue) {
-    properties_.append(definition(id, "typedValue", std::move(typedValue)));
-}
-
-JSON SchemaWriter::number(double value) const {
+void SchemaWriter::number(double value) {
     if (!std::isfinite(value)) {
         factory_->raise("Schema " + std::string(typeId_) + " has a number that is not finite.");
     }
-    return json_.number(value);
+    JSONWriter::number(value);
 }
 
-JSON SchemaWriter::typedValue(std::string_view typeId) const {
-    JSON typedValue = json_.object();
-    typedValue.add("typeid", json_.string(typeId));
-    return typedValue;
+void SchemaWriter::typedValue(std::string_view typeId) {
+    beginTypedValue(typeId);
+    endObject();
 }
 
-JSON SchemaWriter::definition(std::string_view id, std::string_view member, JSON value) const {
-    JSON definition = json_.object();
-    definition.add("id", json_.string(id));
-    definition.add(member, std::move(value));
-    return definition;
+void SchemaWriter::beginTypedValue(std::string_view typeId) {
+    beginObject();
+    name("typeid");
+    string(typeId);
 }
 
-JSON SchemaWriter::finish() && {
-    if (constants_.view().size() != 0) {
-        schema_.add("constants", std::move(constants_));
+SchemaWriter& SchemaWriter::define(std::string_view table, std::string_view id, std::string_view member) {
+    if (table == table_) {
+        endObject(); // of the definition before
+    } else {
+        if (table < table_) {
+            throw std::logic_error("A schema's constants are written before its properties.");
+        }
+        endTable();
+        name(table);
+        beginArray();
+        table_ = table;
     }
-    if (properties_.view().size() != 0) {
-        schema_.add("properties", std::move(properties_));
+    beginObject();
+    name("id");
+    string(id);
+    name(member);
+    return *this;
+}
+
+void SchemaWriter::endTable() {
+    if (!table_.empty()) {
+        endObject(); // of the last definition
+        endArray();
     }
-    return std::move(schema_);
+}
+
+std::string SchemaWriter::finish() && {
+    endTable();
+    endObject();
+    return text();
 }
 
 } // namespace Ostra

@@ -1,54 +1,57 @@
 #pragma once
 
 #include "schema/ExceptionFactory.h"
-#include "schema/JSON.h"
+#include "schema/JSONWriter.h"
 
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace Ostra {
 
-/// Puts the JSON of one schema together: "typeid", "inherits", and "constants" and "properties" where they have an
-/// element, each in the order in which it was added.
-class SchemaWriter {
+/// Writes the JSON of one schema: "typeid", "inherits", and "constants" and "properties" where they have an element,
+/// each in the order in which it is added. Constants come before properties.
+///
+/// What adds a definition returns the writer, which then takes the definition's value.
+class SchemaWriter : private JSONWriter {
 public:
     /// Faults of what is written are raised through the factory.
     SchemaWriter(std::string_view typeId, std::string_view base, std::shared_ptr<const ExceptionFactory> factory);
 
-    /// Adds the constant {"id": id, "value": value}.
-    void constant(std::string_view id, JSON value);
-    /// Adds the constant {"id": id, "typedValue": typedValue}.
-    void typedConstant(std::string_view id, JSON typedValue);
-    /// Adds the property {"id": id, "value": value}.
-    void property(std::string_view id, JSON value);
-    /// Adds the property {"id": id, "typedValue": typedValue}.
-    void typedProperty(std::string_view id, JSON typedValue);
+    /// Adds the constant {"id": id, "value": ...}.
+    SchemaWriter& constant(std::string_view id) { return define("constants", id, "value"); }
+    /// Adds the constant {"id": id, "typedValue": ...}.
+    SchemaWriter& typedConstant(std::string_view id) { return define("constants", id, "typedValue"); }
+    /// Adds the property {"id": id, "value": ...}.
+    SchemaWriter& property(std::string_view id) { return define("properties", id, "value"); }
+    /// Adds the property {"id": id, "typedValue": ...}.
+    SchemaWriter& typedProperty(std::string_view id) { return define("properties", id, "typedValue"); }
 
-    JSON boolean(bool value) const { return json_.boolean(value); }
-    JSON integer(std::int64_t value) const { return json_.integer(value); }
-    JSON string(std::string_view value) const { return json_.string(value); }
-    JSON object() const { return json_.object(); }
-    JSON array() const { return json_.array(); }
+    using JSONWriter::beginArray;
+    using JSONWriter::beginObject;
+    using JSONWriter::boolean;
+    using JSONWriter::endArray;
+    using JSONWriter::endObject;
+    using JSONWriter::integer;
+    using JSONWriter::name;
+    using JSONWriter::string;
     /// Fails when the number is not finite, since JSON has no word for it.
-    JSON number(double value) const;
-    /// Returns {"typeid": typeId}.
-    JSON typedValue(std::string_view typeId) const;
+    void number(double value);
+    /// Writes {"typeid": typeId}.
+    void typedValue(std::string_view typeId);
+    /// Writes {"typeid": typeId, so that more members can follow.
+    void beginTypedValue(std::string_view typeId);
 
-    /// Returns the schema; nothing can be added afterwards.
-    JSON finish() &&;
+    /// Returns the text of the schema; nothing can be added afterwards.
+    std::string finish() &&;
 
 private:
-    JSON definition(std::string_view id, std::string_view member, JSON value) const;
+    SchemaWriter& define(std::string_view table, std::string_view id, std::string_view member);
+    void endTable();
 
     std::string_view typeId_;
     std::shared_ptr<const ExceptionFactory> factory_;
-    JSONBuilder json_;
-    JSON schema_;
-    JSON constants_;
-    JSON properties_;
+    std::string_view table_; // that is being written, if any
 };
 
 } // namespace Ostra

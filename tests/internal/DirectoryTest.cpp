@@ -20,7 +20,7 @@ using Parameters::Internal::Directory;
 Directory::EntryId add(Directory& directory, std::string_view typeId, std::uint32_t place, std::uint8_t kind = 0,
                        bool resolved = false) {
     directory.reserveOne();
-    return directory.add({typeId, place, kind, resolved});
+    return directory.add({typeId, place, kind, resolved}, Directory::Key(typeId).hash);
 }
 
 TEST(Directory, FindsNothingAtFirst) {

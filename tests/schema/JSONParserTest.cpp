@@ -28,7 +28,7 @@ struct Refusal : std::logic_error {
     using std::logic_error::logic_error;
 };
 
-JSON parse(std::string_view text) { return JSON::parse(text, ExceptionFactoryOf<Refusal>::shared()); }
+JSON parse(std::string_view text) { return JSON(text, ExceptionFactoryOf<Refusal>::shared()); }
 
 std::string refusalOf(std::string_view text) {
     try {
@@ -285,7 +285,7 @@ TEST(Parsing, LeaksNothingWhenMemoryEndsWithAFaultyText) {
     expectNoLeakWhenMemoryEnds([&] { refusalOf(text); });
 }
 
-TEST(Parsing, TakesFewAndSmallBlocksForASchemaText) {
+TEST(Parsing, AsksForNoMemoryForASchemaText) {
     const std::string text =
         R"({"typeid":"plant.pumps:parameter.flowRate-1.0.0","inherits":["base.measurable-3.0.0"],)"
         R"("constants":[{"id":"name","value":"Flow Rate"},{"id":"description","value":"Water that a pump moves."},)"
@@ -298,10 +298,48 @@ TEST(Parsing, TakesFewAndSmallBlocksForASchemaText) {
     parse(text); // makes what is made once
     const AllocationWatch watch;
     const JSON json = parse(text);
-    const long requests = watch.requests();
-    const std::size_t bytes = watch.bytes();
-    EXPECT_LE(requests, 4);
-    EXPECT_LE(bytes, 4096U);
+    EXPECT_EQ(watch.requests(), 0);
+}
+
+// Around the depth at which the recursive parser gives way to the iterative one.
+TEST(Parsing, ReadsTextsOfAnyDepth) {
+    for (int depth = 1; depth < 100; ++depth) {
+        const std::string text = repeated("[{\"a\":", depth) + "1.5" + repeated("}]", depth);
+        EXPECT_EQ(parse(text).toText(), text);
+        EXPECT_EQ(refusalOf(text + "]"), "JSON parsing error at offset " + std::to_string(text.size()) +
+                                             ": The document root must not be followed by other values.");
+    }
+}
+
+TEST(Parsing, CountsTheDepthOfNestedValuesRatherThanOfTheirNumber) {
+    std::string text = "[[]";
+    for (int value = 0; value < 100; ++value) {
+        text += ",[],{}";
+    }
+    text += "]";
+    EXPECT_EQ(parse(text).toText(), text);
+}
+
+TEST(Parsing, FindsWhatEndsTheRunOfPlainCharactersInEveryPlace) {
+    for (std::size_t length = 0; length < 40; ++length) {
+        const std::string plain(length, '\xFF');
+        EXPECT_EQ(parse("\"" + plain + "\"").view().string(), plain);
+        EXPECT_EQ(parse("[1,\"" + plain + "\\n~\",\"" + plain + "\"]").toText(),
+                  "[1,\"" + plain + "\\n~\",\"" + plain + "\"]");
+        EXPECT_EQ(refusalOf("\"" + plain + "\x1F\""), "JSON parsing error at offset " + std::to_string(length + 1) +
+                                                          ": Invalid escape character in string.");
+        EXPECT_EQ(refusalOf("\"" + plain), "JSON parsing error at offset " + std::to_string(length + 1) +
+                                               ": Missing a closing quotation mark in string.");
+    }
+}
+
+TEST(Parsing, TakesEveryByteThatNeedsNoEscapeForPlain) {
+    for (int byte = 0x20; byte < 0x100; ++byte) {
+        if (byte != '"' && byte != '\\') {
+            const std::string string = "1234" + std::string(1, static_cast<char>(byte)) + "6789";
+            EXPECT_EQ(parse("\"" + string + "\"").view().string(), string);
+        }
+    }
 }
 
 } // namespace Ostra

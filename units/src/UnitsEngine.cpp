@@ -2,10 +2,12 @@
 
 #include "UnitSchema.h"
 #include "schema/ExceptionFactory.h"
+#include "schema/Hash.h"
 #include "schema/Schema.h"
 
 #include <cstddef>
-#include <map>
+#include <functional>
+#include <unordered_map>
 #include <utility>
 
 namespace Units {
@@ -14,7 +16,7 @@ namespace Units {
 /// out later, so that resolving is one assignment, which cannot fail.
 class UnitsEngine::Registry {
 public:
-    bool holds(const std::string& typeId) const { return entries_.contains(typeId); }
+    bool holds(std::string_view typeId) const { return entries_.contains(typeId); }
 
     void add(const std::string& typeId, const Unit& unit) {
         entries_.try_emplace(typeId, Entry{unit, entries_.size()});
@@ -48,7 +50,14 @@ private:
 
     bool isResolved(const Entry& entry) const { return entry.position < resolved_; }
 
-    std::map<std::string, Entry> entries_; // no hash table: there are catalogues that make one degenerate
+    /// No catalogue can make a table of this hash degenerate. Not noexcept: the table then keeps the hashes.
+    /// Transparent: it can be asked for a view.
+    struct Hash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view typeId) const { return Ostra::hashOf(typeId); }
+    };
+
+    std::unordered_map<std::string, Entry, Hash, std::equal_to<>> entries_;
     std::size_t resolved_ = 0;
 };
 
@@ -64,7 +73,7 @@ UnitsEngine& UnitsEngine::operator=(UnitsEngine&&) noexcept = default;
 
 UnitsEngine::~UnitsEngine() = default;
 
-bool UnitsEngine::isRegistered(const std::string& typeId) const { return registry_->holds(typeId); }
+bool UnitsEngine::isRegistered(std::string_view typeId) const { return registry_->holds(typeId); }
 
 std::set<std::string> UnitsEngine::registerSchema(const std::string& schemaText) {
     const Ostra::Schema schema(schemaText, Ostra::ExceptionFactoryOf<ValidationException>::shared());

@@ -8,6 +8,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 
 namespace Units {
 
@@ -36,7 +37,7 @@ public:
     ~UnitsEngine();
 
     /// True when a schema of that typeid is registered, resolved or not.
-    bool isRegistered(const std::string& typeId) const;
+    bool isRegistered(std::string_view typeId) const;
 
     /// Registers one unit schema. Returns the typeids that it needs and that are missing: none, as units need nothing.
     /// @throws ValidationException if the text is no schema, or a constant is missing or of the wrong type.

@@ -1,10 +1,10 @@
-#include "engine/Hash.h"
+#include "schema/Hash.h"
 
 #include <chrono>
 #include <cstddef>
 #include <cstring>
 
-namespace Parameters::Internal {
+namespace Ostra {
 
 namespace {
 
@@ -19,10 +19,31 @@ std::uint64_t mix(std::uint64_t a, std::uint64_t b) noexcept {
     return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
 }
 
-std::uint64_t word(const char* bytes, std::size_t count) noexcept {
-    std::uint64_t value = 0;
-    std::memcpy(&value, bytes, count);
+template <class Word>
+std::uint64_t wordAt(const char* bytes) noexcept {
+    Word value = 0;
+    std::memcpy(&value, bytes, sizeof value);
     return value;
+}
+
+struct Words {
+    std::uint64_t first;
+    std::uint64_t second;
+};
+
+/// Returns up to sixteen bytes as two words. The reads overlap rather than depend on the number of bytes.
+Words lastWords(const char* bytes, std::size_t count) noexcept {
+    if (count >= 8) {
+        return {wordAt<std::uint64_t>(bytes), wordAt<std::uint64_t>(bytes + count - 8)};
+    }
+    if (count >= 4) {
+        return {wordAt<std::uint32_t>(bytes), wordAt<std::uint32_t>(bytes + count - 4)};
+    }
+    if (count > 0) {
+        return {wordAt<std::uint8_t>(bytes) << 8 | wordAt<std::uint8_t>(bytes + count / 2),
+                wordAt<std::uint8_t>(bytes + count - 1)};
+    }
+    return {0, 0};
 }
 
 std::uint64_t makeSeed() noexcept {
@@ -38,15 +59,12 @@ std::uint64_t hashOf(std::string_view bytes) noexcept {
     std::uint64_t hash = seed ^ mix(bytes.size() ^ oddA, oddB);
     const char* byte = bytes.data();
     std::size_t left = bytes.size();
-    for (; left >= 16; byte += 16, left -= 16) {
-        hash = mix(word(byte, 8) ^ oddA ^ hash, word(byte + 8, 8) ^ oddB ^ seed);
+    for (; left > 16; byte += 16, left -= 16) {
+        hash = mix(wordAt<std::uint64_t>(byte) ^ oddA ^ hash, wordAt<std::uint64_t>(byte + 8) ^ oddB ^ seed);
     }
-    if (left >= 8) {
-        hash = mix(word(byte, 8) ^ oddA ^ hash, word(byte + 8, left - 8) ^ oddB ^ seed);
-    } else if (left > 0) {
-        hash = mix(word(byte, left) ^ oddA ^ hash, oddB ^ seed);
-    }
+    const auto [first, second] = lastWords(byte, left);
+    hash = mix(first ^ oddA ^ hash, second ^ oddB ^ seed);
     return mix(hash ^ oddB, seed ^ oddA);
 }
 
-} // namespace Parameters::Internal
+} // namespace Ostra

@@ -1,4 +1,4 @@
-#include "engine/Hash.h"
+#include "schema/Hash.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-using Parameters::Internal::hashOf;
+using Ostra::hashOf;
 
 TEST(Hash, IsTheSameForTheSameBytesWhereverTheyLie) {
     const std::string bytes = "norvex.spec:discipline-1.0.0 and twenty more";

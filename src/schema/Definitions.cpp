@@ -1,0 +1,36 @@
+#include "schema/Definitions.h"
+
+#include <algorithm>
+
+namespace Ostra {
+
+bool Definitions::add(std::string_view id, JSONView definition) {
+    if (find(id)) {
+        return false;
+    }
+    definitions_.push_back({id, definition});
+    if (definitions_.size() > few) {
+        for (std::size_t place = index_.size(); place < definitions_.size(); ++place) {
+            index_.emplace(definitions_[place].id, place);
+        }
+    }
+    return true;
+}
+
+std::optional<JSONView> Definitions::find(std::string_view id) const {
+    if (definitions_.size() > few) {
+        const auto found = index_.find(id);
+        return found != index_.end() ? std::optional(definitions_[found->second].definition) : std::nullopt;
+    }
+    const auto found = std::find_if(definitions_.begin(), definitions_.end(),
+                                    [id](const Definition& definition) { return definition.id == id; });
+    return found != definitions_.end() ? std::optional(found->definition) : std::nullopt;
+}
+
+std::vector<Definitions::Definition> Definitions::sorted() const {
+    std::vector<Definition> sorted(definitions_.begin(), definitions_.end());
+    std::sort(sorted.begin(), sorted.end(), [](const Definition& a, const Definition& b) { return a.id < b.id; });
+    return sorted;
+}
+
+} // namespace Ostra

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "schema/JSON.h"
+
+#include <cstddef>
+#include <map>
+#include <memory_resource>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace Ostra {
+
+/// The definitions of one table of a schema by their ids, in the order of the text.
+class Definitions {
+public:
+    struct Definition {
+        std::string_view id;
+        JSONView definition;
+    };
+
+    explicit Definitions(std::pmr::memory_resource* memory) : definitions_(memory), index_(memory) {}
+
+    /// Makes room for so many definitions in all.
+    void reserve(std::size_t count) { definitions_.reserve(count); }
+    /// Adds a definition; returns false if there is one of that id.
+    bool add(std::string_view id, JSONView definition);
+    /// Returns the definition of that id, or nothing.
+    std::optional<JSONView> find(std::string_view id) const;
+
+    std::size_t size() const { return definitions_.size(); }
+    bool empty() const { return definitions_.empty(); }
+    auto begin() const { return definitions_.begin(); }
+    auto end() const { return definitions_.end(); }
+    /// Returns the definitions in ascending byte order of their ids.
+    std::vector<Definition> sorted() const;
+
+private:
+    static constexpr std::size_t few = 16; // up to so many, looking at one after the other is faster than any index
+
+    std::pmr::vector<Definition> definitions_;
+    std::pmr::map<std::string_view, std::size_t> index_; // of all definitions, once they are more than a few
+};
+
+} // namespace Ostra
