@@ -2,11 +2,11 @@
 
 #include "engine/Directory.h"
 #include "engine/Kinds.h"
+#include "engine/Lazy.h"
 #include "engine/SortedOrder.h"
 #include "model/Access.h"
 
 #include <algorithm>
-#include <array>
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
@@ -21,7 +21,8 @@ namespace Parameters::Internal {
 
 /// What one kind has: schemas that are read and not yet resolved, and objects.
 template <class K>
-struct Store {
+class Store {
+public:
     using Object = typename K::Object;
     struct Pending {
         typename K::Record record;
@@ -30,27 +31,16 @@ struct Store {
 
     std::vector<Pending> pending;
     std::vector<Object> objects;
-    SortedOrder order;
 
     /// Returns all objects by typeid.
     std::map<std::string, Object> all() const {
-        const auto less = [this](std::uint32_t a, std::uint32_t b) {
-            return typeIdOf(objects[a]) < typeIdOf(objects[b]);
-        };
-        const auto& places = order.of(static_cast<std::uint32_t>(objects.size()), less);
-        std::map<std::string, Object> result;
-        constexpr std::size_t ahead = 16; // objects lie anywhere: waiting for several at a time is waiting once
-        std::array<std::string_view, ahead> typeIds;
-        for (std::size_t begin = 0; begin < places.size(); begin += ahead) {
-            const std::size_t count = std::min(ahead, places.size() - begin);
-            for (std::size_t i = 0; i < count; ++i) {
-                typeIds[i] = typeIdOf(objects[places[begin + i]]);
-            }
-            for (std::size_t i = 0; i < count; ++i) {
-                result.emplace_hint(result.end(), typeIds[i], objects[places[begin + i]]);
-            }
-        }
-        return result;
+        return list_.get([this] { return makeList(); }); // copying a map costs half of making one
+    }
+
+    /// Says that there are more objects.
+    void grown() noexcept {
+        order_.grown();
+        list_.take();
     }
 
     /// Makes room for so many objects more, so that adding them cannot throw.
@@ -60,6 +50,21 @@ struct Store {
             objects.reserve(std::max(needed, objects.size() + objects.size() / 2)); // room for one at a time, too
         }
     }
+
+private:
+    std::map<std::string, Object> makeList() const {
+        const auto& places =
+            order_.of(static_cast<std::uint32_t>(objects.size()),
+                      [this](std::uint32_t a, std::uint32_t b) { return typeIdOf(objects[a]) < typeIdOf(objects[b]); });
+        std::map<std::string, Object> list;
+        for (const std::uint32_t place : places) {
+            list.emplace_hint(list.end(), typeIdOf(objects[place]), objects[place]);
+        }
+        return list;
+    }
+
+    SortedOrder order_;
+    Lazy<std::map<std::string, Object>> list_;
 };
 
 /// All that an engine has of its own: the stores of the kinds and the directory over them, always in step.
@@ -131,7 +136,7 @@ public:
         auto& store = std::get<kindIndex<K>>(stores_);
         directory_.reserveOne();
         store.objects.push_back(object);
-        store.order.grown();
+        store.grown();
         directory_.add({typeIdOf(object), static_cast<std::uint32_t>(store.objects.size() - 1),
                         static_cast<std::uint8_t>(kindIndex<K>), true},
                        Directory::Key(typeIdOf(object)).hash);
@@ -171,7 +176,7 @@ public:
             entry.place = place++;
             entry.resolved = true;
         }
-        store.order.grown();
+        store.grown();
         std::vector<typename Store<K>::Pending>().swap(store.pending);
     }
 

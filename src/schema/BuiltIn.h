@@ -70,8 +70,9 @@ inline constexpr std::string_view enumeration = "Enum";
 inline constexpr std::array reserved{stringRange, setStringRange, regexStringRange, floatRange, intRange,   familyType,
                                      boolSpec,    intSpec,        referenceSpec,    stringSpec, discipline, group};
 
-/// True when an identifier may be in the typeid at that position or behind it: all of them begin with one word.
-bool mayBeIn(std::string_view typeId, std::size_t position = 0);
+/// Returns where in the typeid, at that position or behind it, an identifier may begin, or npos: all of them begin with
+/// one word.
+std::size_t findStart(std::string_view typeId, std::size_t position = 0);
 
 /// True when the typeid contains the version prefix of a reserved identifier.
 bool isReserved(std::string_view typeId);

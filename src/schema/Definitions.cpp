@@ -9,6 +9,7 @@ bool Definitions::add(std::string_view id, JSONView definition) {
         return false;
     }
     definitions_.push_back({id, definition});
+    sizes_ |= sizeBit(id);
     if (definitions_.size() > few) {
         for (std::size_t place = index_.size(); place < definitions_.size(); ++place) {
             index_.emplace(definitions_[place].id, place);
@@ -18,6 +19,9 @@ bool Definitions::add(std::string_view id, JSONView definition) {
 }
 
 std::optional<JSONView> Definitions::find(std::string_view id) const {
+    if ((sizes_ & sizeBit(id)) == 0) {
+        return std::nullopt;
+    }
     if (definitions_.size() > few) {
         const auto found = index_.find(id);
         return found != index_.end() ? std::optional(definitions_[found->second].definition) : std::nullopt;

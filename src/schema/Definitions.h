@@ -3,6 +3,7 @@
 #include "schema/JSON.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <memory_resource>
 #include <optional>
@@ -38,7 +39,10 @@ public:
 private:
     static constexpr std::size_t few = 16; // up to so many, looking at one after the other is faster than any index
 
+    static std::uint64_t sizeBit(std::string_view id) { return std::uint64_t{1} << (id.size() % 64); }
+
     std::pmr::vector<Definition> definitions_;
+    std::uint64_t sizes_ = 0; // a bit for each size of an id: most ids that are not there are of none of them
     std::pmr::map<std::string_view, std::size_t> index_; // of all definitions, once they are more than a few
 };
 
