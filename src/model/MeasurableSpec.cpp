@@ -65,7 +65,9 @@ std::optional<MeasurableSpecKind::Record> MeasurableSpecKind::read(const Ostra::
     const auto [name, discipline] = SpecConstants::read(constants);
     auto units = constants.optional<Ostra::TypedValues>("applicableUnits", {});
     units.insert(units.begin(), constants.required<Ostra::TypedValue>("storageUnit"));
-    return Record{{{schema.typeId(), name}, {discipline}, std::nullopt}, Texts(units)};
+    // Made before the record: g++ 12 destroys the first part of a record twice when making the second one throws.
+    const Texts unitTexts(units);
+    return Record{{{schema.typeId(), name}, {discipline}, std::nullopt}, unitTexts};
 }
 
 MeasurableSpecKind::Record MeasurableSpecKind::recordOf(const MeasurableSpec& spec) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <new>
 
@@ -21,15 +22,18 @@ namespace Ostra {
 namespace {
 
 thread_local AllocationWatch* current = nullptr;
+std::atomic<long> processBlocks = 0;
 
 void* allocateBlock(std::size_t size) {
     if (void* const block = std::malloc(size == 0 ? 1 : size)) {
+        ++processBlocks;
         return block;
     }
     throw std::bad_alloc();
 }
 
 [[maybe_unused]] void release(void* block) noexcept {
+    processBlocks -= block != nullptr ? 1 : 0;
     if (current != nullptr) {
         current->free(block);
     } else {
@@ -48,7 +52,13 @@ bool completes(const std::function<void()>& operation) {
 
 } // namespace
 
-bool AllocationWatch::works() { return WATCHES_ALLOCATIONS; }
+bool AllocationWatch::works() {
+    const AllocationWatch watch;
+    ::operator delete(::operator new(1));
+    return watch.requests() == 1;
+}
+
+long AllocationWatch::liveBlocksInProcess() { return processBlocks; }
 
 AllocationWatch::AllocationWatch(long failingRequest) : failingRequest_(failingRequest) { current = this; }
 

@@ -10,7 +10,7 @@ class AllocationWatch {
 public:
     static constexpr long none = -1;
 
-    /// Whether requests are seen: the thread sanitizer does not let a program replace operator new.
+    /// Whether requests are seen: the thread sanitizer and valgrind do not let a program replace operator new.
     static bool works();
 
     /// Lets the request of that number fail, counted from 0.
@@ -23,6 +23,9 @@ public:
     std::size_t bytes() const { return bytes_; }
     /// Returns how many more blocks were allocated than freed.
     long liveBlocks() const { return liveBlocks_; }
+
+    /// Returns how many blocks the whole process holds, whether a watch saw them or not.
+    static long liveBlocksInProcess();
 
     void* allocate(std::size_t size);
     void free(void* block) noexcept;

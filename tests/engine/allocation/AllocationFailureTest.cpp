@@ -1,4 +1,5 @@
-#include "schema/AllocationWatch.h"
+#include "FailingAllocations.h"
+
 #include "support/Picture.h"
 #include "support/SchemaTexts.h"
 
@@ -14,7 +15,6 @@
 
 namespace {
 
-using Ostra::AllocationWatch;
 using Parameters::BoolParameter;
 using Parameters::BoolSpec;
 using Parameters::GeneralSpec;
@@ -26,8 +26,12 @@ using Support::boolParameterText;
 using Support::boolSpecText;
 using Support::disciplineText;
 using Support::domainText;
+using Support::Ending;
+using Support::endingOf;
 using Support::generalSpecText;
 using Support::groupText;
+using Support::keysOf;
+using Support::Operation;
 using Support::unitText;
 
 // Too long for strings to keep them without memory.
@@ -61,95 +65,23 @@ BoolParameter newParameter() {
     return {ParameterCore(added, "Name", Taxon(group, ""), "", "", false), BoolSpec(SpecCore(spec, ""))};
 }
 
-using Answers = std::set<std::string>;
+using Answers = Support::Answers;
 
-/// Something that is done with an engine, and what it answers; after a change of the engine it needs no memory for
-/// that.
-struct Operation {
-    const char* name;
-    Answers (*apply)(ParametersEngine& engine);
-};
-
-template <class Objects>
-Answers keysOf(const Objects& objects) {
-    Answers keys;
-    for (const auto& entry : objects) {
-        keys.insert(entry.first);
-    }
-    return keys;
+void failEach(const Operation& operation, int moreObjects, bool shared) {
+    Support::EveryAllocation(
+        operation, [=] { return prepared(moreObjects); }, pictureOf, shared)
+        .fail();
 }
-
-/// How a call ended in which one request for memory was to fail.
-struct Ending {
-    bool reached; // whether there was a request of that number
-    bool outOfMemory;
-};
-
-template <class Call>
-Ending endingOf(Call&& call, long failingRequest) {
-    AllocationWatch watch(failingRequest);
-    bool outOfMemory = false;
-    try {
-        call();
-    } catch (const std::bad_alloc&) {
-        outOfMemory = true;
-    }
-    return {watch.requests() > failingRequest, outOfMemory};
-}
-
-/// Makes one request of an operation fail after the other, each in an engine of its own, which shares its tables with a
-/// copy or does not.
-class EveryAllocation {
-public:
-    EveryAllocation(const Operation& operation, int moreObjects, bool shared)
-        : operation_(operation), moreObjects_(moreObjects), shared_(shared), before_(pictureOf(prepared(moreObjects))) {
-        ParametersEngine engine = prepared(moreObjects);
-        result_ = operation.apply(engine);
-        after_ = pictureOf(engine);
-    }
-
-    void fail() const {
-        long request = 0;
-        while (failOne(request)) {
-            ++request;
-        }
-        EXPECT_GT(request, 0) << "The operation asks for no memory at all.";
-    }
-
-private:
-    /// Returns whether the operation has a request of that number.
-    bool failOne(long request) const {
-        ParametersEngine engine = prepared(moreObjects_);
-        const auto copy = shared_ ? std::make_optional(engine) : std::nullopt;
-        Answers result;
-        const Ending ending = endingOf([&] { result = operation_.apply(engine); }, request);
-        if (ending.outOfMemory) {
-            EXPECT_EQ(pictureOf(engine), before_) << "request " << request;
-            result = operation_.apply(engine);
-        }
-        EXPECT_EQ(result, result_) << "request " << request;
-        EXPECT_EQ(pictureOf(engine), after_) << "request " << request;
-        EXPECT_EQ(copy ? pictureOf(*copy) : before_, before_) << "request " << request;
-        return ending.reached && !testing::Test::HasFailure();
-    }
-
-    const Operation& operation_;
-    int moreObjects_;
-    bool shared_;
-    std::string before_;
-    std::string after_;
-    Answers result_;
-};
 
 class FailingChange : public testing::TestWithParam<Operation> {};
 
-TEST_P(FailingChange, LeavesAnEngineAsItWas) { EveryAllocation(GetParam(), 0, false).fail(); }
+TEST_P(FailingChange, LeavesAnEngineAsItWas) { failEach(GetParam(), 0, false); }
 
-TEST_P(FailingChange, LeavesAnEngineThatSharesItsStateAsItWas) { EveryAllocation(GetParam(), 0, true).fail(); }
+TEST_P(FailingChange, LeavesAnEngineThatSharesItsStateAsItWas) { failEach(GetParam(), 0, true); }
 
-TEST_P(FailingChange, LeavesAnEngineWithoutRoomForEntriesAsItWas) { EveryAllocation(GetParam(), 2, false).fail(); }
+TEST_P(FailingChange, LeavesAnEngineWithoutRoomForEntriesAsItWas) { failEach(GetParam(), 2, false); }
 
-TEST_P(FailingChange, LeavesAnEngineWithoutRoomForSlotsAsItWas) { EveryAllocation(GetParam(), 6, false).fail(); }
+TEST_P(FailingChange, LeavesAnEngineWithoutRoomForSlotsAsItWas) { failEach(GetParam(), 6, false); }
 
 const Operation changes[] = {
     {"RegisterSchema", [](ParametersEngine& engine) { return engine.registerSchema(disciplineText(added)).first; }},
@@ -202,12 +134,11 @@ const Operation changes[] = {
      }},
 };
 
-INSTANTIATE_TEST_SUITE_P(Allocation, FailingChange, testing::ValuesIn(changes),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Allocation, FailingChange, testing::ValuesIn(changes), Support::nameOfOperation);
 
 class FailingQuery : public testing::TestWithParam<Operation> {};
 
-TEST_P(FailingQuery, LeavesAnEngineAsItWas) { EveryAllocation(GetParam(), 0, false).fail(); }
+TEST_P(FailingQuery, LeavesAnEngineAsItWas) { failEach(GetParam(), 0, false); }
 
 const Operation queries[] = {
     {"RefusedSchema",
@@ -277,8 +208,7 @@ const Operation queries[] = {
      }},
 };
 
-INSTANTIATE_TEST_SUITE_P(Allocation, FailingQuery, testing::ValuesIn(queries),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Allocation, FailingQuery, testing::ValuesIn(queries), Support::nameOfOperation);
 
 /// A batch of schemas that name each other and a unit, with keys in the order of names.
 const std::map<std::string, std::string> batch{{"a", boolParameterText("a", "b", "c")},
