@@ -1,25 +1,12 @@
 #include "schema/JSONWriter.h"
 
+#include "schema/PlainCharacters.h"
+
 #include <cmath>
-#include <cstring>
 #include <limits>
 #include <stdexcept>
 
 namespace Ostra {
-
-namespace {
-
-/// True when a string may hold the character as it is. The loop over all characters has no way out before the end, so
-/// that the compiler can look at many of them at a time.
-bool isPlain(std::string_view string) {
-    bool plain = true;
-    for (const char character : string) {
-        plain &= static_cast<unsigned char>(character) >= 0x20 && character != '"' && character != '\\';
-    }
-    return plain;
-}
-
-} // namespace
 
 void JSONWriter::number(double value) {
     if (!std::isfinite(value)) {
@@ -35,7 +22,7 @@ void JSONWriter::Writer::string(std::string_view value) {
         throw std::length_error("A string is too long to be written as JSON.");
     }
     const auto length = static_cast<rapidjson::SizeType>(value.size());
-    if (!isPlain(value)) {
+    if (!PlainCharacters::areAll(value)) {
         String(value.data(), length);
         return;
     }

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "schema/PlainCharacters.h"
+
 #include <rapidjson/stream.h>
 
 #include <bit>
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 namespace Ostra {
 
@@ -12,7 +14,7 @@ namespace Ostra {
 /// time. Behind the text there must be that many bytes 0.
 class TextStream : public rapidjson::InsituStringStream {
 public:
-    static constexpr std::size_t room = sizeof(std::uint64_t);
+    static constexpr std::size_t room = PlainCharacters::wordSize;
 
     explicit TextStream(char* text) : rapidjson::InsituStringStream(text) {}
 
@@ -26,29 +28,16 @@ public:
     }
 
 private:
-    static constexpr std::uint64_t each = 0x0101010101010101; // times a byte is a word of that byte
-
     /// Returns the first quotation mark, backslash, control character or byte 0.
     static char* endOfPlain(char* at) {
         if constexpr (std::endian::native == std::endian::little) {
-            for (;; at += sizeof(std::uint64_t)) {
-                std::uint64_t word = 0;
-                std::memcpy(&word, at, sizeof word);
-                if (const std::uint64_t special = below(word, 0x20) | equal(word, '"') | equal(word, '\\')) {
-                    return at + std::countr_zero(special) / 8;
+            for (;; at += PlainCharacters::wordSize) {
+                if (const std::uint64_t others = PlainCharacters::othersIn(PlainCharacters::wordAt(at))) {
+                    return at + std::countr_zero(others) / 8;
                 }
             }
         }
         return at;
-    }
-
-    // Each marks the top bits of the bytes that it looks for. Bytes above a marked one may be marked wrongly: only the
-    // lowest counts.
-    static std::uint64_t below(std::uint64_t word, std::uint64_t limit) {
-        return (word - each * limit) & ~word & each << 7;
-    }
-    static std::uint64_t equal(std::uint64_t word, char byte) {
-        return below(word ^ each * static_cast<unsigned char>(byte), 1);
     }
 };
 
