@@ -32,15 +32,17 @@ function(ostra_configure target)
     )
 endfunction()
 
-# ostra_add_library(<target> HEADERS <folder> SOURCES <source>... LINKS <library>...): a library with its package.
+# ostra_add_library(<target> DESCRIPTION <sentence> HEADERS <folder> SOURCES <source>... LINKS <library>...): a library
+# with its package.
 # All names come from the target's: OstraUnits has the headers <units/...>, the macro UNITS_EXPORT, the alias
 # Ostra::Units and the package OstraUnits. Its own objects are OstraUnitsObjects, in which tests reach what the library
 # hides; those of OstraSchema are built once and put into each library.
 function(ostra_add_library target)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADERS" "SOURCES;LINKS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION;HEADERS" "SOURCES;LINKS")
     string(REGEX REPLACE "^Ostra" "" name ${target})
     string(TOUPPER ${name} macro)
     string(TOLOWER ${name} folder)
+    set(description "${arg_DESCRIPTION}")
     set(generated ${CMAKE_CURRENT_BINARY_DIR}/include)
     set(export_header ${generated}/${folder}/Export.h)
     set(version_header ${generated}/${folder}/Version.h)
@@ -53,7 +55,11 @@ function(ostra_add_library target)
     target_link_libraries(${target}Objects PUBLIC OstraSchema ${arg_LINKS})
     target_compile_definitions(${target}Objects PRIVATE ${target}_EXPORTS)
 
-    add_library(${target} $<TARGET_OBJECTS:${target}Objects> $<TARGET_OBJECTS:OstraSchema>)
+    add_library(${target} $<TARGET_OBJECTS:${target}Objects>)
+    # Static libraries are linked together, so that the documents are in the first of them alone, which others need.
+    if(BUILD_SHARED_LIBS OR NOT arg_LINKS OR OSTRA_UNITS STREQUAL "installed")
+        target_sources(${target} PRIVATE $<TARGET_OBJECTS:OstraSchema>)
+    endif()
     add_library(Ostra::${name} ALIAS ${target})
     generate_export_header(${target} BASE_NAME ${macro} EXPORT_FILE_NAME ${export_header})
     target_sources(
@@ -62,6 +68,13 @@ function(ostra_add_library target)
     )
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_link_libraries(${target} PUBLIC ${arg_LINKS})
+    # The target that compiles each public header alone does so with warnings.
+    set(is_verification $<STREQUAL:$<TARGET_PROPERTY:NAME>,${target}_verify_interface_header_sets>)
+    target_compile_options(
+        ${target}
+        INTERFACE
+            "$<BUILD_INTERFACE:$<$<AND:${is_verification},$<CXX_COMPILER_ID:GNU,Clang,AppleClang>>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Werror>>"
+    )
     set_target_properties(
         ${target}
         PROPERTIES EXPORT_NAME ${name}
@@ -71,6 +84,7 @@ function(ostra_add_library target)
                    INSTALL_RPATH $ORIGIN # the libraries lie side by side
                    INSTALL_RPATH_USE_LINK_PATH ON # or where the units library was found
     )
+    ostra_export_namespace(${target} ${name})
     if(NOT BUILD_SHARED_LIBS)
         target_compile_definitions(${target} PUBLIC ${macro}_STATIC_DEFINE)
         target_compile_definitions(${target}Objects PUBLIC ${macro}_STATIC_DEFINE)
@@ -78,17 +92,58 @@ function(ostra_add_library target)
     ostra_install_package(${target} DEPENDENCIES ${arg_LINKS})
 endfunction()
 
+# ostra_export_namespace(<target> <namespace>): a shared library exports what is of its namespace and not hidden.
+# Hidden visibility does not reach what it instantiates of the standard library's templates; the linker does.
+function(ostra_export_namespace target namespace)
+    if(NOT BUILD_SHARED_LIBS OR NOT UNIX OR APPLE)
+        return()
+    endif()
+    set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}.map)
+    string(LENGTH ${namespace} length)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/exports.map.in ${script} @ONLY)
+    target_link_options(${target} PRIVATE LINKER:--version-script=${script})
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${script})
+endfunction()
+
+# ostra_install_pkg_config(<target> DEPENDENCIES <library>...): what pkg-config says of the library. It finds itself
+# from where it lies, so that the tree can be moved.
+function(ostra_install_pkg_config target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "DEPENDENCIES")
+    list(TRANSFORM arg_DEPENDENCIES REPLACE "^Ostra::" "ostra-")
+    string(JOIN ", " requires ${arg_DEPENDENCIES})
+    string(REGEX REPLACE "^Ostra" "" name ${target})
+    string(TOLOWER "${requires}" requires)
+    string(TOLOWER ostra-${name} file)
+    set(definition "")
+    if(NOT BUILD_SHARED_LIBS)
+        string(TOUPPER ${name} macro)
+        set(definition " -D${macro}_STATIC_DEFINE")
+    endif()
+    file(RELATIVE_PATH up ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${file}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${file}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+            COMPONENT ${target}-dev
+    )
+endfunction()
+
 # ostra_install_package(<target> DEPENDENCIES <library>...): the library, its headers, and the CMake package of its
-# name, which finds the packages of the dependencies (Ostra::Units is in OstraUnits).
+# name, which finds the packages of the dependencies (Ostra::Units is in OstraUnits). What runs is in the component of
+# the target's name, what is compiled with in the component <target>-dev.
 function(ostra_install_package target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "DEPENDENCIES")
     set(dependencies "")
+    set(components "")
+    foreach(library IN LISTS arg_DEPENDENCIES ITEMS ${target})
+        string(REGEX REPLACE "^Ostra(::)?" "" component ${library})
+        string(APPEND components "set(${target}_${component}_FOUND TRUE)\n")
+    endforeach()
     foreach(dependency IN LISTS arg_DEPENDENCIES)
         string(REPLACE "::" "" package ${dependency})
         string(APPEND dependencies
                "find_dependency(${package} CONFIG HINTS \"\${CMAKE_CURRENT_LIST_DIR}/../${package}\")\n"
         )
     endforeach()
+    ostra_install_pkg_config(${target} DEPENDENCIES ${arg_DEPENDENCIES})
     set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/${target})
     configure_package_config_file(
         ${PROJECT_SOURCE_DIR}/cmake/Config.cmake.in ${target}Config.cmake INSTALL_DESTINATION ${package_folder}
@@ -97,13 +152,16 @@ function(ostra_install_package target)
     install(
         TARGETS ${target}
         EXPORT ${target}Targets
-        FILE_SET HEADERS
+        LIBRARY COMPONENT ${target} NAMELINK_COMPONENT ${target}-dev
+        RUNTIME COMPONENT ${target}
+        ARCHIVE COMPONENT ${target}-dev
+        FILE_SET HEADERS COMPONENT ${target}-dev
         INCLUDES # for consumers whose CMake does not know file sets
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
     )
-    install(EXPORT ${target}Targets NAMESPACE Ostra:: DESTINATION ${package_folder})
+    install(EXPORT ${target}Targets NAMESPACE Ostra:: DESTINATION ${package_folder} COMPONENT ${target}-dev)
     install(
         FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}Config.cmake ${CMAKE_CURRENT_BINARY_DIR}/${target}ConfigVersion.cmake
-        DESTINATION ${package_folder}
+        DESTINATION ${package_folder} COMPONENT ${target}-dev
     )
 endfunction()

@@ -1,27 +1,29 @@
-# Fails when the shared LIBRARY exports a symbol outside NAMESPACE that is no instantiation of the standard library's,
-# something of the namespace's Internal part, or nothing of its own. Symbols are judged as they are mangled, because the
-# readable form of a template begins with its return type.
+# Fails unless the shared LIBRARY exports what the file LIST says and nothing else; with UPDATE, writes that file. The
+# list is of readable names, which are the same for every compiler.
 execute_process(
-    COMMAND ${NM} --dynamic --defined-only --format=posix ${LIBRARY}
-    OUTPUT_VARIABLE listing COMMAND_ERROR_IS_FATAL ANY
+    COMMAND ${NM} --dynamic --defined-only --demangle ${LIBRARY} OUTPUT_VARIABLE listing COMMAND_ERROR_IS_FATAL ANY
 )
-string(REGEX MATCHALL "[^\n]+" lines "${listing}")
-
-string(LENGTH ${NAMESPACE} length)
-set(own "^_Z(T[VIST]|GV|Z)?NK?${length}${NAMESPACE}")
-set(standard "^_Z(T[VIST]|GV|Z)?(NK?)?(S[tabsiod]|9__gnu_cxx)")
-set(count 0)
-set(faults "")
-foreach(line IN LISTS lines)
-    if(line MATCHES "${own}" AND NOT line MATCHES "${own}8Internal")
-        math(EXPR count "${count} + 1")
-    elseif(NOT line MATCHES "${standard}")
-        string(APPEND faults "  ${line}\n")
-    endif()
-endforeach()
-if(count EQUAL 0)
-    message(FATAL_ERROR "${LIBRARY} exports nothing of ${NAMESPACE}.")
+string(REGEX REPLACE "(^|\n)[0-9a-f]+ [A-Za-z] " "\\1" listing "${listing}")
+string(REPLACE "[" "<" listing "${listing}") # brackets would keep lines of a list together
+string(REPLACE "]" ">" listing "${listing}")
+string(STRIP "${listing}" listing)
+string(REPLACE "\n" ";" symbols "${listing}")
+list(SORT symbols)
+list(REMOVE_DUPLICATES symbols) # of the several forms of a constructor
+if(symbols STREQUAL "")
+    message(FATAL_ERROR "${LIBRARY} exports nothing.")
 endif()
-if(NOT faults STREQUAL "")
-    message(FATAL_ERROR "${LIBRARY} exports what is not its own:\n${faults}")
+string(REPLACE ";" "\n" text "${symbols}\n")
+if(UPDATE)
+    file(WRITE ${LIST} "${text}")
+    return()
+endif()
+file(READ ${LIST} expected)
+if(NOT text STREQUAL expected)
+    cmake_path(GET LIST FILENAME name)
+    file(WRITE ${name} "${text}")
+    execute_process(COMMAND diff ${LIST} ${name} OUTPUT_VARIABLE difference)
+    message(FATAL_ERROR "${LIBRARY} exports other symbols than its list says. If that is meant, run scripts/abi "
+                        "--update.\n${difference}"
+    )
 endif()

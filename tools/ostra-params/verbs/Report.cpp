@@ -6,7 +6,11 @@
 
 #include <CLI/CLI.hpp>
 
+#include <array>
 #include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
 
 namespace Tool {
 
@@ -48,9 +52,9 @@ Json dataOf(const Catalogue& catalogue) {
 std::string pageOf(const Catalogue& catalogue) {
     std::string page(Page::html);
     // Data last, so that no mark is looked for in what schemas say.
-    const std::pair<std::string_view, std::string> parts[] = {{"@STYLE@", std::string(Page::css)},
-                                                              {"@SCRIPT@", std::string(Page::js)},
-                                                              {"@DATA@", toTextInHtml(dataOf(catalogue))}};
+    const std::array<std::pair<std::string_view, std::string>, 3> parts{{{"@STYLE@", std::string(Page::css)},
+                                                                         {"@SCRIPT@", std::string(Page::js)},
+                                                                         {"@DATA@", toTextInHtml(dataOf(catalogue))}}};
     for (const auto& [mark, text] : parts) {
         page.replace(page.find(mark), mark.size(), text);
     }
