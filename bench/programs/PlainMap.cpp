@@ -4,14 +4,29 @@
 
 namespace Bench {
 
+namespace {
+
+PlainParameter plain(const Parameters::MeasurableParameter& parameter) {
+    const Parameters::ParameterCore core = parameter.getCore();
+    return {core.getTypeId(),
+            core.getName(),
+            core.getDescription(),
+            core.getSampleText(),
+            core.getGroup().getTypeId(),
+            parameter.getSpec().getCore().getTypeId(),
+            core.isReadOnly()};
+}
+
+} // namespace
+
 const PlainMap& plainMap(const Catalogue& catalogue) {
     return once(catalogue, [](const Catalogue& schemas) {
         const Parameters::ParametersEngine& engine = resolvedEngine(schemas);
         PlainMap map;
         for (const Schema& schema : schemas) {
             if (schema.kind == Kind::measurableParameter) {
-                map.emplace(schema.typeId, std::make_shared<const Parameters::MeasurableParameter>(
-                                               engine.getMeasurableParameter(schema.typeId)));
+                map.emplace(schema.typeId, std::make_shared<const PlainParameter>(
+                                               plain(engine.getMeasurableParameter(schema.typeId))));
             }
         }
         return map;

@@ -32,12 +32,12 @@ std::optional<BoolParameterKind::Record> BoolParameterKind::read(const Ostra::Sc
     const Ostra::Constants constants(schema);
     const auto common = ParameterConstants::read(constants);
     const auto spec = constants.optional<Ostra::TypedValue>("spec", BuiltIn::boolSpec.full());
-    return Record{{common.texts(schema.typeId()), {common.group, spec}, common.readOnly}, std::nullopt};
+    return Record{{common.texts(schema.typeId()), {common.group, spec}, common.readOnly}, nullptr};
 }
 
 BoolParameterKind::Record BoolParameterKind::recordOf(const BoolParameter& parameter) {
     const auto& [core, spec] = Access::data(parameter);
-    return {{core.texts, {typeIdOf(core.group), typeIdOf(spec)}, core.readOnly}, spec};
+    return {{core.texts, {typeIdOf(core.group), typeIdOf(spec)}, core.readOnly}, &spec};
 }
 
 BoolParameter BoolParameterKind::build(const Record& record, const Finder& finder) {

@@ -23,7 +23,7 @@ struct BoolParameterData {
 struct BoolParameterKind {
     using Object = BoolParameter;
     struct Record : ParameterRecord {
-        std::optional<BoolSpec> givenSpec; // of an object made in code
+        const BoolSpec* givenSpec = nullptr; // of an object made in code, which outlives the record
     };
 
     static constexpr std::string_view word = "Boolean parameter";

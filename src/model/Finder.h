@@ -58,14 +58,14 @@ public:
     /// the built-in object of exactly that typeid.
     template <class K>
     typename K::Object requireOrStandIn(std::string_view typeId, std::string_view schemaTypeId,
-                                        const std::optional<typename K::Object>& given = std::nullopt) const {
+                                        const typename K::Object* given = nullptr) const {
         if (const auto* object = find<K>(typeId)) {
             return *object;
         }
         if (!K::builtIn.isIn(typeId)) {
             failMissing(K::word, typeId, schemaTypeId);
         }
-        return given ? *given : standInOf<K>(typeId);
+        return given != nullptr ? *given : standInOf<K>(typeId);
     }
 
     /// As requireOrStandIn, but binding takes the stand-in of the full identifier whatever version is named.

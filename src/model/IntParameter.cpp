@@ -32,12 +32,12 @@ std::optional<IntParameterKind::Record> IntParameterKind::read(const Ostra::Sche
     const auto common = ParameterConstants::read(constants);
     const auto spec = constants.optional<Ostra::TypedValue>("spec", BuiltIn::intSpec.full());
     const auto range = IntRangeKind::readConstant(schema, constants);
-    return Record{{schema.typeId(), common, spec, range}, std::nullopt};
+    return Record{{schema.typeId(), common, spec, range}, nullptr};
 }
 
 IntParameterKind::Record IntParameterKind::recordOf(const IntParameter& parameter) {
     const auto& data = Access::data(parameter);
-    return {{data, IntRangeKind::referenceTo(data.range)}, data.spec};
+    return {{data, IntRangeKind::referenceTo(data.range)}, &data.spec};
 }
 
 IntParameter IntParameterKind::build(const Record& record, const Finder& finder) {

@@ -17,7 +17,7 @@ namespace Parameters::Internal {
 struct IntParameterKind {
     using Object = IntParameter;
     struct Record : RangedParameterRecord<IntRange> {
-        std::optional<IntSpec> givenSpec; // of an object made in code
+        const IntSpec* givenSpec = nullptr; // of an object made in code, which outlives the record
     };
 
     static constexpr std::string_view word = "integer parameter";

@@ -32,25 +32,25 @@ Parameter makeRanged(ParameterCoreData core, const Spec& spec, const Range& rang
 /// The record of a parameter that has a range.
 template <class Range>
 struct RangedParameterRecord : ParameterRecord {
-    std::optional<Range> ownRange;
+    Range ownRange; // none when a registered range is named
 
     /// Of a schema text.
     RangedParameterRecord(std::string_view typeId, const ParameterConstants& constants, std::string_view spec,
                           const RangeReference<Range>& range)
         : ParameterRecord{constants.texts(typeId), referencesOf(constants.group, spec, range.named),
                           constants.readOnly},
-          ownRange(range.own) {}
+          ownRange(range.own ? *range.own : Access::none<Range>()) {}
     /// Of an object.
     template <class Spec>
     RangedParameterRecord(const RangedParameterData<Spec, Range>& data, const RangeReference<Range>& range)
         : ParameterRecord{data.core.texts, referencesOf(typeIdOf(data.core.group), typeIdOf(data.spec), range.named),
                           data.core.readOnly},
-          ownRange(range.own) {}
+          ownRange(range.own ? *range.own : Access::none<Range>()) {}
 
     /// Returns the registered range that the record names, or else the parameter's own.
     template <class RangeKind>
     Range findRange(const Finder& finder) const {
-        return references.size() > 2 ? finder.require<RangeKind>(references[2], typeId()) : *ownRange;
+        return references.size() > 2 ? finder.require<RangeKind>(references[2], typeId()) : ownRange;
     }
 
 private:

@@ -45,8 +45,8 @@ StringParameter StringParameterKind::build(const Record& record, const Finder& f
     auto core = buildParameterCore(record, finder);
     // Of two things missing, resolution names the spec, binding the range.
     if (finder.binds()) {
-        if (record.ownRange) {
-            StringRangeKind::check(*record.ownRange);
+        if (!Access::isNone(record.ownRange)) {
+            StringRangeKind::check(record.ownRange);
         }
         const auto range = record.findRange<StringRangeKind>(finder);
         return makeRanged<StringParameter>(std::move(core), findSpec(), range);
