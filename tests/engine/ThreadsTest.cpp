@@ -1,3 +1,4 @@
+#include "support/Catalogue.h"
 #include "support/Picture.h"
 #include "support/SchemaTexts.h"
 
@@ -5,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string>
 #include <thread>
 #include <vector>
@@ -73,6 +75,20 @@ TEST(Threads, ReadOneEngineAtOnce) {
     std::vector<std::string> answers(threadCount);
     inThreads([&](int i) { answers[static_cast<std::size_t>(i)] = everythingAbout(engine); });
     EXPECT_EQ(answers, std::vector<std::string>(threadCount, everythingAbout(engine)));
+}
+
+TEST(Threads, ReadACatalogueOfEveryKindAtOnce) {
+    std::map<std::string, std::string> batch;
+    for (const std::string& text : Support::textsIn(OSTRA_SOURCE_DIR "/examples/catalogue")) {
+        batch.emplace(std::to_string(batch.size()), text);
+    }
+    ParametersEngine loadedEngine;
+    loadedEngine.registerSchemas(batch);
+    const ParametersEngine engine(loadedEngine); // one whose lists nobody has asked for
+    std::vector<std::string> pictures(threadCount);
+    inThreads([&](int i) { pictures[static_cast<std::size_t>(i)] = pictureOf(engine); });
+    EXPECT_EQ(pictures, std::vector<std::string>(threadCount, pictureOf(engine)));
+    EXPECT_EQ(engine.findUnresolvable().size(), 0U);
 }
 
 TEST(Threads, AskForTheSameListAtOnce) {
