@@ -110,7 +110,7 @@ Enumeration EnumerationKind::build(const Record& record, const Finder& finder) {
 
 std::string EnumerationKind::write(const Enumeration& enumeration) {
     const EnumerationData& data = Access::data(enumeration);
-    Ostra::SchemaWriter writer(data.typeId(), Ostra::BuiltIn::enumeration, ValidationExceptionFactory::shared());
+    Ostra::SchemaWriter writer(data.typeId(), Ostra::BuiltIn::enumeration, *ValidationExceptionFactory::shared());
     for (std::size_t value = 0; value < data.integers.size(); ++value) {
         writer.property(data.identifier(value)).integer(data.integers[value]);
     }

@@ -88,7 +88,7 @@ public:
         if (base.isIn(typeIdOf(range))) {
             return {std::nullopt, range};
         }
-        return {typeIdOf(range), std::nullopt};
+        return {typeIdOf(range), Access::none<Object>()};
     }
 
     /// Writes the range constant of a parameter. A range without bounds is what stands there when nothing is written.

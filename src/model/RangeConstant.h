@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Access.h"
 #include "schema/BuiltIn.h"
 #include "schema/JSON.h"
 #include "schema/Schema.h"
@@ -14,7 +15,7 @@ namespace Parameters::Internal {
 template <class Range>
 struct RangeReference {
     std::optional<std::string_view> named; // the typeid of a range that must be registered
-    std::optional<Range> own;              // inline, default, or given in code
+    Range own;                             // inline, default, or given in code; none when one is named
 };
 
 /// A base of ranges that a parameter's schema may write inline, and how the inline value is read.
@@ -43,10 +44,10 @@ RangeReference<Range> readRangeConstant(const Ostra::Schema& schema, Ostra::JSON
         }
     }
     if (own) {
-        return {std::nullopt, own};
+        return {std::nullopt, *own};
     }
     refuseInlineValue(typeId, typedValue);
-    return {typeId, std::nullopt};
+    return {typeId, Access::none<Range>()};
 }
 
 } // namespace Parameters::Internal

@@ -103,6 +103,7 @@ std::string JSONView::toText() const { return ValueWriter().write(*value_); }
 
 void JSONView::fail(const std::string& message) const { factory_->raise(message); }
 
+// NOLINTNEXTLINE(bugprone-throw-keyword-missing): what is made of the factory is no exception
 JSON::JSON(std::string_view text, std::shared_ptr<const ExceptionFactory> factory) : factory_(std::move(factory)) {
     if (const auto result = parseText(text, memory_.pool(), value_); result.IsError()) {
         factory_->raise("JSON parsing error at offset " + std::to_string(result.Offset()) + ": " +

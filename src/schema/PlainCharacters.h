@@ -36,6 +36,9 @@ constexpr std::uint64_t othersIn(std::uint64_t word) {
 
 /// True when all characters are plain.
 inline bool areAll(std::string_view string) {
+    if (string.empty()) {
+        return true; // perhaps a null pointer, which memcpy refuses
+    }
     if (string.size() < wordSize) {
         std::uint64_t word = Detail::each * ' ';
         std::memcpy(&word, string.data(), string.size());

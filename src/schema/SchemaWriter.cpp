@@ -2,13 +2,11 @@
 
 #include <cmath>
 #include <stdexcept>
-#include <utility>
 
 namespace Ostra {
 
-SchemaWriter::SchemaWriter(std::string_view typeId, std::string_view base,
-                           std::shared_ptr<const ExceptionFactory> factory)
-    : typeId_(typeId), factory_(std::move(factory)) {
+SchemaWriter::SchemaWriter(std::string_view typeId, std::string_view base, const ExceptionFactory& factory)
+    : typeId_(typeId), factory_(factory) {
     beginObject();
     name("typeid");
     string(typeId);
@@ -20,7 +18,7 @@ SchemaWriter::SchemaWriter(std::string_view typeId, std::string_view base,
 
 void SchemaWriter::number(double value) {
     if (!std::isfinite(value)) {
-        factory_->raise("Schema " + std::string(typeId_) + " has a number that is not finite.");
+        factory_.raise("Schema " + std::string(typeId_) + " has a number that is not finite.");
     }
     JSONWriter::number(value);
 }

@@ -3,7 +3,6 @@
 #include "schema/ExceptionFactory.h"
 #include "schema/JSONWriter.h"
 
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -15,8 +14,8 @@ namespace Ostra {
 /// What adds a definition returns the writer, which then takes the definition's value.
 class SchemaWriter : private JSONWriter {
 public:
-    /// Faults of what is written are raised through the factory.
-    SchemaWriter(std::string_view typeId, std::string_view base, std::shared_ptr<const ExceptionFactory> factory);
+    /// Faults of what is written are raised through the factory, which must live as long as the writer.
+    SchemaWriter(std::string_view typeId, std::string_view base, const ExceptionFactory& factory);
 
     /// Adds the constant {"id": id, "value": ...}.
     SchemaWriter& constant(std::string_view id) { return define("constants", id, "value"); }
@@ -50,7 +49,7 @@ private:
     void endTable();
 
     std::string_view typeId_;
-    std::shared_ptr<const ExceptionFactory> factory_;
+    const ExceptionFactory& factory_;
     std::string_view table_; // that is being written, if any
 };
 

@@ -303,7 +303,7 @@ TEST(Parsing, AsksForNoMemoryForASchemaText) {
 
 // Around the depth at which the recursive parser gives way to the iterative one.
 TEST(Parsing, ReadsTextsOfAnyDepth) {
-    for (int depth = 1; depth < 100; ++depth) {
+    for (std::size_t depth = 1; depth < 100; ++depth) {
         const std::string text = repeated("[{\"a\":", depth) + "1.5" + repeated("}]", depth);
         EXPECT_EQ(parse(text).toText(), text);
         EXPECT_EQ(refusalOf(text + "]"), "JSON parsing error at offset " + std::to_string(text.size()) +
