@@ -92,6 +92,16 @@ TEST_P(BuiltInIdentifier, IsInALongerText) {
     EXPECT_TRUE(GetParam().identifier.isIn(longer));
 }
 
+TEST_P(BuiltInIdentifier, BeginsTextsWithItsPrefixAlone) {
+    const std::string prefix(GetParam().prefix);
+    EXPECT_TRUE(GetParam().identifier.begins(prefix));
+    EXPECT_TRUE(GetParam().identifier.begins(prefix + "27.3"));
+    EXPECT_FALSE(GetParam().identifier.begins("x" + prefix));
+    EXPECT_FALSE(GetParam().identifier.begins(prefix.substr(0, prefix.size() - 1)));
+    EXPECT_FALSE(GetParam().identifier.begins("?" + prefix.substr(1)));
+    EXPECT_FALSE(GetParam().identifier.begins(""));
+}
+
 TEST_P(BuiltInIdentifier, IsNotInItsPrefixWithoutTheDot) {
     EXPECT_FALSE(GetParam().identifier.isIn(GetParam().prefix.substr(0, GetParam().prefix.size() - 1)));
 }
@@ -166,6 +176,27 @@ INSTANTIATE_TEST_SUITE_P(Several, OrdinaryTypeId,
                          [](const auto& test) { return std::string(test.param.name); });
 
 TEST(Enumeration, IsABareWord) { EXPECT_EQ(enumeration, "Enum"); }
+
+TEST(FindStart, FindsEachPlaceWhereAnIdentifierMayBegin) {
+    const std::string_view typeId = "xnorvex norvex.xnorvex.";
+    EXPECT_EQ(findStart(typeId), 8U);
+    EXPECT_EQ(findStart(typeId, 8), 8U);
+    EXPECT_EQ(findStart(typeId, 9), 16U);
+    EXPECT_EQ(findStart(typeId, 17), std::string_view::npos);
+}
+
+TEST(FindStart, FindsNothingInOtherTexts) {
+    for (const std::string_view typeId : {"", "x", "vex.", "norvex", "norve.x", "orvex.", "Norvex.", "plant.x-1.0.0"}) {
+        EXPECT_EQ(findStart(typeId), std::string_view::npos) << typeId;
+        EXPECT_EQ(findStart(typeId, 100), std::string_view::npos) << typeId;
+    }
+}
+
+TEST(IsReserved, LooksAtEveryPlaceWhereAnIdentifierMayBegin) {
+    EXPECT_TRUE(isReserved("norvex.x norvex.spec:spec-1.0.0 norvex.parameter:group-1.0.0"));
+    EXPECT_TRUE(isReserved("norvex.norvex.parameter:group-1."));
+    EXPECT_FALSE(isReserved("norvex.x norvex.spec:spec-1.0.0 norvex.parameter:group-2.0.0"));
+}
 
 } // namespace
 
