@@ -3,7 +3,6 @@
 #include "IntParameters.h"
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
-#include "support/Messages.h"
 #include "support/Refusal.h"
 #include "support/SchemaTexts.h"
 
@@ -15,75 +14,33 @@
 #include <ostream>
 #include <string>
 
+// What integer parameters do not share with string parameters; see RangedParameterTest.cpp.
+
 namespace {
 
 using namespace IntParameters;
-using Parameters::ValidationException;
 using Support::engineOf;
-using Support::messageOf;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
 using Support::typedConstant;
 
-TEST(IntParameter, KeepsWhatItIsMadeWith) {
-    const IntParameter parameter(coreOf("p", "g"), specOf("s"), IntRange("r", true, 1, false, 2));
-    EXPECT_EQ(parameter.getCore().getTypeId(), "p");
-    EXPECT_EQ(parameter.getCore().getGroup().getTypeId(), "g");
-    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), "s");
+TEST(IntParameter, KeepsItsOwnBuiltInSpecAndRange) {
+    ParametersEngine engine;
+    engine.registerIntParameter({coreOf("p"), specOf("norvex.spec:spec.int64-2.5.0"),
+                                 IntRange("norvex.range:range.int64.bounded.static-1.3.0", true, 1, false, 2)});
+    const IntParameter parameter = engine.getIntParameter("p");
+    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), "norvex.spec:spec.int64-2.5.0");
     EXPECT_EQ(parameter.getSpec().getCore().getName(), "Spec");
-    expectRange(parameter.getRange(), "r", true, 1, false, 2);
+    expectRange(parameter.getRange(), "norvex.range:range.int64.bounded.static-1.3.0", true, 1, false, 2);
 }
 
-TEST(IntParameter, HasTheBuiltInSpecWhenItIsGivenNone) {
-    const IntParameter parameter(coreOf("p"), oneToTwo);
-    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), builtInSpec);
+TEST(IntParameter, KeepsTheVersionOfTheBuiltInSpecThatItsSchemaNamesWhenItIsRead) {
+    const IntParameter parameter =
+        ParametersEngine().readIntParameter(textOf(typedConstant("spec", "norvex.spec:spec.int64-2.3.0")));
+    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), "norvex.spec:spec.int64-2.3.0");
     EXPECT_EQ(parameter.getSpec().getCore().getName(), "Integer");
-    EXPECT_EQ(parameter.getSpec().getCore().getDiscipline().getName(), "Common");
-    expectRange(parameter.getRange(), builtInRange, true, 1, true, 2);
-}
-
-TEST(IntParameter, HasDefaultsForAllButItsName) {
-    const IntParameter parameter = resolved(textOf());
-    EXPECT_EQ(parameter.getCore().getName(), "Name");
-    EXPECT_EQ(parameter.getCore().getDescription(), "");
-    EXPECT_EQ(parameter.getCore().getSampleText(), "");
-    EXPECT_EQ(parameter.getCore().getGroup().getTypeId(), "norvex.parameter:group-1.0.0");
-    EXPECT_EQ(parameter.getCore().getGroup().getName(), "Other");
-    EXPECT_FALSE(parameter.getCore().isReadOnly());
-    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), builtInSpec);
-    EXPECT_EQ(parameter.getSpec().getCore().getName(), "Integer");
-    expectRange(parameter.getRange(), builtInRange, false, 0, false, 0);
-}
-
-TEST(IntParameter, TakesAllItsConstants) {
-    const IntParameter parameter = resolved(
-        textOf(R"({"id": "range", "typedValue": {"typeid": "r"}}, {"id": "spec", "typedValue": {"typeid": "s"}},
-                  {"id": "readOnly", "value": true}, {"id": "group", "typedValue": {"typeid": "g"}},
-                  {"id": "sampleText", "value": "7"}, {"id": "description", "value": "About it"})"));
-    EXPECT_EQ(parameter.getCore().getDescription(), "About it");
-    EXPECT_EQ(parameter.getCore().getSampleText(), "7");
-    EXPECT_EQ(parameter.getCore().getGroup().getName(), "The group");
-    EXPECT_TRUE(parameter.getCore().isReadOnly());
-    EXPECT_EQ(parameter.getSpec().getCore().getName(), "The spec");
-    expectRange(parameter.getRange(), "r", true, -4, true, 8);
-}
-
-TEST(IntParameter, HasItsNameBeforeAllElse) {
-    EXPECT_EQ(refusalOf(Support::schemaText("p", "norvex.parameter:parameter.int64-3.0.0",
-                                            R"({"id": "spec", "typedValue": 5}, {"id": "range", "typedValue": 5})")),
-              "Schema p has an undefined name constant.");
-}
-
-TEST(IntParameter, InheritsAnyMinorVersionOfItsBaseAlone) {
-    const std::string constants = R"({"id": "name", "value": "Name"})";
-    const auto base = [&](const char* version) {
-        return Support::schemaText("p", std::string("norvex.parameter:parameter.int64-") + version, constants);
-    };
-    EXPECT_EQ(engineOf({base("3.7.1")}).getIntParameter("p").getCore().getName(), "Name");
-    EXPECT_EQ(refusalOf(base("2.0.0")), "Inheritance from an unrecognized base schema.");
-    EXPECT_EQ(messageOf<ValidationException>([&] { ParametersEngine().readIntParameter(base("2.0.0")); }),
-              "Inheritance from an incorrect base schema.");
+    EXPECT_EQ(parameter.getSpec().getCore().getDiscipline().getTypeId(), "norvex.spec:discipline-1.0.0");
 }
 
 struct Inline {

@@ -21,7 +21,6 @@ using Parameters::Taxon;
 
 inline constexpr const char* builtInSpec = "norvex.spec:spec.int64-2.0.0";
 inline constexpr const char* builtInRange = "norvex.range:range.int64.bounded.static-1.0.0";
-inline const IntRange oneToTwo(true, 1, true, 2);
 
 inline ParameterCore coreOf(const std::string& typeId, const std::string& group = "norvex.parameter:group-1.0.0") {
     return {typeId, "Name", Taxon(group, "Group"), "", "", false};

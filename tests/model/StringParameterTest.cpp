@@ -4,7 +4,6 @@
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
 #include "support/Fault.h"
-#include "support/Messages.h"
 #include "support/Refusal.h"
 #include "support/SchemaTexts.h"
 
@@ -16,13 +15,12 @@
 #include <string>
 #include <vector>
 
+// What string parameters do not share with integer parameters; see RangedParameterTest.cpp.
+
 namespace {
 
 using namespace StringParameters;
-using Parameters::ValidationException;
-using Support::engineOf;
 using Support::Fault;
-using Support::messageOf;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
@@ -32,59 +30,6 @@ const char* const setAndRegexBase = "norvex.range:range.string.set.static-1.0.0 
 const char* const regexAndSetBase = "norvex.range:range.string.regex-1.0.0 norvex.range:range.string.set.static-1.0.0";
 const char* const defaultAndSetBase = "norvex.range:range.string.set.static-1.0.0 norvex.range:range.string-1.0.0";
 const char* const defaultAndRegexBase = "norvex.range:range.string-1.0.0 norvex.range:range.string.regex-1.0.0";
-
-TEST(StringParameter, KeepsWhatItIsMadeWith) {
-    const StringParameter parameter(coreOf("p", "g"), specOf("s"), setOf("r", {"b", "a"}));
-    EXPECT_EQ(parameter.getCore().getTypeId(), "p");
-    EXPECT_EQ(parameter.getCore().getGroup().getTypeId(), "g");
-    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), "s");
-    EXPECT_EQ(parameter.getSpec().getCore().getName(), "Spec");
-    expectSet(parameter.getRange(), "r", {"b", "a"});
-}
-
-TEST(StringParameter, HasTheBuiltInSpecWhenItIsGivenNone) {
-    const StringParameter parameter(coreOf("p"), StringRange());
-    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), builtInSpec);
-    EXPECT_EQ(parameter.getSpec().getCore().getName(), "Text");
-    EXPECT_EQ(parameter.getSpec().getCore().getDiscipline().getName(), "Common");
-    expectAnyText(parameter.getRange(), defaultBase);
-}
-
-TEST(StringParameter, HasDefaultsForAllButItsName) {
-    const StringParameter parameter = resolved(textOf());
-    EXPECT_EQ(parameter.getCore().getName(), "Name");
-    EXPECT_EQ(parameter.getCore().getDescription(), "");
-    EXPECT_EQ(parameter.getCore().getSampleText(), "");
-    EXPECT_EQ(parameter.getCore().getGroup().getTypeId(), "norvex.parameter:group-1.0.0");
-    EXPECT_EQ(parameter.getCore().getGroup().getName(), "Other");
-    EXPECT_FALSE(parameter.getCore().isReadOnly());
-    EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), builtInSpec);
-    EXPECT_EQ(parameter.getSpec().getCore().getName(), "Text");
-    expectAnyText(parameter.getRange(), defaultBase);
-}
-
-TEST(StringParameter, TakesAllItsConstants) {
-    const StringParameter parameter = resolved(
-        textOf(R"({"id": "range", "typedValue": {"typeid": "set"}}, {"id": "spec", "typedValue": {"typeid": "s"}},
-                  {"id": "readOnly", "value": true}, {"id": "group", "typedValue": {"typeid": "g"}},
-                  {"id": "sampleText", "value": "b"}, {"id": "description", "value": "About it"})"));
-    EXPECT_EQ(parameter.getCore().getDescription(), "About it");
-    EXPECT_EQ(parameter.getCore().getSampleText(), "b");
-    EXPECT_EQ(parameter.getCore().getGroup().getName(), "The group");
-    EXPECT_TRUE(parameter.getCore().isReadOnly());
-    EXPECT_EQ(parameter.getSpec().getCore().getName(), "The spec");
-    expectSet(parameter.getRange(), "set", {"b", "a"});
-}
-
-TEST(StringParameter, InheritsAnyMinorVersionOfItsBaseAlone) {
-    const auto base = [](const char* version) {
-        return Support::namedText("p", std::string("norvex.parameter:parameter.string-") + version, "Name");
-    };
-    EXPECT_EQ(engineOf({base("3.7.1")}).getStringParameter("p").getCore().getName(), "Name");
-    EXPECT_EQ(refusalOf(base("2.0.0")), "Inheritance from an unrecognized base schema.");
-    EXPECT_EQ(messageOf<ValidationException>([&] { ParametersEngine().readStringParameter(base("2.0.0")); }),
-              "Inheritance from an incorrect base schema.");
-}
 
 TEST(StringParameter, HasAnInlineSetAsItsRange) {
     const std::string text = inlineText("norvex.range:range.string.set.static-1.4.2",
@@ -125,6 +70,7 @@ TEST(StringParameter, HasARegisteredRangeWhateverThatAllows) {
     expectRegex(resolved(textOf(typedConstant("range", "regex"))).getRange(), "regex", "a*");
     expectAnyText(resolved(textOf(typedConstant("range", "any"))).getRange(), "any");
     expectSet(stocked().readStringParameter(textOf(typedConstant("range", "empty"))).getRange(), "empty", {});
+    expectRegex(stocked().readStringParameter(textOf(typedConstant("range", "regex"))).getRange(), "regex", "a*");
     expectAnyText(stocked().readStringParameter(textOf(typedConstant("range", "any"))).getRange(), "any");
 }
 
@@ -183,6 +129,114 @@ TEST_P(StringParameterInlineFault, LeavesTheParameterWithoutAValueType) {
 
 INSTANTIATE_TEST_SUITE_P(StringParameter, StringParameterInlineFault, testing::ValuesIn(inlineFaults),
                          Support::nameOfFault);
+
+struct UnfitRange {
+    const char* name;
+    const char* group;
+    const char* spec;
+    StringRange range;
+    const char* message;
+
+    friend void PrintTo(const UnfitRange& row, std::ostream* out) { *out << row.name; }
+};
+
+const UnfitRange unfitRanges[] = {
+    {"DefaultWithSet", "g", "s", setOf("norvex.range:range.string-1.4.0", {"a"}),
+     "String range using base schema typeid norvex.range:range.string-1.4.0 may not specify a limited range of "
+     "values."},
+    {"DefaultWithEmptySet", "g", "s", setOf("norvex.range:range.string-1.0.0", {}),
+     "String range using base schema typeid norvex.range:range.string-1.0.0 may not specify a limited range of "
+     "values."},
+    {"DefaultWithExpression", "g", "s", regexOf("my norvex.range:range.string-1.x", "a"),
+     "String range using base schema typeid my norvex.range:range.string-1.x may not specify a limited range of "
+     "values."},
+    {"SetWithExpression", "g", "s", regexOf("norvex.range:range.string.set.static-1.0.0", "a"),
+     "String range using base schema typeid norvex.range:range.string.set.static-1.0.0 must specify an explicit set of "
+     "allowed values."},
+    {"SetWithoutValues", "g", "s", setOf("norvex.range:range.string.set.static-1.4.2", {}),
+     "String range using base schema typeid norvex.range:range.string.set.static-1.4.2 must specify an explicit set of "
+     "allowed values."},
+    {"RegexWithSet", "g", "s", setOf("norvex.range:range.string.regex-1.3.0", {"a"}),
+     "String range using base schema typeid norvex.range:range.string.regex-1.3.0 must specify a regular expression "
+     "matching permitted values."},
+    {"DefaultBeforeSet", "g", "s",
+     regexOf("norvex.range:range.string.set.static-1.0.0 norvex.range:range.string-1.0.0", "a"),
+     "String range using base schema typeid norvex.range:range.string.set.static-1.0.0 "
+     "norvex.range:range.string-1.0.0 may not specify a limited range of values."},
+    {"SetBeforeRegex", "g", "s",
+     regexOf("norvex.range:range.string.regex-1.0.0 norvex.range:range.string.set.static-1.0.0", "a"),
+     "String range using base schema typeid norvex.range:range.string.regex-1.0.0 "
+     "norvex.range:range.string.set.static-1.0.0 must specify an explicit set of allowed values."},
+    {"RegexBehindSet", "g", "s",
+     setOf("norvex.range:range.string.set.static-1.0.0 norvex.range:range.string.regex-1.0.0", {"a"}),
+     "String range using base schema typeid norvex.range:range.string.set.static-1.0.0 "
+     "norvex.range:range.string.regex-1.0.0 must specify a regular expression matching permitted values."},
+    {"RepeatedValue", "g", "s", setOf("norvex.range:range.string.set.static-1.0.0", {"a", "b", "c", "b", "a"}),
+     "Value b must appear only once."},
+    {"RepeatedValueOfANamedRange", "g", "s", setOf("set", {"a", "a"}), "Value a must appear only once."},
+    {"RepeatedValueBeforeTheBase", "g", "s", setOf("norvex.range:range.string-1.0.0", {"a", "a"}),
+     "Value a must appear only once."},
+    {"RepeatedValueBeforeRange", "g", "x", setOf("y", {"a", "a"}), "Value a must appear only once."},
+    {"GroupBeforeRepeatedValue", "x", "s", setOf("set", {"a", "a"}), "Could not find group with typeid x."},
+    {"GroupBeforeTheBase", "x", "s", setOf("norvex.range:range.string-1.4.0", {"a"}),
+     "Could not find group with typeid x."},
+    {"TheBaseBeforeSpec", "g", "x", regexOf("norvex.range:range.string-1.4.0", "a"),
+     "String range using base schema typeid norvex.range:range.string-1.4.0 may not specify a limited range of "
+     "values."},
+};
+
+struct UnfitStringRange : testing::TestWithParam<UnfitRange> {
+    const StringParameter parameter{coreOf("p", GetParam().group), specOf(GetParam().spec), GetParam().range};
+    ParametersEngine engine = stocked();
+};
+
+TEST_P(UnfitStringRange, FailsRegistration) {
+    EXPECT_EQ(refusalBy(engine, [&] { engine.registerStringParameter(parameter); }), GetParam().message);
+}
+
+TEST_P(UnfitStringRange, FailsWriting) {
+    EXPECT_EQ(refusalBy(engine, [&] { engine.getSchema(parameter); }), GetParam().message);
+}
+
+TEST_P(UnfitStringRange, FailsTheQuestionForDependencies) {
+    EXPECT_EQ(refusalBy(engine, [&] { engine.getDependencies(parameter); }), GetParam().message);
+}
+
+INSTANTIATE_TEST_SUITE_P(StringParameter, UnfitStringRange, testing::ValuesIn(unfitRanges),
+                         [](const auto& test) { return test.param.name; });
+
+TEST(StringParameter, HasItsTypeIdCheckedBeforeItsRange) {
+    const StringParameter unnamed(coreOf("", "x"), specOf("y"), setOf("z", {"a", "a"}));
+    const StringParameter known(coreOf("g", "x"), specOf("y"), setOf("z", {"a", "a"}));
+    ParametersEngine engine = stocked();
+    EXPECT_EQ(refusalBy(engine, [&] { engine.registerStringParameter(unnamed); }), "Typeid must not be empty.");
+    EXPECT_EQ(refusalBy(engine, [&] { engine.getSchema(known); }), "Schema with typeid g is already registered.");
+    EXPECT_EQ(refusalBy(engine, [&] { engine.getDependencies(known); }), "Schema with typeid g is already registered.");
+}
+
+TEST(StringParameter, KeepsItsOwnRangeOfAnyVersionOfABase) {
+    ParametersEngine engine;
+    engine.registerStringParameter({coreOf("set"), setOf("norvex.range:range.string.set.static-1.4.2", {"b", "a"})});
+    engine.registerStringParameter({coreOf("regex"), regexOf("my norvex.range:range.string.regex-1.x", "((")});
+    engine.registerStringParameter({coreOf("any"), StringRange()});
+    expectSet(engine.getStringParameter("set").getRange(), "norvex.range:range.string.set.static-1.4.2", {"b", "a"});
+    expectRegex(engine.getStringParameter("regex").getRange(), "my norvex.range:range.string.regex-1.x", "((");
+    expectAnyText(engine.getStringParameter("any").getRange(), defaultBase);
+}
+
+TEST(StringParameter, IsBoundToTheFullBuiltInSpecWhateverVersionItHas) {
+    ParametersEngine engine;
+    engine.registerStringParameter({coreOf("p"), specOf("norvex.spec:spec.string-2.3.0"), StringRange()});
+    for (const StringParameter& parameter :
+         {engine.getStringParameter("p"),
+          engine.readStringParameter(Support::schemaText(
+              "q", "norvex.parameter:parameter.string-3.0.0",
+              R"({"id": "name", "value": "Name"}, )" + typedConstant("spec", "norvex.spec:spec.string-2.3.0")))}) {
+        EXPECT_EQ(parameter.getSpec().getCore().getTypeId(), builtInSpec);
+        EXPECT_EQ(parameter.getSpec().getCore().getName(), "Text");
+        EXPECT_EQ(parameter.getSpec().getCore().getDiscipline().getTypeId(), "norvex.spec:discipline-1.0.0");
+    }
+}
 
 TEST(StringParameter, HasItsValueType) {
     const ParametersEngine engine;
