@@ -184,7 +184,8 @@ const TypeIdFault typeIdFaults[] = {
 struct RangedParameterTypeId : testing::TestWithParam<std::tuple<KindOfParameter, TypeIdFault>> {};
 
 TEST_P(RangedParameterTypeId, IsCheckedFirst) {
-    const auto& [kind, fault] = GetParam();
+    const KindOfParameter& kind = std::get<0>(GetParam());
+    const TypeIdFault& fault = std::get<1>(GetParam());
     const NamingFault allMissing{"", "x", "y", "z", "", ""};
     ParametersEngine engine = kind.stocked();
     EXPECT_EQ(refusalBy(engine, [&] { kind.add(engine, fault.typeId, allMissing); }), fault.message);
