@@ -52,10 +52,10 @@ struct HostileTypeId : testing::TestWithParam<Hostile> {
 TEST_P(HostileTypeId, IsFoundInEveryKind) {
     for (const KindOperations& kind : everyKind) {
         engine = ParametersEngine();
-        kind.add(engine, "x", "Another");
-        kind.add(engine, typeId, "Hostile");
-        EXPECT_EQ(kind.nameOf(engine, typeId), "Hostile") << kind.name;
-        EXPECT_EQ(kind.nameOf(engine, "x"), "Another") << kind.name;
+        kind.add(engine, "x", "1");
+        kind.add(engine, typeId, "2");
+        EXPECT_EQ(kind.contentOf(engine, typeId), "2") << kind.name;
+        EXPECT_EQ(kind.contentOf(engine, "x"), "1") << kind.name;
         EXPECT_EQ(kind.typeIds(engine).size(), 2U) << kind.name;
         EXPECT_TRUE(engine.isRegistered(typeId)) << kind.name;
         EXPECT_FALSE(engine.isRegistered(typeId + '\0')) << kind.name;

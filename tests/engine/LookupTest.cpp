@@ -26,7 +26,7 @@ using Support::messageOf;
 
 struct LookupOfEachKind : testing::TestWithParam<KindOperations> {
     std::string messageOfLookingUpX() const {
-        return messageOf<UnrecognizedIdentifierException>([&] { GetParam().nameOf(engine, "x"); });
+        return messageOf<UnrecognizedIdentifierException>([&] { GetParam().contentOf(engine, "x"); });
     }
 
     ParametersEngine engine;
@@ -39,15 +39,15 @@ TEST_P(LookupOfEachKind, SaysWhatItDoesNotFindInAnEmptyEngine) {
 }
 
 TEST_P(LookupOfEachKind, FindsWhatWasRegistered) {
-    GetParam().add(engine, "x", "The X");
-    GetParam().add(engine, "y", "The Y");
-    EXPECT_EQ(GetParam().nameOf(engine, "x"), "The X");
-    EXPECT_EQ(GetParam().nameOf(engine, "y"), "The Y");
+    GetParam().add(engine, "x", "1");
+    GetParam().add(engine, "y", "2");
+    EXPECT_EQ(GetParam().contentOf(engine, "x"), "1");
+    EXPECT_EQ(GetParam().contentOf(engine, "y"), "2");
 }
 
 TEST_P(LookupOfEachKind, TakesTheWholeTypeId) {
-    GetParam().add(engine, "xx", "Longer");
-    GetParam().add(engine, "X", "Other case");
+    GetParam().add(engine, "xx", "1");
+    GetParam().add(engine, "X", "2");
     EXPECT_EQ(messageOfLookingUpX(), GetParam().unknownX);
 }
 
@@ -57,29 +57,29 @@ TEST_P(LookupOfEachKind, DoesNotFindObjectsOfOtherKinds) {
             continue;
         }
         engine = ParametersEngine();
-        other.add(engine, "x", "Name");
+        other.add(engine, "x", "1");
         EXPECT_EQ(messageOfLookingUpX(), GetParam().unknownX) << other.name;
         EXPECT_TRUE(GetParam().typeIds(engine).empty()) << other.name;
     }
 }
 
 TEST_P(LookupOfEachKind, DoesNotFindWhatIsPending) {
-    engine.registerSchema(Support::namedText("x", GetParam().base, "Name"));
+    engine.registerSchema(GetParam().text("x"));
     EXPECT_TRUE(engine.isRegistered("x"));
     EXPECT_EQ(messageOfLookingUpX(), GetParam().unknownX);
     EXPECT_TRUE(GetParam().typeIds(engine).empty());
 }
 
 TEST_P(LookupOfEachKind, FindsWhatWasResolved) {
-    engine.registerSchema(Support::namedText("x", GetParam().base, "The X"));
+    engine.registerSchema(GetParam().text("x", "1"));
     engine.resolveSchemas();
-    EXPECT_EQ(GetParam().nameOf(engine, "x"), "The X");
+    EXPECT_EQ(GetParam().contentOf(engine, "x"), "1");
     EXPECT_EQ(GetParam().typeIds(engine), std::vector<std::string>{"x"});
 }
 
 TEST_P(LookupOfEachKind, ListsByTheBytesOfTheTypeIds) {
     for (const std::string& typeId : {"b"s, "\xff"s, "ab"s, "a"s, "a\0"s, " "s, "\x7f"s, "B"s, "a\0b"s}) {
-        GetParam().add(engine, typeId, "Name");
+        GetParam().add(engine, typeId, "1");
     }
     EXPECT_EQ(GetParam().typeIds(engine),
               (std::vector<std::string>{" "s, "B"s, "a"s, "a\0"s, "a\0b"s, "ab"s, "b"s, "\x7f"s, "\xff"s}));
@@ -89,7 +89,7 @@ TEST_P(LookupOfEachKind, ListsByBytesHoweverOftenItIsAskedWhileTheListGrows) {
     std::set<std::string> expected;
     for (unsigned i = 0; i < 200; ++i) {
         const std::string typeId = "x" + std::to_string(i * 73 % 200);
-        GetParam().add(engine, typeId, "Name");
+        GetParam().add(engine, typeId, "1");
         expected.insert(typeId);
         if (i % 7 < 3) { // one at a time, then several
             ASSERT_EQ(GetParam().typeIds(engine), std::vector<std::string>(expected.begin(), expected.end()));
@@ -98,19 +98,19 @@ TEST_P(LookupOfEachKind, ListsByBytesHoweverOftenItIsAskedWhileTheListGrows) {
 }
 
 TEST_P(LookupOfEachKind, ListsObjectsOfCodeAndOfSchemasTogether) {
-    GetParam().add(engine, "b", "From code");
-    engine.registerSchemas({{"c", Support::namedText("c", GetParam().base, "From a schema")}});
-    GetParam().add(engine, "a", "From code");
+    GetParam().add(engine, "b", "1");
+    engine.registerSchemas({{"c", GetParam().text("c", "3")}});
+    GetParam().add(engine, "a", "2");
     EXPECT_EQ(GetParam().typeIds(engine), (std::vector<std::string>{"a", "b", "c"}));
-    EXPECT_EQ(GetParam().nameOf(engine, "c"), "From a schema");
+    EXPECT_EQ(GetParam().contentOf(engine, "c"), "3");
 }
 
 TEST_P(LookupOfEachKind, FindsEachOfManyObjects) {
     for (int i = 0; i < 2000; ++i) {
-        GetParam().add(engine, "object " + std::to_string(i), "Name " + std::to_string(i));
+        GetParam().add(engine, "object " + std::to_string(i), std::to_string(i));
     }
     for (int i = 0; i < 2000; ++i) {
-        ASSERT_EQ(GetParam().nameOf(engine, "object " + std::to_string(i)), "Name " + std::to_string(i));
+        ASSERT_EQ(GetParam().contentOf(engine, "object " + std::to_string(i)), std::to_string(i));
     }
 }
 
@@ -197,11 +197,11 @@ struct BuiltInObject : testing::TestWithParam<BuiltIn> {
 };
 
 TEST_P(BuiltInObject, AnswersForItsIdentifierWithItsName) {
-    EXPECT_EQ(kind().nameOf(engine, GetParam().typeId), GetParam().displayName);
+    EXPECT_EQ(kind().contentOf(engine, GetParam().typeId), GetParam().displayName);
 }
 
 TEST_P(BuiltInObject, IsNotListed) {
-    kind().nameOf(engine, GetParam().typeId);
+    kind().contentOf(engine, GetParam().typeId);
     EXPECT_TRUE(kind().typeIds(engine).empty());
 }
 

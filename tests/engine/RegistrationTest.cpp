@@ -24,7 +24,7 @@ using Support::pictureOf;
 
 struct RegistrationOfEachKind : testing::TestWithParam<KindOperations> {
     std::string messageOfAdding(const std::string& typeId) {
-        return messageOf<ValidationException>([&] { GetParam().add(engine, typeId, "Second"); });
+        return messageOf<ValidationException>([&] { GetParam().add(engine, typeId, "2"); });
     }
 
     ParametersEngine engine;
@@ -38,7 +38,7 @@ TEST_P(RegistrationOfEachKind, RefusesTheEmptyTypeId) {
 TEST_P(RegistrationOfEachKind, RefusesATypeIdOfAnyKind) {
     for (const KindOperations& first : everyKind) {
         engine = ParametersEngine();
-        first.add(engine, "x", "First");
+        first.add(engine, "x", "1");
         const std::string before = pictureOf(engine);
         EXPECT_EQ(messageOfAdding("x"), "Schema with typeid x is already registered.") << first.name;
         EXPECT_EQ(pictureOf(engine), before) << first.name;
@@ -48,10 +48,10 @@ TEST_P(RegistrationOfEachKind, RefusesATypeIdOfAnyKind) {
 TEST_P(RegistrationOfEachKind, RefusesTheTypeIdOfAPendingSchemaOfAnyKind) {
     for (const KindOperations& first : everyKind) {
         engine = ParametersEngine();
-        engine.registerSchema(Support::namedText("x", first.base, "First"));
+        engine.registerSchema(first.text("x", "1"));
         EXPECT_EQ(messageOfAdding("x"), "Schema with typeid x is already registered.") << first.name;
         engine.resolveSchemas();
-        EXPECT_EQ(first.nameOf(engine, "x"), "First") << first.name;
+        EXPECT_EQ(first.contentOf(engine, "x"), "1") << first.name;
     }
 }
 
@@ -72,30 +72,33 @@ TEST_P(RegistrationOfEachKind, RefusesBuiltInIdentifiers) {
 }
 
 TEST_P(RegistrationOfEachKind, TakesBasesThatAreNoBuiltInObjects) {
-    GetParam().add(engine, "norvex.talmo.category:domain-1.0.0", "Ours");
-    EXPECT_EQ(GetParam().nameOf(engine, "norvex.talmo.category:domain-1.0.0"), "Ours");
-}
-
-TEST_P(RegistrationOfEachKind, TakesAnyName) {
-    GetParam().add(engine, "x", "");
-    EXPECT_EQ(GetParam().nameOf(engine, "x"), "");
+    GetParam().add(engine, "norvex.talmo.category:domain-1.0.0", "1");
+    EXPECT_EQ(GetParam().contentOf(engine, "norvex.talmo.category:domain-1.0.0"), "1");
 }
 
 TEST_P(RegistrationOfEachKind, RefusesASchemaOfTheSameTypeIdAfterwards) {
-    GetParam().add(engine, "x", "First");
+    GetParam().add(engine, "x", "1");
     EXPECT_EQ(messageOf<ValidationException>([&] { engine.registerSchema(Support::disciplineText("x")); }),
               "Schema with typeid x is already registered.");
 }
 
 TEST_P(RegistrationOfEachKind, LeavesPendingSchemasPending) {
     engine.registerSchema(Support::disciplineText("pending"));
-    GetParam().add(engine, "x", "Name");
+    GetParam().add(engine, "x", "1");
     EXPECT_TRUE(engine.isRegistered("pending"));
     EXPECT_EQ(messageOf<Parameters::UnrecognizedIdentifierException>([&] { engine.getDiscipline("pending"); }),
               "Could not find discipline with typeid pending.");
 }
 
+struct RegistrationByName : RegistrationOfEachKind {};
+
+TEST_P(RegistrationByName, TakesAnyName) {
+    GetParam().add(engine, "x", "");
+    EXPECT_EQ(GetParam().contentOf(engine, "x"), "");
+}
+
 INSTANTIATE_TEST_SUITE_P(Kinds, RegistrationOfEachKind, testing::ValuesIn(everyKind), kindName);
+INSTANTIATE_TEST_SUITE_P(Kinds, RegistrationByName, testing::ValuesIn(kindsThat(&KindOperations::hasNames)), kindName);
 
 BoolParameter parameterIn(const Taxon& group, const BoolSpec& spec, const std::string& typeId = "p") {
     return {ParameterCore(typeId, "The parameter", group, "", "", false), spec};
