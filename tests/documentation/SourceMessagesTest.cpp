@@ -1,5 +1,7 @@
 #include "documentation/SourceMessages.h"
 
+#include "support/RowNames.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -41,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(
                            R"(const std::string subject = "Range " + id; fail(subject + " is wrong.");)",
                            "Range * is wrong."},
                     Source{"WithEscapes", R"(fail("Say \"yes\" now.");)", "Say \"yes\" now."}),
-    [](const auto& test) { return test.param.name; });
+    Support::nameOfRow);
 
 TEST(SourceMessages, HasBothSidesOfAConditional) {
     EXPECT_THAT(

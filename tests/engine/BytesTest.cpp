@@ -1,5 +1,6 @@
 #include "KindOperations.h"
 #include "support/Messages.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -89,8 +90,7 @@ TEST_P(HostileTypeId, IsTakenOnce) {
     EXPECT_THROW(engine.registerDomain(Taxon(typeId, "Name")), ValidationException);
 }
 
-INSTANTIATE_TEST_SUITE_P(Bytes, HostileTypeId, testing::ValuesIn(hostile),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Bytes, HostileTypeId, testing::ValuesIn(hostile), Support::nameOfRow);
 
 TEST(Bytes, TypeIdsThatDifferAfterANulAreDifferent) {
     ParametersEngine engine;

@@ -1,4 +1,5 @@
 #include "support/Catalogue.h"
+#include "support/RowNames.h"
 
 #include <parameters/ParametersEngine.h>
 
@@ -173,6 +174,6 @@ TEST_P(Catalogue, NamesNothingThatIsNotRegistered) {
 INSTANTIATE_TEST_SUITE_P(Folders, Catalogue,
                          testing::Values(CatalogueFolder{"Examples", OSTRA_SOURCE_DIR "/examples/catalogue"},
                                          CatalogueFolder{"Large", std::getenv("OSTRA_CATALOGUE")}),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         Support::nameOfRow);
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "support/Picture.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -115,8 +116,7 @@ TEST_P(Copies, SurviveTheOriginal) {
     EXPECT_EQ(pictureOf(copy), pictureOf(loaded()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Engines, Copies, testing::ValuesIn(changes),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Engines, Copies, testing::ValuesIn(changes), Support::nameOfRow);
 
 TEST(CopyOfAnEngine, HasAllOfTheOriginal) {
     const ParametersEngine original = loaded();

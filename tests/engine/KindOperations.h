@@ -206,6 +206,3 @@ inline std::vector<KindOperations> kindsThat(bool (KindOperations::*holds)() con
                  [holds](const KindOperations& kind) { return (kind.*holds)(); });
     return kinds;
 }
-
-/// Names a test after its kind.
-inline const auto kindName = [](const auto& test) { return std::string(test.param.name); };

@@ -1,5 +1,6 @@
 #include "KindOperations.h"
 #include "support/Messages.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -114,7 +115,7 @@ TEST_P(LookupOfEachKind, FindsEachOfManyObjects) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, LookupOfEachKind, testing::ValuesIn(everyKind), kindName);
+INSTANTIATE_TEST_SUITE_P(Kinds, LookupOfEachKind, testing::ValuesIn(everyKind), Support::nameOfRow);
 
 TEST(Lookup, ListsHoldTheObjectsThemselves) {
     ParametersEngine engine;
@@ -205,8 +206,7 @@ TEST_P(BuiltInObject, IsNotListed) {
     EXPECT_TRUE(kind().typeIds(engine).empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Lookup, BuiltInObject, testing::ValuesIn(builtIns),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Lookup, BuiltInObject, testing::ValuesIn(builtIns), Support::nameOfRow);
 
 TEST(Lookup, BuiltInObjectsHaveTheTypeIdThatWasAskedFor) {
     const ParametersEngine engine;
@@ -302,8 +302,7 @@ TEST_P(NoBuiltInObject, IsNotFound) {
     EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { GetParam().look(engine); }), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(Lookup, NoBuiltInObject, testing::ValuesIn(notBuiltIn),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Lookup, NoBuiltInObject, testing::ValuesIn(notBuiltIn), Support::nameOfRow);
 
 struct Question {
     const char* name;
@@ -334,8 +333,7 @@ class TakenTypeId : public testing::TestWithParam<Question> {};
 
 TEST_P(TakenTypeId, IsRegisteredInAnEmptyEngine) { EXPECT_TRUE(ParametersEngine().isRegistered(GetParam().typeId)); }
 
-INSTANTIATE_TEST_SUITE_P(Lookup, TakenTypeId, testing::ValuesIn(taken),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Lookup, TakenTypeId, testing::ValuesIn(taken), Support::nameOfRow);
 
 const Question freeTypeIds[] = {
     {"Empty", ""},
@@ -363,8 +361,7 @@ class FreeTypeId : public testing::TestWithParam<Question> {};
 
 TEST_P(FreeTypeId, IsNotRegisteredInAnEmptyEngine) { EXPECT_FALSE(ParametersEngine().isRegistered(GetParam().typeId)); }
 
-INSTANTIATE_TEST_SUITE_P(Lookup, FreeTypeId, testing::ValuesIn(freeTypeIds),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Lookup, FreeTypeId, testing::ValuesIn(freeTypeIds), Support::nameOfRow);
 
 TEST(IsRegistered, HoldsForPendingSchemasAndForTheirObjects) {
     ParametersEngine engine;

@@ -1,5 +1,6 @@
 #include "support/Messages.h"
 #include "support/Picture.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -168,8 +169,7 @@ const Unknown unknowns[] = {
     {"OtherCase", "Parameter", "Could not find any object with typeid Parameter."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Outputs, UnknownInOutputs, testing::ValuesIn(unknowns),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Outputs, UnknownInOutputs, testing::ValuesIn(unknowns), Support::nameOfRow);
 
 struct Unsearched {
     const char* name;
@@ -196,8 +196,7 @@ const Unsearched unsearched[] = {
     {"Group", "group", "Could not find any object with typeid group."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Outputs, KindThatNamesNothing, testing::ValuesIn(unsearched),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Outputs, KindThatNamesNothing, testing::ValuesIn(unsearched), Support::nameOfRow);
 
 struct Export {
     const char* name;
@@ -328,8 +327,7 @@ const Export exports[] = {
      R"("constants":[{"id":"name","value":"Plain"}]})"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Outputs, ExportedSchema, testing::ValuesIn(exports),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Outputs, ExportedSchema, testing::ValuesIn(exports), Support::nameOfRow);
 
 TEST_F(Outputs, ASchemaIsWrittenAfreshFromItsObject) {
     engine.registerSchema(R"({ "more" : 1, "constants" : [ { "value" : "N\u0061me", "id" : "name" },
@@ -414,7 +412,6 @@ const Refusal refusals[] = {
     {"GroupBeforeSpec", parameterIn("x", "y"), "Could not find group with typeid x."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Outputs, RefusedParameter, testing::ValuesIn(refusals),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Outputs, RefusedParameter, testing::ValuesIn(refusals), Support::nameOfRow);
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "support/Messages.h"
 #include "support/Picture.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -134,8 +135,7 @@ TEST_P(UnreadableParameter, LeavesTheEngineAsItWas) {
     EXPECT_EQ(pictureOf(engine, {"p", "x"}), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(ReadBoolParameter, UnreadableParameter, testing::ValuesIn(faults),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(ReadBoolParameter, UnreadableParameter, testing::ValuesIn(faults), Support::nameOfRow);
 
 TEST(ValueTypes, HaveTheirNumbers) {
     EXPECT_EQ(static_cast<int>(Parameters::None), 0);
@@ -226,8 +226,7 @@ TEST_P(ReadValueType, LeavesTheEngineAsItWas) {
     EXPECT_EQ(pictureOf(engine, {"p"}), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(ReadParameter, ReadValueType, testing::ValuesIn(typed),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(ReadParameter, ReadValueType, testing::ValuesIn(typed), Support::nameOfRow);
 
 const Fault noSchemas[] = {
     {"NoObject", "5", "Schema must specify a typeid string."},
@@ -247,7 +246,6 @@ TEST_P(NoSchema, HasNoValueTypeButAFault) {
     EXPECT_EQ(messageOf<ValidationException>([&] { prepared().readValueType(GetParam().text); }), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(ReadParameter, NoSchema, testing::ValuesIn(noSchemas),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(ReadParameter, NoSchema, testing::ValuesIn(noSchemas), Support::nameOfRow);
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "KindOperations.h"
 #include "support/Messages.h"
 #include "support/Picture.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -173,9 +174,9 @@ TEST_P(RegisterSchemaOfAVersion, DoesNotReadAnotherMajorVersionOfItsBase) {
     EXPECT_FALSE(engine.isRegistered("x"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, RegisterSchemaOfEachKind, testing::ValuesIn(everyKind), kindName);
+INSTANTIATE_TEST_SUITE_P(Kinds, RegisterSchemaOfEachKind, testing::ValuesIn(everyKind), Support::nameOfRow);
 INSTANTIATE_TEST_SUITE_P(Kinds, RegisterSchemaOfAVersion, testing::ValuesIn(kindsThat(&KindOperations::hasVersions)),
-                         kindName);
+                         Support::nameOfRow);
 
 /// A base in which the bases of two kinds are found.
 struct TwoBases {
@@ -241,8 +242,7 @@ TEST_P(Offering, GoesToTheFirstKindThatAccepts) {
     EXPECT_NO_THROW(GetParam().lookUpX(engine));
 }
 
-INSTANTIATE_TEST_SUITE_P(RegisterSchema, Offering, testing::ValuesIn(twoBases),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(RegisterSchema, Offering, testing::ValuesIn(twoBases), Support::nameOfRow);
 
 TEST(RegisterSchema, OffersToMeasurableParametersBeforeReferenceParameters) {
     // A measurable parameter must name its spec, a reference parameter need not.
@@ -315,8 +315,7 @@ TEST_P(RefusedText, NamesTheFaultAndLeavesTheEngineAsItWas) {
     EXPECT_EQ(pictureOf(engine, typeIds), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(RegisterSchema, RefusedText, testing::ValuesIn(faults),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(RegisterSchema, RefusedText, testing::ValuesIn(faults), Support::nameOfRow);
 
 TEST(RegisterSchema, DoesNotLookWhetherWhatIsNamedIsOfTheRightKind) {
     ParametersEngine engine;

@@ -1,5 +1,6 @@
 #include "support/Messages.h"
 #include "support/Picture.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -95,8 +96,7 @@ const Skipped skipped[] = {{"Object", "object"},
                            {"BuiltIn", "norvex.spec:spec.bool-1.0.0"},
                            {"BuiltInInsideALongerText", "our norvex.range:range.string-1.8 too"}};
 
-INSTANTIATE_TEST_SUITE_P(RegisterSchemas, SkippedEntry, testing::ValuesIn(skipped),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(RegisterSchemas, SkippedEntry, testing::ValuesIn(skipped), Support::nameOfRow);
 
 TEST(RegisterSchemas, ReadsEntriesWhoseKeysAreFreeBases) {
     ParametersEngine engine;

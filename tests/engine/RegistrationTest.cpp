@@ -1,6 +1,7 @@
 #include "KindOperations.h"
 #include "support/Messages.h"
 #include "support/Picture.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -97,8 +98,9 @@ TEST_P(RegistrationByName, TakesAnyName) {
     EXPECT_EQ(GetParam().contentOf(engine, "x"), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, RegistrationOfEachKind, testing::ValuesIn(everyKind), kindName);
-INSTANTIATE_TEST_SUITE_P(Kinds, RegistrationByName, testing::ValuesIn(kindsThat(&KindOperations::hasNames)), kindName);
+INSTANTIATE_TEST_SUITE_P(Kinds, RegistrationOfEachKind, testing::ValuesIn(everyKind), Support::nameOfRow);
+INSTANTIATE_TEST_SUITE_P(Kinds, RegistrationByName, testing::ValuesIn(kindsThat(&KindOperations::hasNames)),
+                         Support::nameOfRow);
 
 BoolParameter parameterIn(const Taxon& group, const BoolSpec& spec, const std::string& typeId = "p") {
     return {ParameterCore(typeId, "The parameter", group, "", "", false), spec};
@@ -206,8 +208,7 @@ TEST_P(RefusedObject, NamesTheFaultAndLeavesTheEngineAsItWas) {
     EXPECT_EQ(pictureOf(engine, {"p", "s", "x", "y", ""}), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(Registration, RefusedObject, testing::ValuesIn(refusals),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Registration, RefusedObject, testing::ValuesIn(refusals), Support::nameOfRow);
 
 TEST_F(RegistrationOfReferences, KeepsTheDisciplineThatASpecWasMadeWith) {
     engine.registerBoolSpec(boolSpecOf("discipline"));

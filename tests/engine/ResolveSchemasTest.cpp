@@ -1,6 +1,7 @@
 #include "KindOperations.h"
 #include "support/Messages.h"
 #include "support/Picture.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -309,8 +310,7 @@ TEST_P(FaultyResolution, FailsInTheSameWayAgain) {
     EXPECT_EQ(messageOfResolving(engine), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(ResolveSchemas, FaultyResolution, testing::ValuesIn(faults),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(ResolveSchemas, FaultyResolution, testing::ValuesIn(faults), Support::nameOfRow);
 
 TEST(ResolveSchemas, FindsNoUnitsForWhatNamesOtherKinds) {
     ParametersEngine engine;

@@ -3,6 +3,7 @@
 #include "support/Engines.h"
 #include "support/Fault.h"
 #include "support/Messages.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -31,7 +32,6 @@ using Support::Fault;
 using Support::groupText;
 using Support::messageOf;
 using Support::namedText;
-using Support::nameOfFault;
 using Support::refusalOf;
 using Support::rewritten;
 using Support::schemaText;
@@ -329,7 +329,7 @@ TEST_P(RefusedSpecOfBoolParameter, FailsWithTheFirstFault) {
     EXPECT_EQ(refusalOf(schemaText("gate", base, nameOnly + ", " + GetParam().text)), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(Spec, RefusedSpecOfBoolParameter, testing::ValuesIn(specFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Spec, RefusedSpecOfBoolParameter, testing::ValuesIn(specFaults), Support::nameOfRow);
 
 /// The same through readBoolParameter, which looks among registered objects only.
 class ReadBoolParameter : public testing::Test {

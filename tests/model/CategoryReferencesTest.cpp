@@ -1,6 +1,7 @@
 #include "support/Engines.h"
 #include "support/Messages.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -207,8 +208,7 @@ TEST_P(UnresolvableCategory, FailsWithTheFirstFaultAndNothingIsResolved) {
     EXPECT_EQ(refusalBy(engine, [&] { engine.resolveSchemas(); }), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(Resolution, UnresolvableCategory, testing::ValuesIn(unresolvable),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Resolution, UnresolvableCategory, testing::ValuesIn(unresolvable), Support::nameOfRow);
 
 TEST(CategoryResolution, SucceedsOnceWhatWasMissingIsThere) {
     ParametersEngine engine;
@@ -371,7 +371,6 @@ TEST_P(UnbindableCategory, IsRefusedWithTheFirstFaultAndLeavesNoTrace) {
     EXPECT_EQ(refusalBy(engine, [&] { engine.registerCategory(GetParam().category); }), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(Binding, UnbindableCategory, testing::ValuesIn(unbindable),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Binding, UnbindableCategory, testing::ValuesIn(unbindable), Support::nameOfRow);
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "support/Engines.h"
 #include "support/Fault.h"
 #include "support/Messages.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -32,8 +33,6 @@ using Support::engineOf;
 using Support::Fault;
 using Support::majorCategoryText;
 using Support::messageOf;
-using Support::nameOfAwkwardString;
-using Support::nameOfFault;
 using Support::refusalOf;
 using Support::rewritten;
 using Support::schemaText;
@@ -234,7 +233,7 @@ TEST_P(RefusedMajorCategory, FailsWithTheFirstFault) {
     EXPECT_EQ(refusalOf(schemaText("gates", majorBase, GetParam().text)), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(Constants, RefusedMajorCategory, testing::ValuesIn(majorFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Constants, RefusedMajorCategory, testing::ValuesIn(majorFaults), Support::nameOfRow);
 
 const std::vector<Fault> subFaults = {
     {"NoName", parent, "Schema intake has an undefined name constant."},
@@ -261,7 +260,7 @@ TEST_P(RefusedSubCategory, FailsWithTheFirstFault) {
     EXPECT_EQ(refusalOf(schemaText("intake", subBase, GetParam().text)), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(Constants, RefusedSubCategory, testing::ValuesIn(subFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Constants, RefusedSubCategory, testing::ValuesIn(subFaults), Support::nameOfRow);
 
 TEST(Category, ReadsOnlyTheConstantsOfItsSort) {
     const std::string major = schemaText("gates", majorBase, nameOnly + ", " + domain + R"(, {"id": "parent"})");
@@ -394,6 +393,6 @@ TEST_P(AwkwardCategory, SurvivesTheRoundTrip) {
     EXPECT_EQ(rewritten(engine, "s" + bytes(), writtenSub()), writtenSub());
 }
 
-INSTANTIATE_TEST_SUITE_P(Strings, AwkwardCategory, testing::ValuesIn(awkwardStrings), nameOfAwkwardString);
+INSTANTIATE_TEST_SUITE_P(Strings, AwkwardCategory, testing::ValuesIn(awkwardStrings), Support::nameOfRow);
 
 } // namespace

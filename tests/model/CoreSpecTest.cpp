@@ -1,5 +1,6 @@
 #include "support/Engines.h"
 #include "support/Messages.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -229,7 +230,6 @@ TEST_P(BaseOfGeneralSpecs, CountsAfterThatOfBooleanSpecsAndBeforeOthers) {
               std::vector<std::string>{GetParam().kind});
 }
 
-INSTANTIATE_TEST_SUITE_P(Bases, BaseOfGeneralSpecs, testing::ValuesIn(doubleBases),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Bases, BaseOfGeneralSpecs, testing::ValuesIn(doubleBases), Support::nameOfRow);
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "support/Messages.h"
 #include "support/NamingFault.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -182,7 +183,7 @@ TEST_P(AcceptedEnumerationParameter, NamesItsSpecAndItsEnumeration) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EnumerationParameter, AcceptedEnumerationParameter, testing::ValuesIn(accepted),
-                         [](const auto& test) { return test.param.name; });
+                         Support::nameOfRow);
 
 const char* const noSpec = "Enumeration parameter schema p has an undefined spec constant.";
 const char* const specWithoutValue = "A spec definition must contain either a value or a typedValue.";
@@ -258,7 +259,7 @@ TEST_P(EnumerationParameterFault, IsNamedAndNothingIsRegistered) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EnumerationParameter, EnumerationParameterFault, testing::ValuesIn(textFaults),
-                         Support::nameOfFault);
+                         Support::nameOfRow);
 
 const NamingFault namingFaults[] = {
     {"Group", "x", "s", "e", "Could not find group with typeid x.",
@@ -302,7 +303,7 @@ TEST_P(EnumerationParameterNaming, FailsRegistration) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EnumerationParameter, EnumerationParameterNaming, testing::ValuesIn(namingFaults),
-                         [](const auto& test) { return test.param.name; });
+                         Support::nameOfRow);
 
 TEST(EnumerationParameter, IsNotBoundToWhatIsOnlyPending) {
     ParametersEngine engine;
@@ -400,6 +401,6 @@ TEST_P(AwkwardEnumerationParameter, NamesItsEnumerationByAnyBytes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Strings, AwkwardEnumerationParameter, testing::ValuesIn(Support::awkwardStrings),
-                         Support::nameOfAwkwardString);
+                         Support::nameOfRow);
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "support/Fault.h"
 #include "support/Messages.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -144,7 +145,7 @@ TEST_P(EnumerationFault, IsNamedAndNothingIsRegistered) {
     EXPECT_EQ(refusalOf(engine, GetParam().text), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(Enumeration, EnumerationFault, testing::ValuesIn(textFaults), Support::nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Enumeration, EnumerationFault, testing::ValuesIn(textFaults), Support::nameOfRow);
 
 TEST(Enumeration, NamesNothing) {
     ParametersEngine engine;
@@ -211,7 +212,7 @@ TEST_P(RefusedEnumerationObject, IsNotRegistered) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Enumeration, RefusedEnumerationObject, testing::ValuesIn(refusedEnumerations),
-                         [](const auto& test) { return test.param.name; });
+                         Support::nameOfRow);
 
 TEST(Enumeration, IsWrittenWithoutConstants) {
     EXPECT_EQ(writtenBy(Enumeration("e", {{"a", 1}})),
@@ -259,7 +260,6 @@ TEST_P(AwkwardEnumeration, IsReadWithItsBytes) {
     EXPECT_EQ(rewritten(ParametersEngine(), GetParam().bytes, writtenBytes()), writtenBytes());
 }
 
-INSTANTIATE_TEST_SUITE_P(Strings, AwkwardEnumeration, testing::ValuesIn(Support::awkwardStrings),
-                         Support::nameOfAwkwardString);
+INSTANTIATE_TEST_SUITE_P(Strings, AwkwardEnumeration, testing::ValuesIn(Support::awkwardStrings), Support::nameOfRow);
 
 } // namespace

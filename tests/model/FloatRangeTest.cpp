@@ -2,6 +2,7 @@
 
 #include "support/Engines.h"
 #include "support/Messages.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -81,8 +82,7 @@ TEST_P(FloatRangeBoundary, IsWrittenTheSameWhenItIsReadAgain) {
     EXPECT_EQ(engineOf({engine.getSchema("r")}).getSchema("r"), written(GetParam().written));
 }
 
-INSTANTIATE_TEST_SUITE_P(FloatRange, FloatRangeBoundary, testing::ValuesIn(numbers),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(FloatRange, FloatRangeBoundary, testing::ValuesIn(numbers), Support::nameOfRow);
 
 TEST(FloatRange, KeepsTheSignOfAZero) {
     const FloatRange range = engineOf({text("-0.0")}).getFloatRange("r");
@@ -134,7 +134,6 @@ TEST_P(FloatRangeNotFinite, IsWrittenWhereTheBoundaryIsLeftOut) {
               R"({"id":"fromBottom","value":false},{"id":"fromTop","value":false}]})");
 }
 
-INSTANTIATE_TEST_SUITE_P(FloatRange, FloatRangeNotFinite, testing::ValuesIn(notFinite),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(FloatRange, FloatRangeNotFinite, testing::ValuesIn(notFinite), Support::nameOfRow);
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -108,8 +109,7 @@ TEST_P(IntParameterInline, SurvivesTheRoundTrip) {
     EXPECT_EQ(rewritten(ParametersEngine(), "p", writtenRow()), writtenRow());
 }
 
-INSTANTIATE_TEST_SUITE_P(IntParameter, IntParameterInline, testing::ValuesIn(inlineValues),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(IntParameter, IntParameterInline, testing::ValuesIn(inlineValues), Support::nameOfRow);
 
 struct InlineFault {
     const char* name;
@@ -157,8 +157,7 @@ TEST_P(IntParameterInlineFault, LeavesTheParameterWithoutAValueType) {
     EXPECT_EQ(engine.readValueType(text()), Parameters::ValueType::None);
 }
 
-INSTANTIATE_TEST_SUITE_P(IntParameter, IntParameterInlineFault, testing::ValuesIn(inlineFaults),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(IntParameter, IntParameterInlineFault, testing::ValuesIn(inlineFaults), Support::nameOfRow);
 
 TEST(IntParameter, HasItsValueType) {
     const ParametersEngine engine;
@@ -226,7 +225,6 @@ TEST_P(AwkwardIntParameter, NamesItsRangeByAnyBytes) {
     EXPECT_EQ(rewritten(engine, "p", expected), expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Strings, AwkwardIntParameter, testing::ValuesIn(Support::awkwardStrings),
-                         Support::nameOfAwkwardString);
+INSTANTIATE_TEST_SUITE_P(Strings, AwkwardIntParameter, testing::ValuesIn(Support::awkwardStrings), Support::nameOfRow);
 
 } // namespace

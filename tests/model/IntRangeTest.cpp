@@ -1,6 +1,7 @@
 #include <parameters/IntRange.h>
 
 #include "support/Engines.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -82,7 +83,6 @@ TEST_P(IntRangeBoundary, MustBeAnInteger) {
     EXPECT_EQ(refusalOf(text("1", GetParam().json)), "Expected an integer.");
 }
 
-INSTANTIATE_TEST_SUITE_P(IntRange, IntRangeBoundary, testing::ValuesIn(notIntegers),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(IntRange, IntRangeBoundary, testing::ValuesIn(notIntegers), Support::nameOfRow);
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "support/Messages.h"
 #include "support/NamingFault.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -204,7 +205,7 @@ TEST_P(MeasurableParameterThatNamesInVain, HasNoDependencies) {
 }
 
 INSTANTIATE_TEST_SUITE_P(References, MeasurableParameterThatNamesInVain, testing::ValuesIn(namingFaults),
-                         [](const auto& test) { return test.param.name; });
+                         Support::nameOfRow);
 
 TEST(MeasurableParameterBinding, MissesWhatIsOnlyPending) {
     ParametersEngine engine = plant();

@@ -4,6 +4,7 @@
 #include "support/Fault.h"
 #include "support/Messages.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -36,7 +37,6 @@ using Support::Fault;
 using Support::groupText;
 using Support::measurableSpecText;
 using Support::messageOf;
-using Support::nameOfFault;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
@@ -311,7 +311,7 @@ TEST_P(RefusedMeasurableParameter, IsNotRead) {
 
 TEST_P(RefusedMeasurableParameter, HasNoValueType) { EXPECT_EQ(engine.readValueType(text()), Parameters::None); }
 
-INSTANTIATE_TEST_SUITE_P(Constants, RefusedMeasurableParameter, testing::ValuesIn(constantFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Constants, RefusedMeasurableParameter, testing::ValuesIn(constantFaults), Support::nameOfRow);
 
 TEST(MeasurableParameter, HasTheValueTypeMeasurableWhateverItNames) {
     EXPECT_EQ(ParametersEngine().readValueType(textOf("")), Parameters::Measurable);
@@ -382,7 +382,7 @@ TEST_P(WrittenRangeOfMeasurableParameter, SurvivesTheRoundTrip) {
 }
 
 INSTANTIATE_TEST_SUITE_P(MeasurableParameter, WrittenRangeOfMeasurableParameter, testing::ValuesIn(writtenRanges),
-                         [](const auto& test) { return test.param.name; });
+                         Support::nameOfRow);
 
 TEST(MeasurableParameter, IsWrittenWithItsConstantsInOneOrder) {
     const std::string text =

@@ -4,6 +4,7 @@
 #include "support/Fault.h"
 #include "support/Messages.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -31,7 +32,6 @@ using Support::engineWithUnits;
 using Support::Fault;
 using Support::measurableSpecText;
 using Support::messageOf;
-using Support::nameOfFault;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
@@ -224,7 +224,7 @@ TEST_P(RefusedMeasurableSpec, FailsWithTheFirstFault) {
     EXPECT_EQ(refusalOf(schemaText("level", base, GetParam().text)), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(Constants, RefusedMeasurableSpec, testing::ValuesIn(constantFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Constants, RefusedMeasurableSpec, testing::ValuesIn(constantFaults), Support::nameOfRow);
 
 /// What a spec may name in vain, and the messages of the two ways to look for it.
 struct Missing {
@@ -333,7 +333,7 @@ TEST_P(MeasurableSpecThatNamesInVain, IsNotRegistered) {
 }
 
 INSTANTIATE_TEST_SUITE_P(References, MeasurableSpecThatNamesInVain, testing::ValuesIn(missingReferences),
-                         [](const auto& test) { return test.param.name; });
+                         Support::nameOfRow);
 
 TEST(MeasurableSpecResolution, ReportsSpecsInAscendingOrder) {
     ParametersEngine engine = plant();

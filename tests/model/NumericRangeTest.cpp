@@ -1,6 +1,7 @@
 #include "support/Engines.h"
 #include "support/Messages.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -350,8 +351,6 @@ TEST_P(NumericRangeFault, IsNamedAndNothingIsRegistered) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, NumericRangeFault,
                          testing::Combine(testing::ValuesIn(kindsOfRange), testing::ValuesIn(rangeFaults)),
-                         [](const auto& test) {
-                             return std::string(std::get<0>(test.param).name) + std::get<1>(test.param).name;
-                         });
+                         Support::nameOfBothRows);
 
 } // namespace

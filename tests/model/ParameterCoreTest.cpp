@@ -4,6 +4,7 @@
 #include "support/Engines.h"
 #include "support/Fault.h"
 #include "support/Messages.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -366,8 +367,7 @@ TEST_P(ParameterCoreOfEachKind, IsNotReadFromAnotherMajorVersionOfItsBase) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Parameters, ParameterCoreOfEachKind, testing::ValuesIn(parameterKinds),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Parameters, ParameterCoreOfEachKind, testing::ValuesIn(parameterKinds), Support::nameOfRow);
 
 /// Returns constants that are all malformed but for the first ones of their order.
 std::string malformedFrom(std::size_t first) {
@@ -436,9 +436,7 @@ TEST_P(RefusedParameter, FailsWithTheFirstFault) {
 
 INSTANTIATE_TEST_SUITE_P(Constants, RefusedParameter,
                          testing::Combine(testing::ValuesIn(parameterKinds), testing::ValuesIn(constantFaults)),
-                         [](const auto& test) {
-                             return std::string(std::get<0>(test.param).name) + std::get<1>(test.param).name;
-                         });
+                         Support::nameOfBothRows);
 
 class AwkwardParameter : public testing::TestWithParam<std::tuple<ParameterKind, Support::AwkwardString>> {
 protected:
@@ -483,8 +481,6 @@ TEST_P(AwkwardParameter, SurvivesTheRoundTrip) {
 
 INSTANTIATE_TEST_SUITE_P(Strings, AwkwardParameter,
                          testing::Combine(testing::ValuesIn(parameterKinds), testing::ValuesIn(awkwardStrings)),
-                         [](const auto& test) {
-                             return std::string(std::get<0>(test.param).name) + std::get<1>(test.param).name;
-                         });
+                         Support::nameOfBothRows);
 
 } // namespace

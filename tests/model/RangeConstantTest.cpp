@@ -1,6 +1,7 @@
 #include "support/Fault.h"
 #include "support/Messages.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -139,9 +140,7 @@ TEST_P(RangeConstant, LeavesItsParameterWithoutAValueType) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, RangeConstant,
                          testing::Combine(testing::ValuesIn(rangeBases), testing::ValuesIn(rangeFaults)),
-                         [](const auto& test) {
-                             return std::string(std::get<0>(test.param).name) + std::get<1>(test.param).name;
-                         });
+                         Support::nameOfBothRows);
 
 struct Accepted {
     const char* name;
@@ -175,8 +174,6 @@ TEST_P(NamedRangeConstant, NamesARegisteredRange) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, NamedRangeConstant,
                          testing::Combine(testing::Values(rangeBases[0], rangeBases[1]), testing::ValuesIn(accepted)),
-                         [](const auto& test) {
-                             return std::string(std::get<0>(test.param).name) + std::get<1>(test.param).name;
-                         });
+                         Support::nameOfBothRows);
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "RangedParameters.h"
 #include "support/NamingFault.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 
 #include <parameters/ParametersEngine.h>
 
@@ -156,13 +157,12 @@ TEST_P(RangedParameterNaming, FailsTheQuestionForDependencies) {
     EXPECT_EQ(refusalBy(engine, [&] { kind().askForDependencies(engine, "p", fault()); }), fault().whenBound);
 }
 
-const auto faultName = [](const auto& test) { return std::get<1>(test.param).name; };
 INSTANTIATE_TEST_SUITE_P(Int, RangedParameterNaming,
                          testing::Combine(testing::Values(kindOf<IntParameter>), testing::ValuesIn(intFaults)),
-                         faultName);
+                         Support::nameOfBothRows);
 INSTANTIATE_TEST_SUITE_P(String, RangedParameterNaming,
                          testing::Combine(testing::Values(kindOf<StringParameter>), testing::ValuesIn(stringFaults)),
-                         faultName);
+                         Support::nameOfBothRows);
 
 struct TypeIdFault {
     const char* name;
@@ -196,8 +196,6 @@ TEST_P(RangedParameterTypeId, IsCheckedFirst) {
 INSTANTIATE_TEST_SUITE_P(Kinds, RangedParameterTypeId,
                          testing::Combine(testing::Values(kindOf<IntParameter>, kindOf<StringParameter>),
                                           testing::ValuesIn(typeIdFaults)),
-                         [](const auto& test) {
-                             return std::string(std::get<0>(test.param).name) + std::get<1>(test.param).name;
-                         });
+                         Support::nameOfBothRows);
 
 } // namespace

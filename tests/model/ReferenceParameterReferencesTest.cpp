@@ -1,6 +1,7 @@
 #include "support/Engines.h"
 #include "support/Messages.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -296,7 +297,7 @@ TEST_P(ReferenceParameterThatNamesInVain, HasNoDependencies) {
 }
 
 INSTANTIATE_TEST_SUITE_P(References, ReferenceParameterThatNamesInVain, testing::ValuesIn(missingReferences),
-                         [](const auto& test) { return test.param.name; });
+                         Support::nameOfRow);
 
 TEST(ReferenceParameterBinding, MissesWhatIsOnlyPending) {
     ParametersEngine engine = plant();

@@ -4,6 +4,7 @@
 #include "support/Fault.h"
 #include "support/Messages.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -36,7 +37,6 @@ using Support::Fault;
 using Support::groupText;
 using Support::messageOf;
 using Support::namedText;
-using Support::nameOfFault;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
@@ -271,7 +271,7 @@ TEST_P(RefusedReferenceParameter, HasNoValueType) {
     EXPECT_EQ(engine.readValueType(textOf(GetParam().text)), Parameters::None);
 }
 
-INSTANTIATE_TEST_SUITE_P(Spec, RefusedReferenceParameter, testing::ValuesIn(specFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Spec, RefusedReferenceParameter, testing::ValuesIn(specFaults), Support::nameOfRow);
 
 TEST(ReferenceParameter, HasTheValueTypeReferenceRangedOrNot) {
     const ParametersEngine engine;

@@ -4,6 +4,7 @@
 #include "support/Fault.h"
 #include "support/Messages.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -36,7 +37,6 @@ using Support::failureOf;
 using Support::Fault;
 using Support::majorCategoryText;
 using Support::messageOf;
-using Support::nameOfFault;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
@@ -170,7 +170,7 @@ TEST_P(RefusedReferenceSpec, FailsWithTheFirstFault) {
     EXPECT_EQ(refusalOf(schemaText("gate", base, GetParam().text)), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(Category, RefusedReferenceSpec, testing::ValuesIn(categoryFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Category, RefusedReferenceSpec, testing::ValuesIn(categoryFaults), Support::nameOfRow);
 
 /// What a spec may name in vain, and the messages of the two ways to look for it.
 struct Missing {
@@ -219,7 +219,7 @@ TEST_P(ReferenceSpecThatNamesInVain, IsNotRegistered) {
 }
 
 INSTANTIATE_TEST_SUITE_P(References, ReferenceSpecThatNamesInVain, testing::ValuesIn(missingReferences),
-                         [](const auto& test) { return test.param.name; });
+                         Support::nameOfRow);
 
 TEST(ReferenceSpec, IsRefusedWithACategoryThatIsOnlyPending) {
     ParametersEngine engine = plant();

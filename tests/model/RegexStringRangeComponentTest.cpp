@@ -1,6 +1,7 @@
 #include <parameters/RegexStringRangeComponent.h>
 
 #include "support/AwkwardStrings.h"
+#include "support/RowNames.h"
 
 #include <gtest/gtest.h>
 
@@ -63,7 +64,6 @@ TEST_P(AwkwardRegex, IsKeptWithItsBytes) {
     EXPECT_EQ(RegexStringRangeComponent(GetParam().bytes).getRegex(), GetParam().bytes);
 }
 
-INSTANTIATE_TEST_SUITE_P(Strings, AwkwardRegex, testing::ValuesIn(Support::awkwardStrings),
-                         Support::nameOfAwkwardString);
+INSTANTIATE_TEST_SUITE_P(Strings, AwkwardRegex, testing::ValuesIn(Support::awkwardStrings), Support::nameOfRow);
 
 } // namespace

@@ -1,6 +1,7 @@
 #include <parameters/SetStringRangeComponent.h>
 
 #include "support/AwkwardStrings.h"
+#include "support/RowNames.h"
 
 #include <gtest/gtest.h>
 
@@ -68,7 +69,6 @@ TEST_P(AwkwardAllowedValue, IsKeptWithItsBytes) {
     EXPECT_EQ(SetStringRangeComponent(values).getAllowedValues(), values);
 }
 
-INSTANTIATE_TEST_SUITE_P(Strings, AwkwardAllowedValue, testing::ValuesIn(Support::awkwardStrings),
-                         Support::nameOfAwkwardString);
+INSTANTIATE_TEST_SUITE_P(Strings, AwkwardAllowedValue, testing::ValuesIn(Support::awkwardStrings), Support::nameOfRow);
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "support/Engines.h"
 #include "support/Fault.h"
 #include "support/Messages.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -312,8 +313,7 @@ TEST_P(SpecCoreOfEachKind, IsNotReadFromAnotherMajorVersionOfItsBase) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Specs, SpecCoreOfEachKind, testing::ValuesIn(specKinds),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Specs, SpecCoreOfEachKind, testing::ValuesIn(specKinds), Support::nameOfRow);
 
 const std::vector<Fault> constantFaults = {
     {"NoName", "", "Schema open has an undefined name constant."},
@@ -355,9 +355,7 @@ TEST_P(RefusedSpec, FailsWithTheFirstFault) {
 
 INSTANTIATE_TEST_SUITE_P(Constants, RefusedSpec,
                          testing::Combine(testing::ValuesIn(specKinds), testing::ValuesIn(constantFaults)),
-                         [](const auto& test) {
-                             return std::string(std::get<0>(test.param).name) + std::get<1>(test.param).name;
-                         });
+                         Support::nameOfBothRows);
 
 class AwkwardSpec : public testing::TestWithParam<std::tuple<SpecKind, Support::AwkwardString>> {
 protected:
@@ -399,8 +397,6 @@ TEST_P(AwkwardSpec, SurvivesTheRoundTrip) {
 
 INSTANTIATE_TEST_SUITE_P(Strings, AwkwardSpec,
                          testing::Combine(testing::ValuesIn(specKinds), testing::ValuesIn(awkwardStrings)),
-                         [](const auto& test) {
-                             return std::string(std::get<0>(test.param).name) + std::get<1>(test.param).name;
-                         });
+                         Support::nameOfBothRows);
 
 } // namespace

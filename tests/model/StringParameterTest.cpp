@@ -5,6 +5,7 @@
 #include "support/Engines.h"
 #include "support/Fault.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -128,7 +129,7 @@ TEST_P(StringParameterInlineFault, LeavesTheParameterWithoutAValueType) {
 }
 
 INSTANTIATE_TEST_SUITE_P(StringParameter, StringParameterInlineFault, testing::ValuesIn(inlineFaults),
-                         Support::nameOfFault);
+                         Support::nameOfRow);
 
 struct UnfitRange {
     const char* name;
@@ -202,8 +203,7 @@ TEST_P(UnfitStringRange, FailsTheQuestionForDependencies) {
     EXPECT_EQ(refusalBy(engine, [&] { engine.getDependencies(parameter); }), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(StringParameter, UnfitStringRange, testing::ValuesIn(unfitRanges),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(StringParameter, UnfitStringRange, testing::ValuesIn(unfitRanges), Support::nameOfRow);
 
 TEST(StringParameter, HasItsTypeIdCheckedBeforeItsRange) {
     const StringParameter unnamed(coreOf("", "x"), specOf("y"), setOf("z", {"a", "a"}));
@@ -294,7 +294,7 @@ TEST_P(WrittenStringParameter, SurvivesTheRoundTrip) {
 }
 
 INSTANTIATE_TEST_SUITE_P(StringParameter, WrittenStringParameter, testing::ValuesIn(writtenParameters),
-                         [](const auto& test) { return test.param.name; });
+                         Support::nameOfRow);
 
 TEST(StringParameter, IsWrittenWithTheVersionOfTheBuiltInSpecThatItsSchemaNames) {
     const std::string text = written(R"(,{"id":"spec","typedValue":{"typeid":"norvex.spec:spec.string-2.3.0"}})");
@@ -343,6 +343,6 @@ TEST_P(AwkwardStringParameter, IsWrittenWithTheBytesOfItsExpression) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Strings, AwkwardStringParameter, testing::ValuesIn(Support::awkwardStrings),
-                         Support::nameOfAwkwardString);
+                         Support::nameOfRow);
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "support/Fault.h"
 #include "support/Messages.h"
 #include "support/Refusal.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -171,7 +172,7 @@ TEST_P(StringRangeFault, IsNamedAndNothingIsRegistered) {
     EXPECT_EQ(refusalOf(engine, GetParam().text), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(StringRange, StringRangeFault, testing::ValuesIn(constantFaults), Support::nameOfFault);
+INSTANTIATE_TEST_SUITE_P(StringRange, StringRangeFault, testing::ValuesIn(constantFaults), Support::nameOfRow);
 
 TEST(StringRange, TellsValuesBehindANulApart) {
     expectSet(resolved(setBase, R"({"id": "allowedValues", "value": ["\u0000a", "\u0000b"]})"), "r",
@@ -234,8 +235,7 @@ TEST_P(RefusedStringRange, IsNotRegistered) {
     EXPECT_EQ(refusalBy(engine, [&] { engine.registerStringRange(GetParam().range); }), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(StringRange, RefusedStringRange, testing::ValuesIn(refusedRanges),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(StringRange, RefusedStringRange, testing::ValuesIn(refusedRanges), Support::nameOfRow);
 
 TEST(StringRange, IsWrittenWithItsSetInOrder) {
     EXPECT_EQ(writtenBy(StringRange("r", SetStringRangeComponent({"b", "a", "A"}))), writtenSet);
@@ -303,7 +303,6 @@ TEST_P(AwkwardStringRange, IsReadWithItsBytes) {
     expectRegex(engineOf({writtenRegexOfBytes()}).getStringRange(bytes), bytes, bytes);
 }
 
-INSTANTIATE_TEST_SUITE_P(Strings, AwkwardStringRange, testing::ValuesIn(Support::awkwardStrings),
-                         Support::nameOfAwkwardString);
+INSTANTIATE_TEST_SUITE_P(Strings, AwkwardStringRange, testing::ValuesIn(Support::awkwardStrings), Support::nameOfRow);
 
 } // namespace

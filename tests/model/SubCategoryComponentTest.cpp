@@ -1,6 +1,7 @@
 #include <parameters/SubCategoryComponent.h>
 
 #include "support/AwkwardStrings.h"
+#include "support/RowNames.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +13,6 @@ namespace {
 
 using Parameters::SubCategoryComponent;
 using Support::awkwardStrings;
-using Support::nameOfAwkwardString;
 
 TEST(SubCategoryComponent, AnswersItsParent) {
     EXPECT_EQ(SubCategoryComponent("plant.category:gates-1.0.0").getParentCategory(), "plant.category:gates-1.0.0");
@@ -28,7 +28,7 @@ TEST_P(AwkwardSubCategoryComponent, KeepsItsBytes) {
     EXPECT_EQ(SubCategoryComponent(GetParam().bytes).getParentCategory(), GetParam().bytes);
 }
 
-INSTANTIATE_TEST_SUITE_P(Strings, AwkwardSubCategoryComponent, testing::ValuesIn(awkwardStrings), nameOfAwkwardString);
+INSTANTIATE_TEST_SUITE_P(Strings, AwkwardSubCategoryComponent, testing::ValuesIn(awkwardStrings), Support::nameOfRow);
 
 TEST(SubCategoryComponent, IsMadeOnlyOnPurpose) {
     EXPECT_FALSE((std::is_convertible_v<std::string, SubCategoryComponent>));

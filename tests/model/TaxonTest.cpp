@@ -3,6 +3,7 @@
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
 #include "support/Messages.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -23,7 +24,6 @@ using Support::constant;
 using Support::engineOf;
 using Support::messageOf;
 using Support::namedText;
-using Support::nameOfAwkwardString;
 using Support::refusalOf;
 using Support::rewritten;
 using Support::schemaText;
@@ -71,7 +71,7 @@ TEST_P(AwkwardTaxon, SurvivesTheRoundTrip) {
     EXPECT_EQ(rewritten(ParametersEngine(), GetParam().bytes, written), written);
 }
 
-INSTANTIATE_TEST_SUITE_P(Strings, AwkwardTaxon, testing::ValuesIn(awkwardStrings), nameOfAwkwardString);
+INSTANTIATE_TEST_SUITE_P(Strings, AwkwardTaxon, testing::ValuesIn(awkwardStrings), Support::nameOfRow);
 
 struct TaxonomyKind {
     const char* name;
@@ -219,8 +219,7 @@ const TaxonomyKind taxonomyKinds[] = {
      &ParametersEngine::getAllGroups, &ParametersEngine::registerGroup},
 };
 
-INSTANTIATE_TEST_SUITE_P(Taxonomy, TaxonOfEachKind, testing::ValuesIn(taxonomyKinds),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Taxonomy, TaxonOfEachKind, testing::ValuesIn(taxonomyKinds), Support::nameOfRow);
 
 TEST(BuiltInDiscipline, IsCommon) {
     const Taxon discipline = ParametersEngine().getDiscipline("norvex.spec:discipline-1.0.0");

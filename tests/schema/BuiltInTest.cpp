@@ -1,5 +1,7 @@
 #include "schema/BuiltIn.h"
 
+#include "support/RowNames.h"
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -67,8 +69,6 @@ std::vector<Row> allRows() {
     return rows;
 }
 
-const auto nameOfRow = [](const auto& test) { return std::string(test.param.name); };
-
 class BuiltInIdentifier : public testing::TestWithParam<Row> {};
 
 TEST_P(BuiltInIdentifier, HasItsFullForm) { EXPECT_EQ(GetParam().identifier.full(), GetParam().full); }
@@ -126,7 +126,7 @@ TEST_P(BuiltInIdentifier, IsInNoOtherIdentifier) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, BuiltInIdentifier, testing::ValuesIn(allRows()), nameOfRow);
+INSTANTIATE_TEST_SUITE_P(All, BuiltInIdentifier, testing::ValuesIn(allRows()), Support::nameOfRow);
 
 class ReservedIdentifier : public testing::TestWithParam<Row> {};
 
@@ -146,13 +146,13 @@ TEST_P(ReservedIdentifier, IsNotReservedInAnotherMajorVersion) {
     EXPECT_FALSE(isReserved(other));
 }
 
-INSTANTIATE_TEST_SUITE_P(Twelve, ReservedIdentifier, testing::ValuesIn(reservedRows), nameOfRow);
+INSTANTIATE_TEST_SUITE_P(Twelve, ReservedIdentifier, testing::ValuesIn(reservedRows), Support::nameOfRow);
 
 class UnreservedIdentifier : public testing::TestWithParam<Row> {};
 
 TEST_P(UnreservedIdentifier, IsNotReserved) { EXPECT_FALSE(isReserved(GetParam().full)); }
 
-INSTANTIATE_TEST_SUITE_P(Twelve, UnreservedIdentifier, testing::ValuesIn(unreservedRows), nameOfRow);
+INSTANTIATE_TEST_SUITE_P(Twelve, UnreservedIdentifier, testing::ValuesIn(unreservedRows), Support::nameOfRow);
 
 TEST(Reserved, AreTwelve) { EXPECT_EQ(reserved.size(), 12U); }
 
@@ -173,7 +173,7 @@ INSTANTIATE_TEST_SUITE_P(Several, OrdinaryTypeId,
                                          Ordinary{"TornByANul", {"norvex.spec:disc\0ipline-1.0.0", 29}},
                                          Ordinary{"OwnNameInTheNamespace", "norvex.spec:mine-1.0.0"},
                                          Ordinary{"EnumerationBase", "Enum"}),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         Support::nameOfRow);
 
 TEST(Enumeration, IsABareWord) { EXPECT_EQ(enumeration, "Enum"); }
 

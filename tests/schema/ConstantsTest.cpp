@@ -3,6 +3,7 @@
 #include "support/Complaint.h"
 #include "support/Fault.h"
 #include "support/Messages.h"
+#include "support/RowNames.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +23,6 @@ using Support::complaintOf;
 using Support::Complaints;
 using Support::Fault;
 using Support::messageOf;
-using Support::nameOfFault;
 
 /// A schema with the given text in place of its constants.
 struct Defined {
@@ -207,7 +207,7 @@ TEST_P(RefusedTypedValue, FailsAlikeInAnArray) {
     EXPECT_EQ(refusalOf<TypedValues>(R"([{"typeid": "good"}, )" + GetParam().text + ", false]"), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(TypedValues, RefusedTypedValue, testing::ValuesIn(typedValueFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(TypedValues, RefusedTypedValue, testing::ValuesIn(typedValueFaults), Support::nameOfRow);
 
 TEST(TypedValuesConstant, HasItsTypeIdsInTheirOrder) {
     EXPECT_EQ(readAll<TypedValues>(R"([{"typeid": "b"}, {"typeid": "a"}, {"typeid": "b"}])"),
@@ -264,7 +264,8 @@ TEST_P(RefusedUniqueStrings, FailsWithTheFirstFault) {
     EXPECT_EQ(refusalOf<UniqueStrings>(GetParam().text), GetParam().message);
 }
 
-INSTANTIATE_TEST_SUITE_P(UniqueStrings, RefusedUniqueStrings, testing::ValuesIn(uniqueStringsFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(UniqueStrings, RefusedUniqueStrings, testing::ValuesIn(uniqueStringsFaults),
+                         Support::nameOfRow);
 
 TEST(Constants, FailWhereARequiredOneIsUndefined) {
     const Defined defined("");

@@ -3,6 +3,7 @@
 #include "AllocationWatch.h"
 #include "SmallStack.h"
 #include "schema/JSON.h"
+#include "support/RowNames.h"
 
 #include <gtest/gtest.h>
 
@@ -126,8 +127,7 @@ const Refused faults[] = {
      "JSON parsing error at offset 0: Number too big to be stored in double."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Parsing, RefusedText, testing::ValuesIn(faults),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Parsing, RefusedText, testing::ValuesIn(faults), Support::nameOfRow);
 
 /// The types as which RapidJSON knows a number.
 struct Classified {
@@ -176,8 +176,7 @@ const Classified classified[] = {
     {"NegativeZeroWithAFraction", "-0.0", false, false, false, false, true},
 };
 
-INSTANTIATE_TEST_SUITE_P(Parsing, NumberType, testing::ValuesIn(classified),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Parsing, NumberType, testing::ValuesIn(classified), Support::nameOfRow);
 
 struct ReadNumber {
     const char* name;
@@ -214,8 +213,7 @@ const ReadNumber extremeNumbers[] = {
     {"ExponentBeyond32BitsAfterALongFraction", "0." + zeros(100'000) + "1e-2147483639", 0.0},
 };
 
-INSTANTIATE_TEST_SUITE_P(Parsing, ExtremeNumber, testing::ValuesIn(extremeNumbers),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Parsing, ExtremeNumber, testing::ValuesIn(extremeNumbers), Support::nameOfRow);
 
 TEST(Parsing, KeepsIntegersOf64BitsExact) {
     EXPECT_EQ(parse("9007199254740993").view().integer(), 9007199254740993);

@@ -1,6 +1,7 @@
 #include "schema/JSON.h"
 
 #include "AllocationWatch.h"
+#include "support/RowNames.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -80,8 +81,7 @@ const Typed typedTexts[] = {
     {"Exponent", "1e2", false, false, false, false, false, true},
 };
 
-INSTANTIATE_TEST_SUITE_P(JSONView, TypeOf, testing::ValuesIn(typedTexts),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(JSONView, TypeOf, testing::ValuesIn(typedTexts), Support::nameOfRow);
 
 TEST(JSONView, ReadsBooleans) {
     EXPECT_TRUE(parse("true").view().boolean());

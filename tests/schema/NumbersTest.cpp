@@ -1,5 +1,7 @@
 #include "schema/Numbers.h"
 
+#include "support/RowNames.h"
+
 #include <gtest/gtest.h>
 
 #include <bit>
@@ -143,8 +145,7 @@ const Nearest nearestDoubles[] = {
     {"LongTailThatBreaksATie", "9007199254740993." + zeros(100'000) + "1", 9007199254740994.0},
 };
 
-INSTANTIATE_TEST_SUITE_P(Numbers, ToDoubleOf, testing::ValuesIn(nearestDoubles),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Numbers, ToDoubleOf, testing::ValuesIn(nearestDoubles), Support::nameOfRow);
 
 struct TooBig {
     const char* name;
@@ -169,8 +170,7 @@ const TooBig tooBigNumbers[] = {
     {"FractionOfZerosOutweighedByItsExponent", "0." + zeros(400) + "1e800"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Numbers, ToDoubleBeyondMax, testing::ValuesIn(tooBigNumbers),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Numbers, ToDoubleBeyondMax, testing::ValuesIn(tooBigNumbers), Support::nameOfRow);
 
 TEST(ToDouble, AgreesWithTheCLibraryOnRandomNumbers) {
     constexpr std::uint64_t seed = 20'260'701;

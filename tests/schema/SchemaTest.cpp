@@ -3,6 +3,7 @@
 #include "support/Complaint.h"
 #include "support/Fault.h"
 #include "support/Messages.h"
+#include "support/RowNames.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +22,6 @@ using Support::complaintOf;
 using Support::Complaints;
 using Support::Fault;
 using Support::messageOf;
-using Support::nameOfFault;
 
 static_assert(!std::is_copy_constructible_v<Schema>, "views into a record would not survive");
 
@@ -50,7 +50,7 @@ const std::vector<Fault> syntaxFaults = {
      "JSON parsing error at offset 14: Missing a name for object member."},
     {"NoColon", R"({"typeid" "t"})", "JSON parsing error at offset 10: Missing a colon after a name of object member."},
 };
-INSTANTIATE_TEST_SUITE_P(Syntax, RefusedSchema, testing::ValuesIn(syntaxFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Syntax, RefusedSchema, testing::ValuesIn(syntaxFaults), Support::nameOfRow);
 
 const std::vector<Fault> typeIdFaults = {
     {"NoMembers", "{}", "Schema must specify a typeid string."},
@@ -71,7 +71,7 @@ const std::vector<Fault> typeIdFaults = {
     {"RootNull", "null", "Schema must specify a typeid string."},
     {"FirstOfTwo", R"({"typeid": 5, "typeid": "t", "inherits": ["b"]})", "Schema must specify a typeid string."},
 };
-INSTANTIATE_TEST_SUITE_P(TypeId, RefusedSchema, testing::ValuesIn(typeIdFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(TypeId, RefusedSchema, testing::ValuesIn(typeIdFaults), Support::nameOfRow);
 
 const std::vector<Fault> baseFaults = {
     {"Absent", R"({"typeid": "t"})", "Schema must specify an inheritance array."},
@@ -97,7 +97,7 @@ const std::vector<Fault> baseFaults = {
     {"FirstOfTwoMembers", R"({"typeid": "t", "inherits": [], "inherits": ["b"]})",
      "Inheritance clause must specify exactly one base schema."},
 };
-INSTANTIATE_TEST_SUITE_P(Base, RefusedSchema, testing::ValuesIn(baseFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Base, RefusedSchema, testing::ValuesIn(baseFaults), Support::nameOfRow);
 
 const std::vector<Fault> orderFaults = {
     {"TypeIdBeforeBase", R"({"typeid": 5, "inherits": 5})", "Schema must specify a typeid string."},
@@ -116,7 +116,7 @@ const std::vector<Fault> orderFaults = {
     {"ConstantsFirstEvenWhenLastInTheText", R"({"properties": 5, "typeid": "t", "inherits": ["b"], "constants": 5})",
      "Expected schema constants to be an array."},
 };
-INSTANTIATE_TEST_SUITE_P(Order, RefusedSchema, testing::ValuesIn(orderFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Order, RefusedSchema, testing::ValuesIn(orderFaults), Support::nameOfRow);
 
 /// The same fault in each of the two tables: N in a text or message stands for the table's name.
 class RefusedDefinitions : public testing::TestWithParam<Fault> {
@@ -174,7 +174,7 @@ const std::vector<Fault> tableFaults = {
     {"FirstOfTwoRepeatedIds", R"("N": [{"id": "y"}, {"id": "x"}, {"id": "x"}, {"id": "y"}])",
      "Item x in N array must be defined only once."},
 };
-INSTANTIATE_TEST_SUITE_P(Definitions, RefusedDefinitions, testing::ValuesIn(tableFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Definitions, RefusedDefinitions, testing::ValuesIn(tableFaults), Support::nameOfRow);
 
 TEST(Schema, NamesARepeatedIdWholeWhenItHoldsANul) {
     EXPECT_EQ(complaintOf([] { Text(withConstants(R"({"id": "a\u0000b"}, {"id": "a\u0000b"})")); }),

@@ -1,5 +1,7 @@
 #include "structure/Includes.h"
 
+#include "support/RowNames.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -66,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Include{"OfADocumentInTheUnits", "units/src/UnitsEngine.cpp", "#include \"schema/Schema.h\""},
                     Include{"OfAUnitInAPublicHeader", "include/parameters/MeasurableSpec.h", "#include <units/Unit.h>"},
                     Include{"OfTheStandardLibraryInAPublicHeader", "include/parameters/Taxon.h", "#include <string>"}),
-    [](const auto& test) { return test.param.name; });
+    Support::nameOfRow);
 
 class ForbiddenInclude : public testing::TestWithParam<Include> {};
 
@@ -97,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
         Include{"OfADocumentInAPublicHeader", "include/parameters/Taxon.h", "#include \"schema/JSON.h\""},
         Include{"OfAParameterInAPublicHeaderOfTheUnits", "units/include/units/Unit.h", "#include <parameters/Taxon.h>"},
         Include{"OfTheLibrarysInternalsInATool", "tools/ostra-params/main.cpp", "#include \"schema/JSON.h\""}),
-    [](const auto& test) { return test.param.name; });
+    Support::nameOfRow);
 
 struct Folder {
     const char* name;
@@ -117,7 +119,7 @@ INSTANTIATE_TEST_SUITE_P(Includes, SourcesUnder,
                                          Folder{"Engine", "src/engine"}, Folder{"PublicHeaders", "include"},
                                          Folder{"UnitsPublicHeaders", "units/include"}, Folder{"Units", "units/src"},
                                          Folder{"Tools", "tools"}),
-                         [](const auto& test) { return test.param.name; });
+                         Support::nameOfRow);
 
 TEST(Includes, AreAFaultInAFileThatNoRuleCovers) {
     EXPECT_THAT(Structure::faultsOfIncludes("src/other/New.cpp", ""),

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <ostream>
 #include <string>
 #include <vector>
@@ -29,7 +27,5 @@ inline const std::vector<AwkwardString> awkwardStrings = {
     {"InvalidUtf8", "\xff\xc3(\x80", "\xff\xc3(\x80"},
     {"Json", R"({"typeid": 5})", R"({\"typeid\": 5})"},
 };
-
-inline std::string nameOfAwkwardString(const testing::TestParamInfo<AwkwardString>& test) { return test.param.name; }
 
 } // namespace Support

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <ostream>
 #include <string>
 
@@ -15,7 +13,5 @@ struct Fault {
 
     friend void PrintTo(const Fault& fault, std::ostream* out) { *out << fault.name; }
 };
-
-inline std::string nameOfFault(const testing::TestParamInfo<Fault>& test) { return test.param.name; }
 
 } // namespace Support

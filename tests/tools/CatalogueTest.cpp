@@ -1,4 +1,5 @@
 #include "support/Catalogue.h"
+#include "support/RowNames.h"
 #include "tools/Tool.h"
 
 #include <gmock/gmock.h>
@@ -53,6 +54,6 @@ TEST_P(CheckedCatalogue, IsSoundAndCountedByKind) {
 INSTANTIATE_TEST_SUITE_P(Folders, CheckedCatalogue,
                          testing::Values(CatalogueFolder{"Examples", OSTRA_SOURCE_DIR "/examples/catalogue"},
                                          CatalogueFolder{"Large", std::getenv("OSTRA_CATALOGUE")}),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         Support::nameOfRow);
 
 } // namespace

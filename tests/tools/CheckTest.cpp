@@ -1,3 +1,4 @@
+#include "support/RowNames.h"
 #include "tools/Tool.h"
 
 #include <gmock/gmock.h>
@@ -171,8 +172,7 @@ const Fault faults[] = {
      "Invalid value."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Check, FaultyFile, testing::ValuesIn(faults),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Check, FaultyFile, testing::ValuesIn(faults), Support::nameOfRow);
 
 TEST(Check, DropsTheByteOrderMarkAtTheStartOfAFile) {
     const Folder folder;

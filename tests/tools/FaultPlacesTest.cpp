@@ -1,3 +1,4 @@
+#include "support/RowNames.h"
 #include "tools/Tool.h"
 
 #include <gmock/gmock.h>
@@ -183,8 +184,7 @@ const Fault faults[] = {
      "6:3: Typeid x for storageUnit constant in measurable spec schema s does not belong to a unit."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Check, FaultPlaces, testing::ValuesIn(faults),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Check, FaultPlaces, testing::ValuesIn(faults), Support::nameOfRow);
 
 TEST(Check, FindsASubcategoryWhoseParentIsOneToo) {
     const Folder folder;

@@ -1,3 +1,4 @@
+#include "support/RowNames.h"
 #include "tools/Tool.h"
 
 #include <gmock/gmock.h>
@@ -53,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(Output, FailingOutput,
                          testing::Values(Verb{"Export", {"export", examples, "-o"}},
                                          Verb{"Report", {"report", examples, "-o"}},
                                          Verb{"Deps", {"deps", discharge, examples, "--svg"}}),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         Support::nameOfRow);
 
 TEST(Output, FollowsALinkAndKeepsIt) {
     const Folder folder;

@@ -1,3 +1,4 @@
+#include "support/RowNames.h"
 #include "tools/Tool.h"
 
 #include <gmock/gmock.h>
@@ -61,7 +62,7 @@ INSTANTIATE_TEST_SUITE_P(
         Misuse{"OtherFile",
                {"check", "text.txt"},
                "ostra-params: text.txt is neither a folder nor a .json or .ndjson file.\n"}),
-    [](const auto& test) { return std::string(test.param.name); });
+    Support::nameOfRow);
 
 TEST(Tool, ChecksNothingWhenOneOfThePathsIsMissing) {
     const Folder folder;
@@ -139,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(Tool, FullDevice,
                                          Printing{"Diff", {"diff", "g.json", "g.json"}},
                                          Printing{"Report", {"report", "g.json", "-o", "-"}},
                                          Printing{"Help", {"--help"}}, Printing{"Version", {"--version"}}),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         Support::nameOfRow);
 
 TEST(Tool, ExitsAsItWouldWhenItsComplaintCannotBeWritten) {
     const Folder folder;

@@ -1,3 +1,4 @@
+#include "support/RowNames.h"
 #include "tools/Tool.h"
 
 #include <gmock/gmock.h>
@@ -118,8 +119,7 @@ const Hint hints[] = {
      "f.ndjson:1:1 is of the kind discipline, and the kind group is expected."},
 };
 
-INSTANTIATE_TEST_SUITE_P(Check, Hints, testing::ValuesIn(hints),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Check, Hints, testing::ValuesIn(hints), Support::nameOfRow);
 
 TEST(List, ShowsTypeIdKindAndName) {
     const Folder folder;
@@ -478,7 +478,7 @@ INSTANTIATE_TEST_SUITE_P(Tool, StandardInput,
                                          Verb{"Show", {"show", "g", "-"}}, Verb{"Deps", {"deps", "p", "-"}},
                                          Verb{"Export", {"export", "-", "-o", "-"}},
                                          Verb{"Report", {"report", "-", "-o", "-"}}),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         Support::nameOfRow);
 
 TEST(Tool, ReadsOneSchemaOfManyLinesFromStandardInput) {
     const Folder folder;

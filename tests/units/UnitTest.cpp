@@ -1,5 +1,7 @@
 #include <units/Unit.h>
 
+#include "support/RowNames.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -113,6 +115,6 @@ INSTANTIATE_TEST_SUITE_P(Unit, OrderedUnits,
                                          Order{"Case", "B", "a"}, Order{"BytesAreUnsigned", "z", "\xc3\xa4"},
                                          Order{"BytesAfterANul", std::string("a\0a", 3), std::string("a\0b", 3)},
                                          Order{"EmptyIsLeast", "", "a"}),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         Support::nameOfRow);
 
 } // namespace

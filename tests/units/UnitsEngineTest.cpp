@@ -1,6 +1,7 @@
 #include <units/UnitsEngine.h>
 
 #include "support/Messages.h"
+#include "support/RowNames.h"
 
 #include <gtest/gtest.h>
 
@@ -235,11 +236,9 @@ const Fault orderedFaults[] = {
      "Expected a non-empty string."},
 };
 
-const auto nameOfFault = [](const auto& test) { return std::string(test.param.name); };
-
-INSTANTIATE_TEST_SUITE_P(Structure, RefusedUnit, testing::ValuesIn(structureFaults), nameOfFault);
-INSTANTIATE_TEST_SUITE_P(Constants, RefusedUnit, testing::ValuesIn(constantFaults), nameOfFault);
-INSTANTIATE_TEST_SUITE_P(Order, RefusedUnit, testing::ValuesIn(orderedFaults), nameOfFault);
+INSTANTIATE_TEST_SUITE_P(Structure, RefusedUnit, testing::ValuesIn(structureFaults), Support::nameOfRow);
+INSTANTIATE_TEST_SUITE_P(Constants, RefusedUnit, testing::ValuesIn(constantFaults), Support::nameOfRow);
+INSTANTIATE_TEST_SUITE_P(Order, RefusedUnit, testing::ValuesIn(orderedFaults), Support::nameOfRow);
 
 TEST(UnitsEngine, RefusesATypeIdThatIsRegisteredAndNotResolved) {
     UnitsEngine engine;
