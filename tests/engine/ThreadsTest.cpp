@@ -1,6 +1,7 @@
 #include "support/Catalogue.h"
 #include "support/Picture.h"
 #include "support/SchemaTexts.h"
+#include "support/Tally.h"
 
 #include <parameters/ParametersEngine.h>
 
@@ -25,17 +26,32 @@ using Support::pictureOf;
 
 constexpr int threadCount = 4;
 
-/// Runs the same in several threads at once.
+Support::Tally& threadsTried = Support::addTally("threads beside others");
+Support::Tally& callsTried = Support::addTally("calls in threads beside others");
+
+/// Runs the same in several threads at once; the work returns how many calls it made.
 template <class Work>
 void inThreads(Work work) {
     std::vector<std::thread> threads;
     threads.reserve(threadCount);
     for (int i = 0; i < threadCount; ++i) {
-        threads.emplace_back(work, i);
+        threads.emplace_back([&work, i] { callsTried.add(work(i)); });
     }
     for (std::thread& thread : threads) {
         thread.join();
     }
+    threadsTried.add(threadCount);
+}
+
+/// Returns how many calls a picture took: one for each object, its schema and its dependencies.
+long callsFor(const std::string& picture) {
+    long calls = 0;
+    for (const char* line : {"\n  got", "\n  schema", "\n  depends"}) {
+        for (auto at = picture.find(line); at != std::string::npos; at = picture.find(line, at + 1)) {
+            ++calls;
+        }
+    }
+    return calls;
 }
 
 /// Returns an engine with objects whose lists nobody has asked for yet, and with pending schemas.
@@ -73,7 +89,11 @@ std::string everythingAbout(const ParametersEngine& engine) {
 TEST(Threads, ReadOneEngineAtOnce) {
     const ParametersEngine engine = loaded();
     std::vector<std::string> answers(threadCount);
-    inThreads([&](int i) { answers[static_cast<std::size_t>(i)] = everythingAbout(engine); });
+    inThreads([&](int i) {
+        std::string& answer = answers[static_cast<std::size_t>(i)];
+        answer = everythingAbout(engine);
+        return callsFor(answer);
+    });
     EXPECT_EQ(answers, std::vector<std::string>(threadCount, everythingAbout(engine)));
 }
 
@@ -86,7 +106,11 @@ TEST(Threads, ReadACatalogueOfEveryKindAtOnce) {
     loadedEngine.registerSchemas(batch);
     const ParametersEngine engine(loadedEngine); // one whose lists nobody has asked for
     std::vector<std::string> pictures(threadCount);
-    inThreads([&](int i) { pictures[static_cast<std::size_t>(i)] = pictureOf(engine); });
+    inThreads([&](int i) {
+        std::string& picture = pictures[static_cast<std::size_t>(i)];
+        picture = pictureOf(engine);
+        return callsFor(picture);
+    });
     EXPECT_EQ(pictures, std::vector<std::string>(threadCount, pictureOf(engine)));
     EXPECT_EQ(engine.findUnresolvable().size(), 0U);
 }
@@ -98,6 +122,7 @@ TEST(Threads, AskForTheSameListAtOnce) {
         for (int again = 0; again < 20; ++again) {
             sizes[static_cast<std::size_t>(i)] += engine.getAllBoolParameters().size();
         }
+        return 20;
     });
     EXPECT_EQ(sizes, std::vector<std::size_t>(threadCount, 800));
 }
@@ -107,7 +132,10 @@ TEST(Threads, AskForTheSameListAtOnceAfterItHasGrown) {
     EXPECT_EQ(engine.getAllGroups().size(), 40U);
     engine.resolveSchemas();
     std::vector<std::size_t> sizes(threadCount);
-    inThreads([&](int i) { sizes[static_cast<std::size_t>(i)] = engine.getAllGroups().size(); });
+    inThreads([&](int i) {
+        sizes[static_cast<std::size_t>(i)] = engine.getAllGroups().size();
+        return 1;
+    });
     EXPECT_EQ(sizes, std::vector<std::size_t>(threadCount, 41));
 }
 
@@ -122,6 +150,7 @@ TEST(Threads, CopyOneEngineAtOnceAndChangeTheirCopies) {
         }
         copy.resolveSchemas();
         EXPECT_EQ(copy.getGroup("pending").getName(), "Name");
+        return 12;
     });
     EXPECT_EQ(sizes, std::vector<std::size_t>(threadCount, 41 + 42 + 43 + 44 + 45));
     EXPECT_EQ(engine.getAllDisciplines().size(), 40U);
@@ -136,6 +165,7 @@ TEST(Threads, ChangeCopiesThatWereMadeInOneThread) {
         copy.resolveSchemas();
         EXPECT_EQ(copy.getAllGroups().size(), 41U);
         copy = ParametersEngine();
+        return 3;
     });
     EXPECT_EQ(engine.getAllGroups().size(), 40U);
 }
@@ -147,10 +177,11 @@ TEST(Threads, ChangeTheOriginalWhileOthersReadAndDropCopies) {
         if (i == 0) {
             engine.resolveSchemas();
             engine.registerDiscipline(Taxon("new", "New"));
-            return;
+            return 2;
         }
         EXPECT_EQ(copies[static_cast<std::size_t>(i)].getAllDisciplines().size(), 40U);
         copies[static_cast<std::size_t>(i)] = ParametersEngine();
+        return 1;
     });
     EXPECT_EQ(engine.getAllDisciplines().size(), 41U);
     EXPECT_EQ(copies[0].getAllDisciplines().size(), 40U);
@@ -162,6 +193,7 @@ TEST(Threads, ShareObjectsThatWereHandedOut) {
     inThreads([&](int) {
         std::vector<BoolParameter> copies(50, parameter);
         EXPECT_EQ(copies.back().getSpec().getCore().getDiscipline().getTypeId(), "d1");
+        return 4;
     });
     EXPECT_EQ(parameter.getCore().getTypeId(), "p1");
 }
@@ -171,6 +203,7 @@ TEST(Threads, MakeBuiltInObjectsAtOnce) {
     inThreads([&](int i) {
         names[static_cast<std::size_t>(i)] =
             ParametersEngine().getBoolSpec("norvex.spec:spec.bool-1.0.0").getCore().getDiscipline().getName();
+        return 1;
     });
     EXPECT_EQ(names, std::vector<std::string>(threadCount, "Common"));
 }

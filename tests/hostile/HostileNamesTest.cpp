@@ -170,31 +170,34 @@ class NamesOfOneHash : public testing::Test {
 protected:
     void SetUp() override {
         const std::hash<std::string> hash;
-        if (hash(names.front()) != hash(names.back())) {
+        if (hash(names_.front()) != hash(names_.back())) {
             GTEST_SKIP() << "This standard library hashes in another way.";
         }
     }
 
-    const std::vector<std::string> names = stringsOfOneHash();
+    const std::vector<std::string>& names() const { return names_; }
+
+private:
+    const std::vector<std::string> names_ = stringsOfOneHash();
 };
 
 TEST_F(NamesOfOneHash, DoNotSlowDownAnEngine) {
     ParametersEngine engine;
-    for (const std::string& name : names) {
+    for (const std::string& name : names()) {
         engine.registerGroup({name, "Name"});
     }
-    EXPECT_EQ(engine.getAllGroups().size(), names.size());
-    EXPECT_EQ(engine.getGroup(names.back()).getTypeId(), names.back());
+    EXPECT_EQ(engine.getAllGroups().size(), names().size());
+    EXPECT_EQ(engine.getGroup(names().back()).getTypeId(), names().back());
 }
 
 TEST_F(NamesOfOneHash, DoNotSlowDownAUnitsEngine) {
     Units::UnitsEngine engine;
-    for (const std::string& name : names) {
+    for (const std::string& name : names()) {
         engine.registerSchema(unitText(name));
     }
     engine.resolveSchemas();
-    EXPECT_EQ(engine.getAllUnits().size(), names.size());
-    EXPECT_EQ(engine.getUnit(names.back()).getTypeId(), names.back());
+    EXPECT_EQ(engine.getAllUnits().size(), names().size());
+    EXPECT_EQ(engine.getUnit(names().back()).getTypeId(), names().back());
 }
 
 } // namespace

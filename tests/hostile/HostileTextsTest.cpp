@@ -1,6 +1,7 @@
 #include "schema/AllocationWatch.h"
 #include "schema/SmallStack.h"
 #include "support/SchemaTexts.h"
+#include "support/Tally.h"
 
 #include <parameters/ParametersEngine.h>
 
@@ -27,6 +28,8 @@ using Support::quoted;
 using Support::schemaText;
 
 constexpr std::size_t million = 1'000'000;
+
+Support::Tally& texts = Support::addTally("hostile texts");
 
 std::string repeated(const std::string& part, std::size_t count) {
     std::string text;
@@ -101,6 +104,7 @@ namespace {
 
 /// Registers, resolves and exports, and returns the message of a refusal, or nothing.
 std::string outcomeOf(const std::string& text) {
+    texts.add(1);
     ParametersEngine engine;
     const AllocationWatch watch;
     try {

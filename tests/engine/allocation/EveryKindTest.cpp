@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <iostream>
 #include <string>
 #include <vector>
 
@@ -262,16 +261,5 @@ TEST(FailingDiagnosis, LeavesAnEngineAsItWas) {
     };
     EveryAllocation(find, faulty, pictureOf, false).fail();
 }
-
-/// Prints what was done in the end.
-class Summary : public testing::Environment {
-public:
-    void TearDown() override {
-        std::cout << Support::injectionCounts.operations << " operations, in which " << Support::injectionCounts.points
-                  << " requests for memory failed one by one\n";
-    }
-};
-
-const testing::Environment* const summary = testing::AddGlobalTestEnvironment(new Summary);
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "schema/AllocationWatch.h"
+#include "support/Tally.h"
 
 #include <parameters/ParametersEngine.h>
 
@@ -29,12 +30,8 @@ struct Operation {
 
 inline std::string nameOfOperation(const testing::TestParamInfo<Operation>& test) { return test.param.name; }
 
-/// What the tests of this program have done, for its last line.
-struct InjectionCounts {
-    long operations = 0;
-    long points = 0;
-};
-inline InjectionCounts injectionCounts;
+inline Tally& operations = addTally("operations with memory that ends");
+inline Tally& failedRequests = addTally("requests for memory that failed, one by one");
 
 template <class Objects>
 Answers keysOf(const Objects& objects) {
@@ -60,7 +57,7 @@ Ending endingOf(Call&& call, long failingRequest) {
     } catch (const std::bad_alloc&) {
         outOfMemory = true;
     }
-    injectionCounts.points += outOfMemory ? 1 : 0;
+    failedRequests.add(outOfMemory ? 1 : 0);
     return {watch.requests() > failingRequest, outOfMemory};
 }
 
@@ -90,7 +87,7 @@ public:
             ++request;
         }
         EXPECT_GT(request, 0) << "The operation asks for no memory at all.";
-        ++injectionCounts.operations;
+        operations.add(1);
     }
 
 private:
