@@ -9,15 +9,15 @@ namespace Parameters::Internal {
 
 Texts::Texts(std::span<const std::string_view> strings) {
     constexpr std::size_t limit = std::numeric_limits<std::uint32_t>::max();
+    if (strings.size() > limit) {
+        throw std::length_error("One object has more than 2^32 - 1 texts.");
+    }
     std::size_t length = 0;
     for (const std::string_view string : strings) {
         if (string.size() > limit - length) {
             throw std::length_error("The texts of one object are longer than 4 GiB.");
         }
         length += string.size();
-    }
-    if (strings.size() > limit) {
-        throw std::length_error("One object has more than 2^32 - 1 texts.");
     }
     void* memory = ::operator new(sizeof(Block) + strings.size() * sizeof(std::uint32_t) + length);
     block_ = new (memory) Block{{1}, static_cast<std::uint32_t>(strings.size())};

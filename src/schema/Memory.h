@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstddef>
-#include <cstring>
 #include <new>
 
 namespace Ostra {
@@ -16,14 +15,6 @@ public:
     static constexpr bool kNeedFree = true;
 
     void* Malloc(std::size_t size) { return size == 0 ? nullptr : ::operator new(size); }
-    void* Realloc(void* block, std::size_t oldSize, std::size_t newSize) {
-        void* moved = Malloc(newSize);
-        if (block != nullptr && moved != nullptr) {
-            std::memcpy(moved, block, oldSize < newSize ? oldSize : newSize);
-        }
-        Free(block);
-        return moved;
-    }
     static void Free(void* block) { ::operator delete(block); }
 };
 

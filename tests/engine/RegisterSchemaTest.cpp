@@ -23,6 +23,7 @@ using Support::boolSpecText;
 using Support::disciplineText;
 using Support::generalSpecText;
 using Support::groupText;
+using Support::measurableSpecText;
 using Support::messageOf;
 using Support::namedText;
 using Support::pictureOf;
@@ -88,6 +89,16 @@ TEST(MissingTypeIds, AreNotTheSchemasOwn) {
     ParametersEngine engine;
     EXPECT_EQ(engine.registerSchema(boolSpecText("s", "s")), nothing);
     EXPECT_EQ(engine.registerSchema(boolParameterText("p", "g", "p")), Missing({"g"}, {}));
+}
+
+TEST(MissingTypeIds, OfUnitsStandApart) {
+    ParametersEngine engine;
+    EXPECT_EQ(engine.registerSchema(measurableSpecText("s", "u", {"u", "v", "Name"})), Missing({}, {"u", "v", "Name"}));
+}
+
+TEST(MissingTypeIds, OfUnitsAreNotTheSchemasOwn) {
+    ParametersEngine engine;
+    EXPECT_EQ(engine.registerSchema(measurableSpecText("s", "s", {"s"})), Missing({}, {}));
 }
 
 TEST(MissingTypeIds, AreNotBuiltIn) {

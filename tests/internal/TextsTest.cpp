@@ -1,5 +1,7 @@
 #include "model/Texts.h"
 
+#include "support/Messages.h"
+
 #include <gtest/gtest.h>
 
 #include <cstddef>
@@ -17,6 +19,7 @@ namespace {
 
 using namespace std::string_view_literals;
 using Parameters::Internal::Texts;
+using Support::messageOf;
 
 static_assert(std::is_nothrow_default_constructible_v<Texts>);
 static_assert(std::is_nothrow_copy_constructible_v<Texts>);
@@ -93,12 +96,19 @@ TEST(Texts, MayBeLong) {
 // The lengths are checked before a byte is read, so that these views need no memory behind them.
 TEST(Texts, MayNotBeLongerThanTheirEndsCanSay) {
     const std::string_view tooLong("x", std::size_t{1} << 32);
-    EXPECT_THROW(Texts({tooLong}), std::length_error);
+    EXPECT_EQ(messageOf<std::length_error>([&] { Texts({tooLong}); }),
+              "The texts of one object are longer than 4 GiB.");
 }
 
 TEST(Texts, MayNotBeLongerTogetherThanTheirEndsCanSay) {
     const std::string_view half("x", std::size_t{1} << 31);
     EXPECT_THROW(Texts({half, half}), std::length_error);
+}
+
+TEST(Texts, MayNotBeMoreThanTheirCountCanSay) {
+    const std::string_view text("x");
+    const std::span tooMany(&text, std::size_t{1} << 32);
+    EXPECT_EQ(messageOf<std::length_error>([&] { Texts{tooMany}; }), "One object has more than 2^32 - 1 texts.");
 }
 
 TEST(Texts, MayNotOverflowTheSumOfTheirLengths) {

@@ -168,6 +168,7 @@ const TooBig tooBigNumbers[] = {
     {"LongInteger", "1" + zeros(100'000)},
     {"IntegerThatItsExponentDoesNotOutweigh", "1" + zeros(800) + "e-400"},
     {"FractionOfZerosOutweighedByItsExponent", "0." + zeros(400) + "1e800"},
+    {"FractionOfZerosOutweighedByItsSignedExponent", "0." + zeros(400) + "1e+800"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Numbers, ToDoubleBeyondMax, testing::ValuesIn(tooBigNumbers), Support::nameOfRow);

@@ -301,6 +301,11 @@ TEST(Schema, InheritsFromABaseInsideALongerText) {
     EXPECT_TRUE(text.schema.inherits(BuiltIn::group));
 }
 
+TEST(Schema, InheritsFromABaseBehindOneMoreCharacter) {
+    const Text text(R"({"typeid": "t", "inherits": ["xnorvex.parameter:group-1.0.0"]})");
+    EXPECT_TRUE(text.schema.inherits(BuiltIn::group));
+}
+
 TEST(Schema, DoesNotInheritFromAnotherMajorVersion) {
     const Text text(R"({"typeid": "t", "inherits": ["norvex.parameter:group-2.0.0"]})");
     EXPECT_FALSE(text.schema.inherits(BuiltIn::group));
