@@ -10,28 +10,28 @@ namespace Fuzz {
 namespace {
 
 enum : std::size_t {
-    enumeration,
-    floatRange,
-    intRange,
-    stringRange,
-    discipline,
-    domain,
-    group,
-    majorCategory,
-    subCategory,
-    boolSpec,
-    generalSpec,
-    intSpec,
-    measurableSpec,
-    referenceSpec,
-    stringSpec,
-    enumerationParameter,
-    boolParameter,
-    intParameter,
-    measurableParameter,
-    referenceParameter,
-    stringParameter,
-    unit,
+    Enumeration,
+    FloatRange,
+    IntRange,
+    StringRange,
+    Discipline,
+    Domain,
+    Group,
+    MajorCategory,
+    SubCategory,
+    BoolSpec,
+    GeneralSpec,
+    IntSpec,
+    MeasurableSpec,
+    ReferenceSpec,
+    StringSpec,
+    EnumerationParameter,
+    BoolParameter,
+    IntParameter,
+    MeasurableParameter,
+    ReferenceParameter,
+    StringParameter,
+    Unit,
 };
 
 constexpr const char* name = R"({"id": "name", "value": "Name"})";
@@ -40,8 +40,8 @@ constexpr const char* bounds = R"({"id": "fromBottom", "value": true}, {"id": "f
 constexpr const char* disciplinePrefix = "norvex.spec:discipline-1.";
 constexpr const char* groupPrefix = "norvex.parameter:group-1.";
 
-const Kind::Reference disciplineReference{discipline, disciplinePrefix, "discipline", false};
-const Kind::Reference groupReference{group, groupPrefix, "group", false};
+const Kind::Reference disciplineReference{Discipline, disciplinePrefix, "discipline", false};
+const Kind::Reference groupReference{Group, groupPrefix, "group", false};
 
 /// The version prefixes that no typeid may contain.
 constexpr std::array reserved{"norvex.range:range.string-1.",
@@ -62,11 +62,11 @@ bool isReserved(const std::string& typeId) {
                        [&](const char* prefix) { return typeId.find(prefix) != std::string::npos; });
 }
 
-bool isCategory(std::size_t kind) { return kind == majorCategory || kind == subCategory; }
+bool isCategory(std::size_t kind) { return kind == MajorCategory || kind == SubCategory; }
 
 } // namespace
 
-const std::size_t unitKind = unit;
+const std::size_t unitKind = Unit;
 
 const std::vector<Kind> kinds{
     {"Enum", name, {}, R"(, "properties": [{"id": "on", "value": 1}, {"id": "off", "value": 0}])"},
@@ -76,35 +76,35 @@ const std::vector<Kind> kinds{
     {"norvex.spec:discipline-1.0.0", name, {}},
     {"norvex.talmo.category:domain-1.0.0", name, {}},
     {"norvex.parameter:group-1.0.0", name, {}},
-    {"norvex.talmo.category:majorCategory-1.0.0", name, {{domain, nullptr, "domain", true}}},
-    {"norvex.talmo.category:subCategory-1.0.0", name, {{majorCategory, nullptr, "parent", true}}},
+    {"norvex.talmo.category:majorCategory-1.0.0", name, {{Domain, nullptr, "domain", true}}},
+    {"norvex.talmo.category:subCategory-1.0.0", name, {{MajorCategory, nullptr, "parent", true}}},
     {"norvex.spec:spec.bool-1.0.0", name, {disciplineReference}},
     {"norvex.spec:spec-1.0.0", name, {disciplineReference}},
     {"norvex.spec:spec.int64-2.0.0", name, {disciplineReference}},
-    {"norvex.spec:spec.measurable-2.0.0", name, {disciplineReference, {unit, nullptr, "storageUnit", true}}},
-    {"norvex.spec:spec.reference-1.0.0", name, {disciplineReference, {subCategory, nullptr, "category", false}}},
+    {"norvex.spec:spec.measurable-2.0.0", name, {disciplineReference, {Unit, nullptr, "storageUnit", true}}},
+    {"norvex.spec:spec.reference-1.0.0", name, {disciplineReference, {SubCategory, nullptr, "category", false}}},
     {"norvex.spec:spec.string-2.0.0", name, {disciplineReference}},
     {"norvex.parameter:parameter-2.0.0",
      name,
-     {{enumeration, nullptr, nullptr, true}, groupReference, {generalSpec, nullptr, "spec", true}},
+     {{Enumeration, nullptr, nullptr, true}, groupReference, {GeneralSpec, nullptr, "spec", true}},
      R"(, "properties": [{"id": "value", "typedValue": {"typeid": %}}])"},
     {"norvex.parameter:parameter.bool-2.0.0",
      name,
-     {groupReference, {boolSpec, "norvex.spec:spec.bool-1.", "spec", false}}},
+     {groupReference, {BoolSpec, "norvex.spec:spec.bool-1.", "spec", false}}},
     {"norvex.parameter:parameter.int64-3.0.0",
      name,
-     {groupReference, {intSpec, "norvex.spec:spec.int64-2.", "spec", false}, {intRange, nullptr, "range", false}}},
+     {groupReference, {IntSpec, "norvex.spec:spec.int64-2.", "spec", false}, {IntRange, nullptr, "range", false}}},
     {"norvex.parameter:parameter.measurable-3.0.0",
      name,
-     {groupReference, {measurableSpec, nullptr, "spec", true}, {floatRange, nullptr, "range", false}}},
+     {groupReference, {MeasurableSpec, nullptr, "spec", true}, {FloatRange, nullptr, "range", false}}},
     {"norvex.parameter:parameter.reference-2.0.0",
      name,
-     {groupReference, {referenceSpec, "norvex.spec:spec.reference-1.", "spec", false}}},
+     {groupReference, {ReferenceSpec, "norvex.spec:spec.reference-1.", "spec", false}}},
     {"norvex.parameter:parameter.string-3.0.0",
      name,
      {groupReference,
-      {stringSpec, "norvex.spec:spec.string-2.", "spec", false},
-      {stringRange, nullptr, "range", false}}},
+      {StringSpec, "norvex.spec:spec.string-2.", "spec", false},
+      {StringRange, nullptr, "range", false}}},
     {"norvex.unit:unit-1.0.0", name, {}},
 };
 
@@ -161,13 +161,13 @@ void Model::resolve(const std::string& typeId) { known_.at(typeId).resolved = tr
 
 void Model::resolveUnits() {
     for (auto& [typeId, known] : known_) {
-        known.resolved = known.resolved || known.schema.kind == unit;
+        known.resolved = known.resolved || known.schema.kind == Unit;
     }
 }
 
 bool Model::isPending(const std::string& typeId) const {
     const auto found = known_.find(typeId);
-    return found != known_.end() && !found->second.resolved && found->second.schema.kind != unit;
+    return found != known_.end() && !found->second.resolved && found->second.schema.kind != Unit;
 }
 
 bool Model::discard(const std::string& typeId) { return isPending(typeId) && known_.erase(typeId) == 1; }
@@ -184,7 +184,7 @@ bool Model::names(const Known& known, const Kind::Reference& reference, const st
     const std::size_t kind = found->second.schema.kind;
     // A subcategory's parent is a major category; a spec's category may be either.
     const bool fits = kind == reference.kind ||
-                      (known.schema.kind == referenceSpec && isCategory(reference.kind) && isCategory(kind));
+                      (known.schema.kind == ReferenceSpec && isCategory(reference.kind) && isCategory(kind));
     return fits && isBuildable(found->second);
 }
 
@@ -214,7 +214,7 @@ std::set<std::string> Model::unresolvable() const {
 std::set<std::string> Model::objects() const {
     std::set<std::string> typeIds;
     for (const auto& [typeId, known] : known_) {
-        if (known.resolved && known.schema.kind != unit) {
+        if (known.resolved && known.schema.kind != Unit) {
             typeIds.insert(typeId);
         }
     }

@@ -56,7 +56,7 @@ constexpr std::array<Word, 5> texts = {{{"materialGrade", "Material Grade"},
 constexpr std::array<Word, 3> options = {
     {{"isInsulated", "Insulated"}, {"hasFilter", "Has Filter"}, {"emergencySupply", "Emergency Supply"}}};
 constexpr std::array<Word, 3> choices = {
-    {{"controlMode", "Control Mode"}, {"earthingSystem", "Earthing System"}, {"pipeJoint", "Joint \\\"as built\\\""}}};
+    {{"controlMode", "Control Mode"}, {"earthingSystem", "Earthing System"}, {"pipeJoint", R"(Joint \"as built\")"}}};
 constexpr std::array<Word, 3> targets = {
     {{"servedRoom", "Served Room"}, {"hostElement", "Host Element"}, {"structuralMaterial", "Structural Material"}}};
 constexpr std::array<Word, 5> units = {{{"M3-PER-SEC", "Cubic Metre per Second"},

@@ -2,6 +2,7 @@
 #include "report/Results.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <exception>
 #include <iostream>
@@ -83,9 +84,9 @@ std::string figure(std::optional<double> value, const char* format = "%.2f") {
     if (!value) {
         return "";
     }
-    char text[32];
-    std::snprintf(text, sizeof text, format, *value);
-    return text;
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), format, *value);
+    return text.data();
 }
 
 std::string markOf(const Reach& reach, double measured) {

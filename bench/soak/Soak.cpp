@@ -86,9 +86,9 @@ Soak::Engine& Soak::engine() {
 const Schema& Soak::schema() { return catalogue()[random_.below(static_cast<std::uint32_t>(catalogue().size()))]; }
 
 std::vector<std::string> Soak::someTypeIds() {
-    std::vector<std::string> typeIds;
-    for (int i = 0; i < 20; ++i) {
-        typeIds.push_back(schema().typeId);
+    std::vector<std::string> typeIds(20);
+    for (std::string& typeId : typeIds) {
+        typeId = schema().typeId;
     }
     return typeIds;
 }
@@ -207,7 +207,7 @@ bool Soak::exportObjects() {
 bool Soak::copy() {
     const Engine& source = engine();
     if (engines_.size() < maxEngines) {
-        engines_.push_back(Engine(source));
+        engines_.emplace_back(source);
         return true;
     }
     engine() = source;

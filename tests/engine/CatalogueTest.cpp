@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdlib>
 #include <map>
@@ -140,11 +141,12 @@ TEST_P(Catalogue, ExportsToTextsThatLoadAgainAndExportToTheSame) {
 }
 
 TEST_P(Catalogue, LoadsTextByTextFromLastToFirst) {
-    for (auto text = texts.rbegin(); text != texts.rend(); ++text) {
-        if (isUnit(*text)) {
-            engine.getUnitsEngine().registerSchema(*text);
+    std::reverse(texts.begin(), texts.end());
+    for (const std::string& text : texts) {
+        if (isUnit(text)) {
+            engine.getUnitsEngine().registerSchema(text);
         } else {
-            engine.registerSchema(*text);
+            engine.registerSchema(text);
         }
     }
     engine.resolveSchemas();

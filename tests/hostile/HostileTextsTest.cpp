@@ -1,5 +1,6 @@
 #include "schema/AllocationWatch.h"
 #include "schema/SmallStack.h"
+#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 #include "support/Tally.h"
 
@@ -24,7 +25,6 @@ using Ostra::AllocationWatch;
 using Parameters::ParametersEngine;
 using Support::constant;
 using Support::disciplineText;
-using Support::quoted;
 using Support::schemaText;
 
 constexpr std::size_t million = 1'000'000;
@@ -189,8 +189,7 @@ const HostileInput deepTexts[] = {
     {"ClosingBrackets", [] { return repeated("]", million); }, parsingErrorAt(0, "Invalid value.")},
 };
 
-INSTANTIATE_TEST_SUITE_P(Deep, HostileText, testing::ValuesIn(deepTexts),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Deep, HostileText, testing::ValuesIn(deepTexts), Support::nameOfRow);
 
 const HostileInput longTexts[] = {
     {"MillionConstants", [] { return disciplineWith(numbered(R"({"id":"c)", R"(","value":0})", million)); }, ""},
@@ -226,8 +225,7 @@ const HostileInput longTexts[] = {
      parsingErrorAt(10 * million + 1, "Missing a closing quotation mark in string.")},
 };
 
-INSTANTIATE_TEST_SUITE_P(Long, HostileText, testing::ValuesIn(longTexts),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Long, HostileText, testing::ValuesIn(longTexts), Support::nameOfRow);
 
 const HostileInput brokenTexts[] = {
     {"InvalidUtf8", [] { return disciplineText("x", "\xff\xfe\xc3(\xe2\x82\xf0\x9f\x80\xc0\x80\xed\xa0\x80"); }, ""},
@@ -255,8 +253,7 @@ const HostileInput brokenTexts[] = {
     {"NumberBelowAnyDouble", [] { return floatRangeFrom("1e-400"); }, ""},
 };
 
-INSTANTIATE_TEST_SUITE_P(Broken, HostileText, testing::ValuesIn(brokenTexts),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Broken, HostileText, testing::ValuesIn(brokenTexts), Support::nameOfRow);
 
 TEST(HostileTexts, KeepInvalidUtf8ByteForByte) {
     const std::string name = "\xff\xfe\xc3(\xe2\x82\xf0\x9f\x80\xc0\x80\xed\xa0\x80";

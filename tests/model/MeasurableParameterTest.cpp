@@ -30,7 +30,6 @@ using Parameters::SpecCore;
 using Parameters::Taxon;
 using Parameters::UnrecognizedIdentifierException;
 using Parameters::ValidationException;
-using Support::constant;
 using Support::engineOf;
 using Support::engineWithUnits;
 using Support::Fault;

@@ -36,7 +36,6 @@ using Support::engineOf;
 using Support::Fault;
 using Support::groupText;
 using Support::messageOf;
-using Support::namedText;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;

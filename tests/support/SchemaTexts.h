@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -11,9 +12,9 @@ inline std::string quoted(const std::string& bytes) {
     std::string result = "\"";
     for (const char character : bytes) {
         if (static_cast<unsigned char>(character) < 0x20) {
-            char escape[8] = {};
-            std::snprintf(escape, sizeof escape, "\\u%04X", static_cast<unsigned>(character));
-            result += escape;
+            std::array<char, 8> escape{};
+            std::snprintf(escape.data(), escape.size(), "\\u%04X", static_cast<unsigned>(character));
+            result += escape.data();
             continue;
         }
         if (character == '"' || character == '\\') {

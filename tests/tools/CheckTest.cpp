@@ -9,7 +9,6 @@
 namespace {
 
 using testing::HasSubstr;
-using testing::Not;
 using testing::StartsWith;
 
 const std::string discipline = R"({"typeid": "ship.discipline:hull-1.0.0", "inherits": ["norvex.spec:discipline-1.0.0"],

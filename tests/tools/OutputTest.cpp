@@ -42,7 +42,7 @@ class FailingOutput : public testing::TestWithParam<Verb> {};
 TEST_P(FailingOutput, IsSaidAndLeavesNothing) {
     const Folder folder;
     std::vector<std::string> arguments = GetParam().arguments;
-    arguments.push_back("nowhere/output.ndjson");
+    arguments.emplace_back("nowhere/output.ndjson");
     const Outcome outcome = folder.run(arguments);
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_THAT(outcome.err, StartsWith("ostra-params: Cannot write nowhere/output.ndjson"));

@@ -172,6 +172,7 @@ TEST(List, KnowsTheCaseOfLettersBeyondAscii) {
 
 TEST(List, ShowsWhatATerminalWouldObeyAsHexadecimalDigits) {
     const Folder folder;
+    // NOLINTNEXTLINE(misc-misleading-bidirectional): what turns the text around is what is tested
     folder.write("f.ndjson", group("g", "\\u001b[2J \u009b2J \u202e \u2066 \u00e4 \u202f"));
     EXPECT_EQ(folder.run({"list"}).out,
               "g  group  \\x1B[2J \\xC2\\x9B2J \\xE2\\x80\\xAE \\xE2\\x81\\xA6 \u00e4 \u202f\n");

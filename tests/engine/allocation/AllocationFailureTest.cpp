@@ -134,7 +134,7 @@ const Operation changes[] = {
      }},
 };
 
-INSTANTIATE_TEST_SUITE_P(Allocation, FailingChange, testing::ValuesIn(changes), Support::nameOfOperation);
+INSTANTIATE_TEST_SUITE_P(Allocation, FailingChange, testing::ValuesIn(changes), Support::nameOfRow);
 
 class FailingQuery : public testing::TestWithParam<Operation> {};
 
@@ -208,7 +208,7 @@ const Operation queries[] = {
      }},
 };
 
-INSTANTIATE_TEST_SUITE_P(Allocation, FailingQuery, testing::ValuesIn(queries), Support::nameOfOperation);
+INSTANTIATE_TEST_SUITE_P(Allocation, FailingQuery, testing::ValuesIn(queries), Support::nameOfRow);
 
 /// A batch of schemas that name each other and a unit, with keys in the order of names.
 const std::map<std::string, std::string> batch{{"a", boolParameterText("a", "b", "c")},

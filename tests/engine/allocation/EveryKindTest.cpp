@@ -174,7 +174,7 @@ TEST_P(FailingChangeOfEachKind, LeavesAnEngineThatSharesItsStateAsItWas) {
     EveryAllocation(GetParam(), unshared, pictureOf, true).fail();
 }
 
-INSTANTIATE_TEST_SUITE_P(Allocation, FailingChangeOfEachKind, testing::ValuesIn(changes()), Support::nameOfOperation);
+INSTANTIATE_TEST_SUITE_P(Allocation, FailingChangeOfEachKind, testing::ValuesIn(changes()), Support::nameOfRow);
 
 TEST(FailingDiscard, LeavesAnEngineThatSharesItsStateAsItWas) {
     const Operation discard{"DiscardPending", [](ParametersEngine& engine) {
@@ -246,7 +246,7 @@ TEST_P(FailingQueryOfEachKind, LeavesAnEngineAsItWas) {
     EveryAllocation(GetParam(), unshared, pictureOf, false).fail();
 }
 
-INSTANTIATE_TEST_SUITE_P(Allocation, FailingQueryOfEachKind, testing::ValuesIn(queries()), Support::nameOfOperation);
+INSTANTIATE_TEST_SUITE_P(Allocation, FailingQueryOfEachKind, testing::ValuesIn(queries()), Support::nameOfRow);
 
 /// A fault is pending in each kind that can have one: what is found of them needs memory at many places.
 TEST(FailingDiagnosis, LeavesAnEngineAsItWas) {

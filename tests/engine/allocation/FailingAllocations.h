@@ -1,6 +1,7 @@
 #pragma once
 
 #include "schema/AllocationWatch.h"
+#include "support/RowNames.h"
 #include "support/Tally.h"
 
 #include <parameters/ParametersEngine.h>
@@ -27,8 +28,6 @@ struct Operation {
 
     friend void PrintTo(const Operation& operation, std::ostream* out) { *out << operation.name; }
 };
-
-inline std::string nameOfOperation(const testing::TestParamInfo<Operation>& test) { return test.param.name; }
 
 inline Tally& operations = addTally("operations with memory that ends");
 inline Tally& failedRequests = addTally("requests for memory that failed, one by one");
