@@ -187,8 +187,8 @@ TYPED_TEST(BuiltInCoreSpec, KeepsTheTypeIdAskedFor) {
 }
 
 TYPED_TEST(BuiltInCoreSpec, HasNoOtherMajorVersion) {
-    for (const std::string typeId : TestFixture::T::ofOtherMajorVersions) {
-        EXPECT_EQ(this->messageOfMissing(typeId), TestFixture::T::missed + typeId + ".");
+    for (const char* typeId : TestFixture::T::ofOtherMajorVersions) {
+        EXPECT_EQ(this->messageOfMissing(typeId), std::string(TestFixture::T::missed) + typeId + ".");
     }
 }
 
