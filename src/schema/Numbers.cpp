@@ -7,7 +7,7 @@ namespace Ostra {
 
 namespace {
 
-/// Returns the exponent that a number writes, or the nearest that 64 bits hold.
+/// Returns the exponent that a number writes, or one that is as far out for any number that memory holds.
 std::int64_t writtenExponent(std::string_view number) {
     const std::size_t mark = number.find_first_of("eE");
     if (mark == std::string_view::npos) {
@@ -17,11 +17,10 @@ std::int64_t writtenExponent(std::string_view number) {
     if (digits.front() == '+') {
         digits.remove_prefix(1);
     }
-    std::int64_t exponent = 0;
-    if (std::from_chars(digits.data(), digits.data() + digits.size(), exponent).ec != std::errc()) {
-        return digits.front() == '-' ? INT64_MIN / 2 : INT64_MAX / 2; // halves, to leave room for a sum
-    }
-    return exponent;
+    constexpr std::int64_t far = INT64_MAX / 2;                 // which leaves room for a sum
+    std::int64_t exponent = digits.front() == '-' ? -far : far; // stays when 64 bits do not hold what is written
+    std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
+    return std::clamp(exponent, -far, far);
 }
 
 /// Tells which end of the doubles a number is beyond. The place of its first digit that counts decides, shifted by its
