@@ -42,7 +42,8 @@ private:
     std::string_view base_;
     bool beginsOnly_; // an identifier can be in the base at its beginning alone, which is sooner seen than searched
     std::array<std::byte, 2048> buffer_; // the definitions of most schemas fit
-    std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size()};
+    // What does not fit comes from operator new: the default resource is the application's, and its threads share it.
+    std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size(), std::pmr::new_delete_resource()};
     Definitions constants_{&memory_};
     Definitions properties_{&memory_};
 };

@@ -9,6 +9,7 @@
 
 #include <map>
 #include <memory>
+#include <memory_resource>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -271,14 +272,24 @@ TEST(Schema, TakesTheFirstOfTwoMembersOfOneName) {
     EXPECT_EQ(Schema::valueOf(text.schema.properties().find("p").value()).integer(), 3);
 }
 
-TEST(Schema, HoldsMoreDefinitionsThanItsOwnBuffer) {
+std::string withAThousandConstants() {
     std::string elements = R"({"id": "0", "value": 0})";
     for (int id = 1; id < 1000; ++id) {
         elements += R"(, {"id": ")" + std::to_string(id) + R"(", "value": )" + std::to_string(id) + "}";
     }
-    const Text text(withConstants(elements));
+    return withConstants(elements);
+}
+
+TEST(Schema, HoldsMoreDefinitionsThanItsOwnBuffer) {
+    const Text text(withAThousandConstants());
     EXPECT_EQ(text.schema.constants().size(), 1000U);
     EXPECT_EQ(Schema::valueOf(text.schema.constants().find("999").value()).integer(), 999);
+}
+
+TEST(Schema, AsksNothingOfTheMemoryResourceThatTheApplicationHasMadeTheDefault) {
+    std::pmr::memory_resource* const before = std::pmr::set_default_resource(std::pmr::null_memory_resource());
+    EXPECT_NO_THROW(Text{withAThousandConstants()});
+    std::pmr::set_default_resource(before);
 }
 
 TEST(Schema, NeedsItsTextNoLonger) {
