@@ -1,5 +1,7 @@
 #pragma once
 
+#include "schema/Immortal.h"
+
 #include <units/Unit.h>
 
 #include <optional>
@@ -16,7 +18,7 @@ inline constexpr char kindTag = 0;
 template <class K>
 typename K::Object standInOf(std::string_view typeId) {
     if (typeId == K::builtIn.full()) {
-        static const typename K::Object usual = K::standIn(typeId); // nearly all that name a built-in name this one
+        static const auto& usual = Ostra::immortal(K::standIn(typeId)); // nearly all that name a built-in name this one
         return usual;
     }
     return K::standIn(typeId);

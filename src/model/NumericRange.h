@@ -7,6 +7,7 @@
 #include "model/Writing.h"
 #include "schema/BuiltIn.h"
 #include "schema/Constants.h"
+#include "schema/Immortal.h"
 #include "schema/JSON.h"
 #include "schema/Schema.h"
 
@@ -79,7 +80,7 @@ public:
         if (const auto typedValue = constants.find("range")) {
             return readRangeConstant<Object>(schema, *typedValue, {{base, &readInline}});
         }
-        static const Object unbounded(false, Number{}, false, Number{});
+        static const auto& unbounded = Ostra::immortal(Object(false, Number{}, false, Number{}));
         return {std::nullopt, unbounded};
     }
 
@@ -109,7 +110,7 @@ public:
 
     /// Returns the texts of a range that belongs to a parameter; all of them share one block.
     static Texts baseTexts() {
-        static const Texts texts{base.full()};
+        static const auto& texts = Ostra::immortal(Texts{base.full()});
         return texts;
     }
 

@@ -2,6 +2,7 @@
 
 #include "model/Writing.h"
 #include "schema/BuiltIn.h"
+#include "schema/Immortal.h"
 
 #include <parameters/ValidationException.h>
 
@@ -179,7 +180,7 @@ RangeReference<StringRange> StringRangeKind::readConstant(const Ostra::Schema& s
                                                {BuiltIn::setStringRange, &readInlineSet},
                                                {BuiltIn::regexStringRange, &readInlineRegex}});
     }
-    static const StringRange anyText;
+    static const auto& anyText = Ostra::immortal(StringRange());
     return {std::nullopt, anyText};
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "schema/Immortal.h"
+
 #include <exception>
 #include <memory>
 #include <string>
@@ -30,7 +32,8 @@ public:
 
     /// The one factory of this class; it has no state, so every document can share it.
     static const std::shared_ptr<const ExceptionFactory>& shared() {
-        static const std::shared_ptr<const ExceptionFactory> factory = std::make_shared<ExceptionFactoryOf>();
+        static const auto& factory =
+            immortal<std::shared_ptr<const ExceptionFactory>>(std::make_shared<ExceptionFactoryOf>());
         return factory;
     }
 };
