@@ -97,6 +97,9 @@ void Engine::findMissing(const Texts& named, std::string_view ownTypeId, std::se
 
 void Engine::resolveSchemas() {
     units_.resolveSchemas();
+    if (!registry_.read().hasPending()) {
+        return; // and a copy goes on sharing its tables
+    }
     Registry& registry = registry_.write();
     registry.shrinkPending();
     Resolution resolution(registry, units_);

@@ -89,6 +89,10 @@ public:
         return entry != nullptr && !entry->resolved;
     }
 
+    bool hasPending() const noexcept {
+        return anyKind(StoreOrder{}, [this]<class K>() { return !store<K>().pending.empty(); });
+    }
+
     /// Calls visit.operator()<K>(object) with the object of that typeid, whatever its kind; returns whether there is
     /// one.
     template <class Visitor>

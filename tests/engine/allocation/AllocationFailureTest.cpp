@@ -294,4 +294,16 @@ TEST(FailingResolution, KeepsWhatIsPendingWhenThereIsAFaultToo) {
     }
 }
 
+TEST(Resolution, OfNothingLetsACopyGoOnSharingItsTables) {
+    if (!Ostra::AllocationWatch::works()) {
+        GTEST_SKIP() << "requests for memory are not seen in this build";
+    }
+    ParametersEngine engine = prepared(0);
+    engine.resolveSchemas();
+    ParametersEngine copy = engine;
+    const Ostra::AllocationWatch watch;
+    copy.resolveSchemas();
+    EXPECT_EQ(watch.requests(), 0);
+}
+
 } // namespace
