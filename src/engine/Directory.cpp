@@ -22,6 +22,9 @@ const Directory::Entry* Directory::find(const Key& key) const noexcept {
 }
 
 void Directory::reserveOne() {
+    if (free_ != none) {
+        return;
+    }
     if (entries_.size() >= limit) {
         throw std::length_error("An engine holds at most 2^31 objects.");
     }
@@ -35,20 +38,23 @@ void Directory::reserveOne() {
 }
 
 Directory::EntryId Directory::add(const Entry& entry, std::uint32_t hash) noexcept {
-    const auto id = static_cast<EntryId>(entries_.size());
-    entries_.push_back(entry);
+    auto id = free_;
+    if (id != none) {
+        free_ = entries_[id].place;
+        entries_[id] = entry;
+    } else {
+        id = static_cast<EntryId>(entries_.size());
+        entries_.push_back(entry);
+    }
     place({hash, id});
     return id;
 }
 
 void Directory::remove(EntryId id) noexcept {
     vacate(slotOf(id));
-    const auto last = static_cast<EntryId>(entries_.size() - 1);
-    if (id != last) {
-        slots_[slotOf(last)].entry = id;
-        entries_[id] = entries_[last];
-    }
-    entries_.pop_back();
+    // The last entry could fill the gap, but to find its slot its typeid would be hashed, however long that is.
+    entries_[id] = {{}, free_, 0, false};
+    free_ = id;
 }
 
 std::size_t Directory::slotOf(EntryId id) const noexcept {

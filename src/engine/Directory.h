@@ -43,10 +43,9 @@ public:
     void reserveOne();
     /// Adds an entry for a typeid of that hash that has none, after reserveOne.
     EntryId add(const Entry& entry, std::uint32_t hash) noexcept;
-    /// Removes an entry. The last one takes its id.
+    /// Removes an entry. The next one that is added takes its id.
     void remove(EntryId id) noexcept;
     EntryId idOf(const Entry& entry) const noexcept { return static_cast<EntryId>(&entry - entries_.data()); }
-    std::size_t size() const noexcept { return entries_.size(); }
 
 private:
     struct Slot {
@@ -62,6 +61,7 @@ private:
     void vacate(std::size_t at) noexcept;
 
     std::vector<Entry> entries_;
+    EntryId free_ = none;     // an id that is free; the place of its entry is the next one
     std::vector<Slot> slots_; // a power of two of them, or none; collisions go to the next slot
 };
 

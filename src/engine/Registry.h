@@ -128,10 +128,6 @@ public:
             directory_.remove(id); // while the record still holds the typeid
             pending.pop_back();
         });
-        if (id < directory_.size() && !directory_[id].resolved) { // another entry has taken the id
-            withKind(directory_[id].kind,
-                     [&]<class K>() { std::get<kindIndex<K>>(stores_).pending[directory_[id].place].entry = id; });
-        }
     }
 
     /// Stores an object whose typeid is new. Changes nothing when it throws.

@@ -200,4 +200,19 @@ TEST_F(NamesOfOneHash, DoNotSlowDownAUnitsEngine) {
     EXPECT_EQ(engine.getUnit(names().back()).getTypeId(), names().back());
 }
 
+TEST(HostileNames, OfManyBytesDoNotSlowDownDiscardingOthers) {
+    constexpr int count = 100'000;
+    ParametersEngine engine;
+    for (int i = 0; i < count; ++i) {
+        engine.registerSchema(groupText(std::to_string(i)));
+    }
+    const std::string longName(16 * million, 'x');
+    engine.registerSchema(groupText(longName));
+    for (int i = count; i-- > 0;) {
+        ASSERT_TRUE(engine.discardPending(std::to_string(i)));
+    }
+    engine.resolveSchemas();
+    EXPECT_EQ(engine.getAllGroups().count(longName), 1U);
+}
+
 } // namespace
