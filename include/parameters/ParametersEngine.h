@@ -186,7 +186,8 @@ public:
     bool isRegistered(const std::string& typeId) const;
 
     /// Returns the units engine, through which units can be registered and resolved directly. The reference is good
-    /// until the engine is assigned to or destroyed; when the engine is moved, it belongs to the new one.
+    /// until the engine is assigned to or destroyed; when the engine is moved, it belongs to the new one. An engine
+    /// whose units engine was moved from may only be assigned to or destroyed.
     Units::UnitsEngine& getUnitsEngine();
 
     /// Returns what values a parameter schema describes; None for other kinds, for enumeration parameters, and for a
