@@ -56,7 +56,8 @@ std::uint64_t makeSeed() noexcept {
 
 std::uint64_t hashOf(std::string_view bytes) noexcept {
     static const std::uint64_t seed = makeSeed();
-    std::uint64_t hash = seed ^ mix(bytes.size() ^ oddA, oddB);
+    // Not seed ^ mix(...): the first two words would then meet the same unknown, and could be chosen to change places.
+    std::uint64_t hash = mix(bytes.size() ^ oddA ^ seed, oddB);
     const char* byte = bytes.data();
     std::size_t left = bytes.size();
     for (; left > 16; byte += 16, left -= 16) {

@@ -12,6 +12,7 @@
 
 namespace {
 
+using namespace std::string_literals;
 using Ostra::hashOf;
 
 TEST(Hash, IsTheSameForTheSameBytesWhereverTheyLie) {
@@ -50,6 +51,11 @@ TEST(Hash, DependsOnEveryBitOfEveryByte) {
 TEST(Hash, DependsOnTheOrderOfWords) {
     EXPECT_NE(hashOf("first wosecond w"), hashOf("second wfirst wo"));
     EXPECT_NE(hashOf("first words are 1second words are "), hashOf("second words are first words are 1"));
+}
+
+TEST(Hash, TellsApartWordsThatWereChosenToChangePlaces) {
+    // The words of one are those of the other, with a constant of the hash taken out.
+    EXPECT_NE(hashOf("AAAAAAAABBBBBBBB"), hashOf("\x57\x05\x28\xe9\x00\xda\x35\x50\x54\x06\x2b\xea\x03\xd9\x36\x53"s));
 }
 
 /// Returns how many of the typeids share the fullest of as many places as there are typeids.
