@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <set>
 #include <string>
 
@@ -27,6 +28,8 @@ struct Hostile {
     const char* name;
     std::string typeId;
 };
+
+void PrintTo(const Hostile& row, std::ostream* out) { *out << row.name; }
 
 const Hostile hostile[] = {
     {"Nul", "\0"s},

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -163,6 +164,8 @@ struct BuiltIn {
     const char* displayName;
 };
 
+void PrintTo(const BuiltIn& row, std::ostream* out) { *out << row.name; }
+
 const BuiltIn builtIns[] = {
     {"Discipline", "Discipline", "norvex.spec:discipline-1.0.0", "Common"},
     {"DisciplineOfOtherVersion", "Discipline", "norvex.spec:discipline-1.12.3", "Common"},
@@ -308,6 +311,8 @@ struct Question {
     const char* name;
     std::string typeId;
 };
+
+void PrintTo(const Question& row, std::ostream* out) { *out << row.name; }
 
 const Question taken[] = {
     {"StringRange", "norvex.range:range.string-1.0.0"},

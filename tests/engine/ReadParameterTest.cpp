@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 namespace {
@@ -86,6 +87,8 @@ struct Fault {
     const char* message;
 };
 
+void PrintTo(const Fault& row, std::ostream* out) { *out << row.name; }
+
 const Fault faults[] = {
     {"UnknownGroup", boolParameterText("p", "x", "spec"), "Could not find group with typeid x."},
     {"PendingGroup", boolParameterText("p", "pending group", "spec"),
@@ -156,6 +159,8 @@ struct Typed {
     std::string text;
     ValueType type;
 };
+
+void PrintTo(const Typed& row, std::ostream* out) { *out << row.name; }
 
 const Typed typed[] = {
     {"BoolParameter", Support::namedText("p", parameterBase, "Name"), Parameters::Bool},

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <set>
 #include <string>
 #include <utility>
@@ -279,6 +280,8 @@ struct Fault {
     std::string text;
     const char* message;
 };
+
+void PrintTo(const Fault& row, std::ostream* out) { *out << row.name; }
 
 const Fault faults[] = {
     {"BaseOfNoKind", namedText("x", "some base", "Name"), "Inheritance from an unrecognized base schema."},
