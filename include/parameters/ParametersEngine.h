@@ -232,7 +232,8 @@ public:
 
     /// Turns all pending schemas, units first, into objects; schemas may name each other in whatever order they were
     /// registered. All or nothing: when it throws, pending schemas stay pending and no object is added, save that
-    /// the units engine may have resolved its own. Costs time in proportion to the number of pending schemas.
+    /// the units engine may have resolved its own. Costs time in proportion to the number of pending schemas, and to
+    /// that of all units when a measurable spec is among them.
     /// @throws ValidationException "Dependency T in schema S is missing or does not represent an object of the expected
     ///         type."
     /// @throws ValidationException "Typeid T for storageUnit constant in measurable spec schema S does not belong to a

@@ -20,7 +20,7 @@ public:
     void boolean(bool value) { writer_.Bool(value); }
     void integer(std::int64_t value) { writer_.Int64(value); }
     void unsignedInteger(std::uint64_t value) { writer_.Uint64(value); }
-    /// Writes the shortest text that reads back as the same double.
+    /// Writes a short text that reads back as the same double.
     /// @throws std::domain_error if the number is not finite.
     void number(double value);
     /// @throws std::length_error if the string is too long to be written.
