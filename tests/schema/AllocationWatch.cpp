@@ -106,8 +106,8 @@ void operator delete(void* block) noexcept { Ostra::release(block); }
 
 void operator delete(void* block, std::size_t) noexcept { Ostra::release(block); }
 
-// The standard library's forms that report failure by null go through those above, but a sanitizer brings its own, whose
-// memory is not for the operator delete above.
+// The standard library's forms that report failure by null go through those above, but a sanitizer brings its own,
+// whose memory is not for the operator delete above.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     try {
         return ::operator new(size);
