@@ -295,9 +295,6 @@ TEST(FailingResolution, KeepsWhatIsPendingWhenThereIsAFaultToo) {
 }
 
 TEST(Resolution, OfNothingLetsACopyGoOnSharingItsTables) {
-    if (!Ostra::AllocationWatch::works()) {
-        GTEST_SKIP() << "requests for memory are not seen in this build";
-    }
     ParametersEngine engine = prepared(0);
     engine.resolveSchemas();
     ParametersEngine copy = engine;
@@ -305,5 +302,17 @@ TEST(Resolution, OfNothingLetsACopyGoOnSharingItsTables) {
     copy.resolveSchemas();
     EXPECT_EQ(watch.requests(), 0);
 }
+
+/// Leaves out all tests of the program where it cannot let requests for memory fail.
+class Requirement : public testing::Environment {
+public:
+    void SetUp() override {
+        if (!Ostra::AllocationWatch::works()) {
+            GTEST_SKIP() << "requests for memory are not seen in this build";
+        }
+    }
+};
+
+const testing::Environment* const requirement = testing::AddGlobalTestEnvironment(new Requirement);
 
 } // namespace
