@@ -53,7 +53,8 @@ Directory::EntryId Directory::add(const Entry& entry, std::uint32_t hash) noexce
 void Directory::remove(EntryId id) noexcept {
     vacate(slotOf(id));
     // The last entry could fill the gap, but to find its slot its typeid would be hashed, however long that is.
-    entries_[id] = {{}, free_, 0, false};
+    entries_[id] = Entry{};
+    entries_[id].place = free_;
     free_ = id;
 }
 
