@@ -1,0 +1,413 @@
+#pragma once
+
+#include <parameters/Export.h>
+#include <parameters/KindInfo.h>
+#include <parameters/ParametersEngine.h>
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+namespace Parameters {
+
+namespace Internal {
+
+template <class Value, class = void>
+struct HasCore : std::false_type {};
+template <class Value>
+struct HasCore<Value, std::void_t<decltype(std::declval<const Value&>().getCore())>> : std::true_type {};
+
+} // namespace Internal
+
+/// @addtogroup kinds
+/// @{
+
+/// How an engine is asked for the objects of a kind. What the operations throw and cost is what those of
+/// ParametersEngine do, which they are under one name for all kinds.
+template <class Kind, auto getX, auto getAllX, auto registerX>
+struct KindOf {
+    /// What the kind is called, and how its schemas are known.
+    static constexpr KindInfo info{Kind::description};
+
+    /// The class of the objects.
+    using Value = decltype((std::declval<const ParametersEngine&>().*getX)(std::string()));
+
+    /// What readValueType returns for schemas of the kind; None for the kinds that cannot be read by themselves.
+    static constexpr ValueType valueType = None;
+
+    /// Returns the object of that type identifier, as getX does.
+    static Value get(const ParametersEngine& engine, const std::string& typeId) { return (engine.*getX)(typeId); }
+
+    /// Returns all objects of the kind by type identifier, as getAllX does.
+    static std::map<std::string, Value> getAll(const ParametersEngine& engine) { return (engine.*getAllX)(); }
+
+    /// Registers an object made in code, as registerX does.
+    static void add(ParametersEngine& engine, const Value& object) { (engine.*registerX)(object); }
+
+    /// Returns the type identifier of an object, its core's where it has one.
+    static std::string typeIdOf(const Value& object) {
+        if constexpr (Internal::HasCore<Value>::value) {
+            return object.getCore().getTypeId();
+        } else {
+            return object.getTypeId();
+        }
+    }
+
+    /// Returns the type identifiers that a registered object names; none for the kinds that name nothing.
+    static std::set<std::string> getDependencies(const ParametersEngine& engine, const Value& object) {
+        return info.hasDependencies() ? engine.getDependencies(typeIdOf(object)) : std::set<std::string>();
+    }
+
+    /// Returns the schema of a registered object.
+    static std::string getSchema(const ParametersEngine& engine, const Value& object) {
+        return engine.getSchema(typeIdOf(object));
+    }
+};
+
+/// As KindOf, for the parameters that can be read from a text without registering them.
+template <class Kind, auto getX, auto getAllX, auto registerX, auto readX, ValueType type>
+struct ReadableKindOf : KindOf<Kind, getX, getAllX, registerX> {
+    static constexpr ValueType valueType = type; ///< What readValueType returns for schemas of the kind.
+
+    /// Returns the parameter that a text describes, as readX does.
+    static typename KindOf<Kind, getX, getAllX, registerX>::Value read(const ParametersEngine& engine,
+                                                                       const std::string& schemaText) {
+        return (engine.*readX)(schemaText);
+    }
+};
+
+/// @}
+
+/// The kinds of objects, one struct each: what they are called (`info`) and how an engine is asked for them. This is
+/// the one list of them; forEachKind walks it.
+namespace Kinds {
+
+/// @addtogroup kinds
+/// @{
+
+/// Enumerations.
+struct Enumeration : KindOf<Enumeration, &ParametersEngine::getEnumeration, &ParametersEngine::getAllEnumerations,
+                            &ParametersEngine::registerEnumeration> {
+    static constexpr Internal::KindDescription description{
+        KindFamily::Enumeration, "enumeration", "enumeration", "enumerations", {"Enum"}};
+};
+
+/// Ranges of floating-point numbers.
+struct FloatRange : KindOf<FloatRange, &ParametersEngine::getFloatRange, &ParametersEngine::getAllFloatRanges,
+                           &ParametersEngine::registerFloatRange> {
+    static constexpr Internal::KindDescription description{KindFamily::Range,
+                                                           "float-range",
+                                                           "floating-point range",
+                                                           "floating-point ranges",
+                                                           {"norvex.range:range.float64.bounded.static-1.0.0"}};
+};
+
+/// Ranges of integers.
+struct IntRange : KindOf<IntRange, &ParametersEngine::getIntRange, &ParametersEngine::getAllIntRanges,
+                         &ParametersEngine::registerIntRange> {
+    static constexpr Internal::KindDescription description{KindFamily::Range,
+                                                           "int-range",
+                                                           "integer range",
+                                                           "integer ranges",
+                                                           {"norvex.range:range.int64.bounded.static-1.0.0"}};
+};
+
+/// Ranges of strings. The bases are those of any text, of sets and of regular expressions.
+struct StringRange : KindOf<StringRange, &ParametersEngine::getStringRange, &ParametersEngine::getAllStringRanges,
+                            &ParametersEngine::registerStringRange> {
+    static constexpr Internal::KindDescription description{KindFamily::Range,
+                                                           "string-range",
+                                                           "string range",
+                                                           "string ranges",
+                                                           {"norvex.range:range.string-1.0.0",
+                                                            "norvex.range:range.string.set.static-1.0.0",
+                                                            "norvex.range:range.string.regex-1.0.0"}};
+};
+
+/// Disciplines.
+struct Discipline : KindOf<Discipline, &ParametersEngine::getDiscipline, &ParametersEngine::getAllDisciplines,
+                           &ParametersEngine::registerDiscipline> {
+    static constexpr Internal::KindDescription description{
+        KindFamily::Taxon, "discipline", "discipline", "disciplines", {"norvex.spec:discipline-1.0.0"}, "Common"};
+};
+
+/// The specs of Boolean parameters.
+struct BoolSpec : KindOf<BoolSpec, &ParametersEngine::getBoolSpec, &ParametersEngine::getAllBoolSpecs,
+                         &ParametersEngine::registerBoolSpec> {
+    static constexpr Internal::KindDescription description{
+        KindFamily::Spec, "bool-spec", "Boolean spec", "Boolean specs", {"norvex.spec:spec.bool-1.0.0"}, "Yes/No"};
+};
+
+/// The specs of enumeration parameters.
+struct GeneralSpec : KindOf<GeneralSpec, &ParametersEngine::getGeneralSpec, &ParametersEngine::getAllGeneralSpecs,
+                            &ParametersEngine::registerGeneralSpec> {
+    static constexpr Internal::KindDescription description{
+        KindFamily::Spec, "general-spec", "general spec", "general specs", {"norvex.spec:spec-1.0.0"}};
+};
+
+/// The specs of integer parameters.
+struct IntSpec : KindOf<IntSpec, &ParametersEngine::getIntSpec, &ParametersEngine::getAllIntSpecs,
+                        &ParametersEngine::registerIntSpec> {
+    static constexpr Internal::KindDescription description{
+        KindFamily::Spec, "int-spec", "integer spec", "integer specs", {"norvex.spec:spec.int64-2.0.0"}, "Integer"};
+};
+
+/// The specs of measurable parameters.
+struct MeasurableSpec : KindOf<MeasurableSpec, &ParametersEngine::getMeasurableSpec,
+                               &ParametersEngine::getAllMeasurableSpecs, &ParametersEngine::registerMeasurableSpec> {
+    static constexpr Internal::KindDescription description{KindFamily::Spec,
+                                                           "measurable-spec",
+                                                           "measurable spec",
+                                                           "measurable specs",
+                                                           {"norvex.spec:spec.measurable-2.0.0"}};
+};
+
+/// The specs of reference parameters.
+struct ReferenceSpec : KindOf<ReferenceSpec, &ParametersEngine::getReferenceSpec,
+                              &ParametersEngine::getAllReferenceSpecs, &ParametersEngine::registerReferenceSpec> {
+    static constexpr Internal::KindDescription description{
+        KindFamily::Spec, "reference-spec", "reference spec", "reference specs", {"norvex.spec:spec.reference-1.0.0"},
+        "Reference"};
+    /// The type identifier of the spec that is a parameter's own: it refers to family types of a category. No schema
+    /// inherits it.
+    static constexpr std::string_view familyType = "norvex.talmo.spec:familyType-1.0.0";
+};
+
+/// The specs of string parameters.
+struct StringSpec : KindOf<StringSpec, &ParametersEngine::getStringSpec, &ParametersEngine::getAllStringSpecs,
+                           &ParametersEngine::registerStringSpec> {
+    static constexpr Internal::KindDescription description{
+        KindFamily::Spec, "string-spec", "string spec", "string specs", {"norvex.spec:spec.string-2.0.0"}, "Text"};
+};
+
+/// Groups.
+struct Group
+    : KindOf<Group, &ParametersEngine::getGroup, &ParametersEngine::getAllGroups, &ParametersEngine::registerGroup> {
+    static constexpr Internal::KindDescription description{
+        KindFamily::Taxon, "group", "group", "groups", {"norvex.parameter:group-1.0.0"}, "Other"};
+};
+
+/// Parameters whose values are those of an enumeration.
+struct EnumerationParameter
+    : KindOf<EnumerationParameter, &ParametersEngine::getEnumerationParameter,
+             &ParametersEngine::getAllEnumerationParameters, &ParametersEngine::registerEnumerationParameter> {
+    static constexpr Internal::KindDescription description{KindFamily::Parameter,
+                                                           "enumeration-parameter",
+                                                           "enumeration parameter",
+                                                           "enumeration parameters",
+                                                           {"norvex.parameter:parameter-2.0.0"}};
+};
+
+/// Boolean parameters.
+struct BoolParameter
+    : ReadableKindOf<BoolParameter, &ParametersEngine::getBoolParameter, &ParametersEngine::getAllBoolParameters,
+                     &ParametersEngine::registerBoolParameter, &ParametersEngine::readBoolParameter, Bool> {
+    static constexpr Internal::KindDescription description{KindFamily::Parameter,
+                                                           "bool-parameter",
+                                                           "Boolean parameter",
+                                                           "Boolean parameters",
+                                                           {"norvex.parameter:parameter.bool-2.0.0"}};
+};
+
+/// Integer parameters.
+struct IntParameter
+    : ReadableKindOf<IntParameter, &ParametersEngine::getIntParameter, &ParametersEngine::getAllIntParameters,
+                     &ParametersEngine::registerIntParameter, &ParametersEngine::readIntParameter, Int> {
+    static constexpr Internal::KindDescription description{KindFamily::Parameter,
+                                                           "int-parameter",
+                                                           "integer parameter",
+                                                           "integer parameters",
+                                                           {"norvex.parameter:parameter.int64-3.0.0"}};
+};
+
+/// Parameters whose values are numbers with a unit.
+struct MeasurableParameter
+    : ReadableKindOf<MeasurableParameter, &ParametersEngine::getMeasurableParameter,
+                     &ParametersEngine::getAllMeasurableParameters, &ParametersEngine::registerMeasurableParameter,
+                     &ParametersEngine::readMeasurableParameter, Measurable> {
+    static constexpr Internal::KindDescription description{KindFamily::Parameter,
+                                                           "measurable-parameter",
+                                                           "measurable parameter",
+                                                           "measurable parameters",
+                                                           {"norvex.parameter:parameter.measurable-3.0.0"}};
+};
+
+/// Parameters whose values refer to other things. The bases are those of plain and of ranged parameters.
+struct ReferenceParameter
+    : ReadableKindOf<ReferenceParameter, &ParametersEngine::getReferenceParameter,
+                     &ParametersEngine::getAllReferenceParameters, &ParametersEngine::registerReferenceParameter,
+                     &ParametersEngine::readReferenceParameter, Reference> {
+    static constexpr Internal::KindDescription description{
+        KindFamily::Parameter,
+        "reference-parameter",
+        "reference parameter",
+        "reference parameters",
+        {"norvex.parameter:parameter.reference-2.0.0", "norvex.parameter:parameter.reference.ranged-2.0.0"}};
+};
+
+/// String parameters.
+struct StringParameter
+    : ReadableKindOf<StringParameter, &ParametersEngine::getStringParameter, &ParametersEngine::getAllStringParameters,
+                     &ParametersEngine::registerStringParameter, &ParametersEngine::readStringParameter, String> {
+    static constexpr Internal::KindDescription description{KindFamily::Parameter,
+                                                           "string-parameter",
+                                                           "string parameter",
+                                                           "string parameters",
+                                                           {"norvex.parameter:parameter.string-3.0.0"}};
+};
+
+/// Domains.
+struct Domain : KindOf<Domain, &ParametersEngine::getDomain, &ParametersEngine::getAllDomains,
+                       &ParametersEngine::registerDomain> {
+    static constexpr Internal::KindDescription description{
+        KindFamily::Taxon, "domain", "domain", "domains", {"norvex.talmo.category:domain-1.0.0"}};
+};
+
+/// Categories. The bases are those of major categories and of subcategories.
+struct Category : KindOf<Category, &ParametersEngine::getCategory, &ParametersEngine::getAllCategories,
+                         &ParametersEngine::registerCategory> {
+    static constexpr Internal::KindDescription description{
+        KindFamily::Category,
+        "category",
+        "category",
+        "categories",
+        {"norvex.talmo.category:majorCategory-1.0.0", "norvex.talmo.category:subCategory-1.0.0"}};
+};
+
+/// Kinds in an order.
+template <class... Ks>
+struct List {
+    /// How many there are.
+    static constexpr std::size_t size = sizeof...(Ks);
+};
+
+/// All kinds, in the order in which lists show them.
+using All = List<Enumeration, FloatRange, IntRange, StringRange, Discipline, BoolSpec, GeneralSpec, IntSpec,
+                 MeasurableSpec, ReferenceSpec, StringSpec, Group, EnumerationParameter, BoolParameter, IntParameter,
+                 MeasurableParameter, ReferenceParameter, StringParameter, Domain, Category>;
+
+/// @}
+
+} // namespace Kinds
+
+namespace Internal {
+
+/// The kinds of a list for which a predicate, a template over kinds, is true, in their order.
+template <template <class> class Predicate, class Taken, class... Rest>
+struct Filter {
+    using type = Taken;
+};
+template <template <class> class Predicate, class... Taken, class First, class... Rest>
+struct Filter<Predicate, Kinds::List<Taken...>, First, Rest...>
+    : Filter<Predicate,
+             std::conditional_t<Predicate<First>::value, Kinds::List<Taken..., First>, Kinds::List<Taken...>>,
+             Rest...> {};
+template <template <class> class Predicate, class Kinds>
+struct FilterList;
+template <template <class> class Predicate, class... Ks>
+struct FilterList<Predicate, Kinds::List<Ks...>> : Filter<Predicate, Kinds::List<>, Ks...> {};
+
+template <KindFamily family>
+struct IsOf {
+    template <class Kind>
+    struct Predicate : std::bool_constant<Kind::info.family() == family> {};
+};
+
+template <class Kind>
+struct IsReadable : std::bool_constant<Kind::valueType != None> {};
+
+template <class Value>
+struct HasValue {
+    template <class Kind>
+    struct Predicate : std::is_same<typename Kind::Value, Value> {};
+};
+
+template <class... Ks>
+struct One {
+    static_assert(sizeof...(Ks) == 1, "The objects of no kind, or of several, are of this class.");
+};
+template <class Kind>
+struct One<Kind> {
+    using type = Kind;
+};
+template <class... Ks>
+constexpr One<Ks...> oneOf(Kinds::List<Ks...>) {
+    return {};
+}
+
+template <class Kind, class... Ks>
+constexpr std::size_t indexIn(Kinds::List<Ks...>) {
+    constexpr bool isIt[] = {std::is_same_v<Kind, Ks>...};
+    std::size_t index = 0;
+    while (!isIt[index]) {
+        ++index;
+    }
+    return index;
+}
+
+} // namespace Internal
+
+namespace Kinds {
+
+/// @addtogroup kinds
+/// @{
+
+/// The kinds of a family, in the order of all.
+template <KindFamily family>
+using Family = typename Internal::FilterList<Internal::IsOf<family>::template Predicate, All>::type;
+
+using Ranges = Family<KindFamily::Range>;         ///< The kinds of ranges.
+using Taxa = Family<KindFamily::Taxon>;           ///< The kinds of taxa.
+using Specs = Family<KindFamily::Spec>;           ///< The kinds of specs.
+using Parameters = Family<KindFamily::Parameter>; ///< The kinds of parameters.
+
+/// The kinds that can be read from a text without registering them: each has a valueType and read.
+using Readable = typename Internal::FilterList<Internal::IsReadable, All>::type;
+
+/// The kinds whose objects are of a class: three for Taxon, one for all others.
+template <class Value>
+using With = typename Internal::FilterList<Internal::HasValue<Value>::template Predicate, All>::type;
+
+/// The one kind whose objects are of a class. Does not compile for Taxon, the class of three.
+template <class Value>
+using Of = typename decltype(Internal::oneOf(With<Value>{}))::type;
+
+/// The place of a kind among all, counted from 0.
+template <class Kind>
+inline constexpr std::size_t indexOf = Internal::indexIn<Kind>(All{});
+
+/// @}
+
+} // namespace Kinds
+
+/// @addtogroup kinds
+/// @{
+
+/// Calls visit(kind) with an object of the struct of each kind of a list, such as Kinds::Parameters, in its order:
+/// @snippet load_folder.cpp kinds
+template <class... Ks, class Visitor>
+constexpr void forEachKind(Kinds::List<Ks...>, Visitor&& visit) {
+    (static_cast<void>(visit(Ks{})), ...);
+}
+
+/// Calls visit(kind) with an object of the struct of each kind, in the order of all.
+template <class Visitor>
+constexpr void forEachKind(Visitor&& visit) {
+    forEachKind(Kinds::All{}, visit);
+}
+
+/// Returns the kind of the schemas that inherit this, which is a base in whatever minor version; nothing if there is
+/// none. Where it fits several, they are asked in the order in which an engine asks them.
+PARAMETERS_EXPORT std::optional<KindInfo> findKindOfBase(std::string_view base) noexcept;
+
+/// Returns the kind of that id, such as "bool-parameter"; nothing if there is none.
+PARAMETERS_EXPORT std::optional<KindInfo> findKindOfId(std::string_view id) noexcept;
+
+/// @}
+
+} // namespace Parameters
