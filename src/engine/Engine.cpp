@@ -1,7 +1,5 @@
 #include "engine/Engine.h"
 
-#include "schema/BuiltIn.h"
-
 #include <optional>
 
 namespace Parameters::Internal {
@@ -15,7 +13,7 @@ namespace {
 } // namespace
 
 bool Engine::isRegistered(const Directory::Key& key) const {
-    return registry_.read().find(key) != nullptr || Ostra::BuiltIn::isReserved(key.typeId) ||
+    return registry_.read().find(key) != nullptr || isReserved(key.typeId) ||
            units_.isRegistered(key.typeId);
 }
 
@@ -34,7 +32,7 @@ ValueType Engine::valueTypeOf(const std::string& text) const {
     try {
         anyKind(ValueTypeOrder{}, [&]<class K>() {
             const bool accepts = K::read(schema).has_value();
-            type = accepts ? K::valueType : None;
+            type = accepts ? K::Public::valueType : None;
             return accepts;
         });
     } catch (const ValidationException&) {

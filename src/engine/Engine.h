@@ -4,8 +4,8 @@
 #include "engine/Kinds.h"
 #include "engine/Registry.h"
 #include "engine/Resolution.h"
+#include "model/ValidationExceptionFactory.h"
 #include "schema/Schema.h"
-#include "schema/ValidationExceptionFactory.h"
 
 #include <parameters/UnrecognizedIdentifierException.h>
 #include <parameters/ValidationException.h>
@@ -29,7 +29,7 @@ public:
     template <class K>
     typename K::Object get(const std::string& typeId) const {
         if constexpr (KindWithStandIn<K>) {
-            if (K::builtIn.isIn(typeId)) {
+            if (K::base.isIn(typeId)) {
                 return standInOf<K>(typeId);
             }
         }
@@ -60,7 +60,7 @@ public:
         if (!record) {
             throw ValidationException("Inheritance from an incorrect base schema.");
         }
-        return K::build(*record, RegistryFinder(registry_.read(), units_));
+        return K::build(*record, RegistryFinder(registry_.read(), units_), nullptr);
     }
 
     template <class K>
@@ -89,7 +89,7 @@ private:
     template <class K>
     typename K::Object bind(const typename K::Object& object) const {
         checkNew(typeIdOf(object));
-        return K::build(K::recordOf(object), RegistryFinder(registry_.read(), units_));
+        return K::build(K::recordOf(object), RegistryFinder(registry_.read(), units_), &object);
     }
 
     template <class K>

@@ -1,48 +1,74 @@
-#include "schema/BuiltIn.h"
-
-#include <parameters/Kinds.h>
+#include "engine/Kinds.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace Parameters {
 
+namespace Internal {
+
 namespace {
 
-/// Returns the first kind of which that holds.
-template <class Holds>
-std::optional<KindInfo> findKind(Holds holds) {
-    std::optional<KindInfo> found;
-    forEachKind([&](auto kind) {
-        if (!found && holds(kind.info)) {
-            found = kind.info;
+/// True when the text begins with the version prefix of an identifier that stands for an object of the kind.
+template <class K>
+bool reserves(std::string_view text) {
+    // Ranges stand in the schemas of parameters, each under its base.
+    if constexpr (K::Public::info.isRange() || KindWithStandIn<K>) {
+        for (const std::string_view base : K::Public::info.bases()) {
+            const std::string_view prefix = Ostra::Identifier::prefixOf(base);
+            if (text.starts_with(prefix)) {
+                return true;
+            }
         }
-    });
-    return found;
+    }
+    if constexpr (KindWithReserved<K>) {
+        return K::reserves(text);
+    }
+    return false;
 }
 
 } // namespace
 
+bool isReserved(std::string_view typeId) {
+    using Ostra::Identifier;
+    for (std::size_t start = Identifier::findStart(typeId); start != std::string_view::npos;
+         start = Identifier::findStart(typeId, start + 1)) {
+        const auto startsHere = [tail = typeId.substr(start)]<class K>() { return reserves<K>(tail); };
+        if (anyKind(StoreOrder{}, startsHere)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace Internal
+
 bool KindInfo::isInheritedBy(std::string_view base) const noexcept {
     return std::any_of(bases().begin(), bases().end(), [base](std::string_view own) {
-        const bool hasVersion = own.find('-') != std::string_view::npos;
-        return hasVersion ? Ostra::BuiltIn::Identifier(own).isIn(base) : own == base;
+        const bool hasVersion = own != Internal::EnumerationKind::base;
+        return hasVersion ? base.find(Ostra::Identifier::prefixOf(own)) != std::string_view::npos : own == base;
     });
 }
 
 std::optional<KindInfo> findKindOfBase(std::string_view base) noexcept {
-    // As schemas are offered: to kinds that name nothing first.
-    for (const bool hasDependencies : {false, true}) {
-        const auto kind = findKind(
-            [&](KindInfo info) { return info.hasDependencies() == hasDependencies && info.isInheritedBy(base); });
-        if (kind) {
-            return kind;
+    std::optional<KindInfo> found;
+    Internal::anyKind(Internal::OfferingOrder{}, [&]<class K>() {
+        if (K::Public::info.isInheritedBy(base)) {
+            found = K::Public::info;
         }
-    }
-    return std::nullopt;
+        return found.has_value();
+    });
+    return found;
 }
 
 std::optional<KindInfo> findKindOfId(std::string_view id) noexcept {
-    return findKind([id](KindInfo info) { return info.id() == id; });
+    std::optional<KindInfo> found;
+    forEachKind([&](auto kind) {
+        if (kind.info.id() == id) {
+            found = kind.info;
+        }
+    });
+    return found;
 }
 
 } // namespace Parameters

@@ -20,15 +20,13 @@
 #include "model/StringSpec.h"
 #include "model/Taxon.h"
 
+#include <parameters/Kinds.h>
+
 #include <cstddef>
+#include <string_view>
 #include <type_traits>
 
 namespace Parameters::Internal {
-
-template <Kind... Ks>
-struct KindList {
-    static constexpr std::size_t size = sizeof...(Ks);
-};
 
 /// Calls visit.operator()<K>() for each kind of the list in order.
 template <class... Ks, class Visitor>
@@ -42,65 +40,88 @@ bool anyKind(KindList<Ks...>, Test&& test) {
     return (test.template operator()<Ks>() || ...);
 }
 
-// The order of the kinds is stated here, once for each thing that depends on it, and nowhere else.
-
-/// How stores are counted and listed.
-using StoreOrder =
-    KindList<EnumerationKind, FloatRangeKind, IntRangeKind, StringRangeKind, DisciplineKind, BoolSpecKind,
-             GeneralSpecKind, IntSpecKind, MeasurableSpecKind, ReferenceSpecKind, StringSpecKind, GroupKind,
-             EnumerationParameterKind, BoolParameterKind, IntParameterKind, MeasurableParameterKind,
-             ReferenceParameterKind, StringParameterKind, DomainKind, CategoryKind>;
-
-/// Who may accept a schema first: kinds that name nothing, then kinds that name others.
-using OfferingOrder =
-    KindList<EnumerationKind, FloatRangeKind, IntRangeKind, StringRangeKind, DisciplineKind, GroupKind, DomainKind,
-             BoolSpecKind, GeneralSpecKind, IntSpecKind, MeasurableSpecKind, ReferenceSpecKind, StringSpecKind,
-             EnumerationParameterKind, BoolParameterKind, IntParameterKind, MeasurableParameterKind,
-             ReferenceParameterKind, StringParameterKind, CategoryKind>;
-
-/// What is built first: kinds that are named come before kinds that name them.
+/// What is built first: kinds that are named come before kinds that name them. This is the list of the kinds; every
+/// other order is made of it and of the public list.
 using ResolutionOrder =
     KindList<EnumerationKind, FloatRangeKind, IntRangeKind, StringRangeKind, DisciplineKind, DomainKind, GroupKind,
              CategoryKind, BoolSpecKind, GeneralSpecKind, IntSpecKind, MeasurableSpecKind, ReferenceSpecKind,
              StringSpecKind, EnumerationParameterKind, BoolParameterKind, IntParameterKind, MeasurableParameterKind,
              ReferenceParameterKind, StringParameterKind>;
 
-/// The parameters that have a value type, in the order in which a text is tried.
-using ValueTypeOrder =
-    KindList<BoolParameterKind, IntParameterKind, MeasurableParameterKind, ReferenceParameterKind, StringParameterKind>;
-
 namespace Detail {
 
-template <class K, class... Ks>
-constexpr std::size_t countOf(KindList<Ks...>) {
-    return (std::size_t{std::is_same_v<K, Ks>} + ... + 0);
+template <class K>
+struct HasNames : std::bool_constant<DependentKind<K>> {};
+template <class K>
+struct HasNoNames : std::bool_constant<!DependentKind<K>> {};
+template <class K>
+struct HasValueType : std::bool_constant<K::Public::valueType != None> {};
+
+/// The kinds of a list for which a predicate holds.
+template <template <class> class Holds, class... Ks>
+constexpr auto filter(KindList<Ks...>) {
+    return (KindList<>{} + ... + std::conditional_t<Holds<Ks>::value, KindList<Ks>, KindList<>>{});
 }
 
-template <class... Ks, class Other>
-constexpr bool holdsEachOnce(KindList<Ks...>, Other other) {
-    return ((countOf<Ks>(other) == 1) && ...);
+template <class P, class... Ks>
+constexpr auto find(KindList<Ks...>) {
+    constexpr auto found =
+        (KindList<>{} + ... + std::conditional_t<std::is_same_v<typename Ks::Public, P>, KindList<Ks>, KindList<>>{});
+    static_assert(found.size == 1, "This entry in the public list has no kind in the resolution order, or several.");
+    return found;
+}
+
+template <class... Ps>
+constexpr auto kindsOf(Kinds::List<Ps...>) {
+    return (KindList<>{} + ... + find<Ps>(ResolutionOrder{}));
 }
 
 } // namespace Detail
 
-template <class A, class B>
-inline constexpr bool isPermutation = A::size == B::size&& Detail::holdsEachOnce(A{}, B{});
+/// How stores are counted and listed: the order of the public list.
+using StoreOrder = decltype(Detail::kindsOf(Kinds::All{}));
 
-static_assert(isPermutation<StoreOrder, OfferingOrder>);
-static_assert(isPermutation<StoreOrder, ResolutionOrder>);
+/// Who may accept a schema first: kinds that name nothing, then kinds that name others.
+using OfferingOrder =
+    decltype(Detail::filter<Detail::HasNoNames>(StoreOrder{}) + Detail::filter<Detail::HasNames>(StoreOrder{}));
 
-/// Returns the place of a kind in the store order.
+/// The parameters that have a value type, in the order in which a text is tried.
+using ValueTypeOrder = decltype(Detail::filter<Detail::HasValueType>(StoreOrder{}));
+
+namespace Detail {
+
+/// Where a kind stands in a list; behind its end when it does not.
 template <class K, class... Ks>
-constexpr std::size_t indexOf(KindList<Ks...>) {
-    std::size_t index = 0;
-    static_cast<void>(((std::is_same_v<K, Ks> || (++index, false)) || ...));
-    return index;
+constexpr std::size_t placeIn(KindList<Ks...>) {
+    std::size_t place = 0;
+    static_cast<void>(((std::is_same_v<K, Ks> || (++place, false)) || ...));
+    return place;
 }
 
-template <class K>
-inline constexpr std::size_t kindIndex = indexOf<K>(StoreOrder{});
+template <class K, class Named>
+constexpr bool isBuiltBefore() {
+    constexpr bool isItself = std::is_same_v<K, Named> && KindWithPasses<K>;
+    static_assert(isItself || placeIn<Named>(ResolutionOrder{}) < placeIn<K>(ResolutionOrder{}),
+                  "The second kind is named by the first, and must stand before it in the resolution order.");
+    return true;
+}
 
-/// Calls visit.operator()<K>() with the kind of that place in the store order.
+template <class K, class... Named>
+constexpr bool areBuiltBefore(KindList<Named...>) {
+    return (isBuiltBefore<K, Named>() && ...);
+}
+
+template <class... Ks>
+constexpr bool areSound(KindList<Ks...>) {
+    return ((isKind<Ks>() && areBuiltBefore<Ks>(typename Ks::Names{})) && ...);
+}
+
+static_assert(areSound(ResolutionOrder{}));
+static_assert(ResolutionOrder::size == StoreOrder::size, "A kind in the resolution order is not in the public list.");
+
+} // namespace Detail
+
+/// Calls visit.operator()<K>() with the kind of that number.
 template <class Visitor>
 void withKind(std::size_t index, Visitor&& visit) {
     anyKind(StoreOrder{}, [&]<class K>() {
@@ -110,5 +131,9 @@ void withKind(std::size_t index, Visitor&& visit) {
         return kindIndex<K> == index;
     });
 }
+
+/// True when the typeid contains the version prefix of an identifier that needs no registration: no schema or object
+/// may have such a typeid, and naming one is never naming something that is missing.
+bool isReserved(std::string_view typeId);
 
 } // namespace Parameters::Internal

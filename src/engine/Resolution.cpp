@@ -14,12 +14,6 @@ namespace Parameters::Internal {
 
 namespace {
 
-/// How to find an object of one kind by its entry in the directory.
-struct KindLookUp {
-    const char* tag;
-    const void* (*address)(const Registry& registry, const Staging* staging, const Directory::Entry& entry);
-};
-
 template <class K>
 const void* addressOf(const Registry& registry, const Staging* staging, const Directory::Entry& entry) {
     if (entry.resolved) {
@@ -32,21 +26,21 @@ const void* addressOf(const Registry& registry, const Staging* staging, const Di
     return Access::isNone(staged) ? nullptr : &staged;
 }
 
+using AddressOf = const void* (*)(const Registry& registry, const Staging* staging, const Directory::Entry& entry);
+
 template <class... Ks>
-constexpr std::array<KindLookUp, sizeof...(Ks)> lookUpsOf(KindList<Ks...>) {
-    return {KindLookUp{&kindTag<Ks>, &addressOf<Ks>}...};
+constexpr std::array<AddressOf, sizeof...(Ks)> addressesOf(KindList<Ks...>) {
+    return {&addressOf<Ks>...};
 }
 
-constexpr auto lookUps = lookUpsOf(StoreOrder{});
+/// How an object of each kind is found by its entry in the directory.
+constexpr auto addresses = addressesOf(StoreOrder{});
 
 } // namespace
 
-const void* RegistryFinder::lookUp(const char* kind, std::string_view typeId) const {
+const void* RegistryFinder::lookUp(std::size_t kind, std::string_view typeId) const {
     const Directory::Entry* entry = registry_.find(typeId);
-    if (entry == nullptr || lookUps[entry->kind].tag != kind) {
-        return nullptr;
-    }
-    return lookUps[entry->kind].address(registry_, staging_, *entry);
+    return entry != nullptr && entry->kind == kind ? addresses[kind](registry_, staging_, *entry) : nullptr;
 }
 
 std::optional<Units::Unit> RegistryFinder::findUnit(const std::string& typeId) const {
@@ -105,7 +99,7 @@ template <class K>
 void Resolution::build(std::size_t place) {
     const auto& record = registry_.store<K>().pending[place].record;
     try {
-        Access::put(K::build(record, finder_), staging_.of<K>()[place]);
+        Access::put(K::build(record, finder_, nullptr), staging_.of<K>()[place]);
     } catch (const ValidationException& fault) {
         faults_.emplace(record.texts[0], fault.what());
     }

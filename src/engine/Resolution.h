@@ -49,7 +49,7 @@ public:
         : Finder(Purpose::resolution), registry_(registry), units_(units), staging_(&staging) {}
 
 private:
-    const void* lookUp(const char* kind, std::string_view typeId) const override;
+    const void* lookUp(std::size_t kind, std::string_view typeId) const override;
     std::optional<Units::Unit> findUnit(const std::string& typeId) const override;
 
     const Registry& registry_;

@@ -1,17 +1,14 @@
 #include "model/BoolParameter.h"
 
 #include "model/Writing.h"
-#include "schema/BuiltIn.h"
 
 #include <memory>
 #include <utility>
 
 namespace Parameters {
 
-namespace BuiltIn = Ostra::BuiltIn;
-
 BoolParameter::BoolParameter(const ParameterCore& core)
-    : BoolParameter(core, Internal::standInOf<Internal::BoolSpecKind>(BuiltIn::boolSpec.full())) {}
+    : BoolParameter(core, Internal::standInOf<Internal::BoolSpecKind>()) {}
 
 BoolParameter::BoolParameter(const ParameterCore& core, const BoolSpec& spec)
     : BoolParameter(std::make_shared<const Internal::BoolParameterData>(
@@ -25,33 +22,34 @@ PARAMETERS_COMPARE_BY_TYPEID(BoolParameter)
 
 namespace Internal {
 
-std::optional<BoolParameterKind::Record> BoolParameterKind::read(const Ostra::Schema& schema) {
-    if (!schema.inherits(BuiltIn::boolParameter)) {
+std::optional<ParameterRecord> BoolParameterKind::read(const Ostra::Schema& schema) {
+    if (!schema.inherits(base)) {
         return std::nullopt;
     }
     const Ostra::Constants constants(schema);
     const auto common = ParameterConstants::read(constants);
-    const auto spec = constants.optional<Ostra::TypedValue>("spec", BuiltIn::boolSpec.full());
-    return Record{{common.texts(schema.typeId()), {common.group, spec}, common.readOnly}, nullptr};
+    const auto spec = constants.optional<Ostra::TypedValue>("spec", BoolSpecKind::base.full());
+    return Record(schema.typeId(), common, spec);
 }
 
-BoolParameterKind::Record BoolParameterKind::recordOf(const BoolParameter& parameter) {
+ParameterRecord BoolParameterKind::recordOf(const BoolParameter& parameter) {
     const auto& [core, spec] = Access::data(parameter);
-    return {{core.texts, {typeIdOf(core.group), typeIdOf(spec)}, core.readOnly}, &spec};
+    return Record(core, typeIdOf(spec));
 }
 
-BoolParameter BoolParameterKind::build(const Record& record, const Finder& finder) {
+BoolParameter BoolParameterKind::build(const Record& record, const Finder& finder, const BoolParameter* given) {
     auto core = buildParameterCore(record, finder);
-    const auto spec = finder.requireOrStandIn<BoolSpecKind>(record.spec(), record.typeId(), record.givenSpec);
+    const auto spec = finder.requireOrStandIn<BoolSpecKind>(record.spec(), record.typeId(),
+                                                            given != nullptr ? &Access::data(*given).spec : nullptr);
     return Access::make<BoolParameter>(
         std::make_shared<const BoolParameterData>(BoolParameterData{std::move(core), spec}));
 }
 
 std::string BoolParameterKind::write(const BoolParameter& parameter) {
     const auto& [core, spec] = Access::data(parameter);
-    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), BuiltIn::boolParameter);
+    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
     writeParameterConstants(writer, core);
-    writeSpecConstant(writer, typeIdOf(spec), BuiltIn::boolSpec.full());
+    writeSpecConstant<BoolSpecKind>(writer, spec);
     return std::move(writer).finish();
 }
 

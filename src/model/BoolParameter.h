@@ -5,7 +5,6 @@
 #include "schema/Schema.h"
 
 #include <parameters/BoolParameter.h>
-#include <parameters/ValueType.h>
 
 #include <optional>
 #include <string>
@@ -20,18 +19,13 @@ struct BoolParameterData {
     std::string_view typeId() const { return core.typeId(); }
 };
 
-struct BoolParameterKind {
-    using Object = BoolParameter;
-    struct Record : ParameterRecord {
-        const BoolSpec* givenSpec = nullptr; // of an object made in code, which outlives the record
-    };
-
-    static constexpr std::string_view word = "Boolean parameter";
-    static constexpr ValueType valueType = Bool;
+struct BoolParameterKind : DescribedKind<Kinds::BoolParameter> {
+    using Names = KindList<GroupKind, BoolSpecKind>;
+    using Record = ParameterRecord;
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const BoolParameter& parameter);
-    static BoolParameter build(const Record& record, const Finder& finder);
+    static BoolParameter build(const Record& record, const Finder& finder, const BoolParameter* given);
     static std::string write(const BoolParameter& parameter);
 };
 

@@ -4,12 +4,8 @@
 
 #include <parameters/BoolSpec.h>
 
-#include <string_view>
-
 namespace Parameters::Internal {
 
-struct BoolSpecKind : BuiltInCoreSpecKind<BoolSpec, Ostra::BuiltIn::boolSpec> {
-    static constexpr std::string_view word = "Boolean spec";
-};
+using BoolSpecKind = CoreSpecKind<Kinds::BoolSpec>;
 
 } // namespace Parameters::Internal

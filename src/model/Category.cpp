@@ -2,7 +2,6 @@
 
 #include "model/Taxon.h"
 #include "model/Writing.h"
-#include "schema/BuiltIn.h"
 #include "schema/Constants.h"
 
 #include <parameters/ValidationException.h>
@@ -12,8 +11,6 @@
 #include <utility>
 
 namespace Parameters {
-
-namespace BuiltIn = Ostra::BuiltIn;
 
 namespace {
 
@@ -77,31 +74,30 @@ namespace Internal {
 namespace {
 
 MajorCategoryComponent buildMajor(const CategoryKind::Record& record, const Finder& finder) {
-    const Taxon domain = finder.require<DomainKind>(record.references[0], record.texts[0]);
+    const Taxon domain = finder.require<DomainKind>(record.domain(), record.typeId());
     std::vector<Taxon> disciplines;
-    disciplines.reserve(record.references.size() - 1);
-    for (std::size_t i = 1; i < record.references.size(); ++i) {
-        disciplines.push_back(finder.requireOrStandIn<DisciplineKind>(record.references[i], record.texts[0]));
+    disciplines.reserve(record.disciplines());
+    for (std::size_t place = 0; place < record.disciplines(); ++place) {
+        disciplines.push_back(finder.requireOrStandIn<DisciplineKind>(record.discipline(place), record.typeId()));
     }
     return majorOf({domain, std::move(disciplines)});
 }
 
 SubCategoryComponent buildSub(const CategoryKind::Record& record, const Finder& finder) {
-    const std::string_view parentTypeId = record.references[0];
-    const auto parent = finder.require<CategoryKind>(parentTypeId, record.texts[0]);
+    const auto parent = finder.require<CategoryKind>(record.parent(), record.typeId());
     if (Access::data(parent).major() == nullptr) {
-        throw ValidationException("Parent " + std::string(parentTypeId) +
+        throw ValidationException("Parent " + std::string(record.parent()) +
                                   (finder.binds() ? " of subcategory " : " of subcategory schema ") +
-                                  std::string(record.texts[0]) + " is not a major category.");
+                                  std::string(record.typeId()) + " is not a major category.");
     }
-    return subOf(parentTypeId);
+    return subOf(record.parent());
 }
 
 } // namespace
 
 std::optional<CategoryKind::Record> CategoryKind::read(const Ostra::Schema& schema) {
-    const bool major = schema.inherits(BuiltIn::majorCategory);
-    if (!major && !schema.inherits(BuiltIn::subCategory)) {
+    const bool major = schema.inherits(majorBase);
+    if (!major && !schema.inherits(subBase)) {
         return std::nullopt;
     }
     const Ostra::Constants constants(schema);
@@ -129,7 +125,7 @@ CategoryKind::Record CategoryKind::recordOf(const Category& category) {
     return {data.texts, Texts(references), true};
 }
 
-Category CategoryKind::build(const Record& record, const Finder& finder) {
+Category CategoryKind::build(const Record& record, const Finder& finder, const Category*) {
     if (record.major) {
         return categoryOf({record.texts, buildMajor(record, finder)});
     }
@@ -138,8 +134,7 @@ Category CategoryKind::build(const Record& record, const Finder& finder) {
 
 std::string CategoryKind::write(const Category& category) {
     const CategoryData& data = Access::data(category);
-    Ostra::SchemaWriter writer =
-        schemaWriter(data.typeId(), data.major() != nullptr ? BuiltIn::majorCategory : BuiltIn::subCategory);
+    Ostra::SchemaWriter writer = schemaWriter(data.typeId(), data.major() != nullptr ? majorBase : subBase);
     writer.constant("name").string(data.name());
     if (data.sub() != nullptr) {
         writer.typedConstant("parent").typedValue(parentOf(*data.sub()));

@@ -2,11 +2,14 @@
 
 #include "model/Access.h"
 #include "model/Finder.h"
+#include "model/Kind.h"
+#include "model/Taxon.h"
 #include "model/Texts.h"
 #include "schema/Schema.h"
 
 #include <parameters/Category.h>
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -34,22 +37,29 @@ struct CategoryData {
     const SubCategoryComponent* sub() const { return std::get_if<SubCategoryComponent>(&component); }
 };
 
-struct CategoryKind {
-    using Object = Category;
+struct CategoryKind : DescribedKind<Kinds::Category> {
+    using Names = KindList<DomainKind, DisciplineKind, CategoryKind>;
     struct Record {
         Texts texts;      // typeid, name
         Texts references; // typeids: domain and disciplines, or the parent
         bool major;
+
+        std::string_view typeId() const { return texts[0]; }
+        std::string_view domain() const { return references[0]; }
+        std::size_t disciplines() const { return references.size() - 1; }
+        std::string_view discipline(std::size_t place) const { return references[place + 1]; }
+        std::string_view parent() const { return references[0]; }
     };
 
-    static constexpr std::string_view word = "category";
+    static constexpr Ostra::Identifier majorBase{Public::info.bases()[0]};
+    static constexpr Ostra::Identifier subBase{Public::info.bases()[1]};
 
     /// Subcategories name categories of this very kind, which therefore is resolved in two passes.
     static int passOf(const Record& record) { return record.major ? 0 : 1; }
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const Category& category);
-    static Category build(const Record& record, const Finder& finder);
+    static Category build(const Record& record, const Finder& finder, const Category* given);
     static std::string write(const Category& category);
 };
 

@@ -2,7 +2,6 @@
 
 #include "model/SpecCore.h"
 #include "model/Writing.h"
-#include "schema/BuiltIn.h"
 #include "schema/Schema.h"
 
 #include <memory>
@@ -14,26 +13,25 @@
 namespace Parameters::Internal {
 
 /// The kind of a spec that is its core and nothing more; its class shares the core's data.
-template <class Spec, const Ostra::BuiltIn::Identifier& base>
-class CoreSpecKind {
-public:
-    using Object = Spec;
+template <class P>
+struct CoreSpecKind : DescribedKind<P> {
+    using Spec = typename P::Value;
+    using Names = KindList<DisciplineKind>;
     using Record = SpecRecord;
+    using DescribedKind<P>::base;
 
     static std::optional<Record> read(const Ostra::Schema& schema) {
         if (!schema.inherits(base)) {
             return std::nullopt;
         }
-        const auto constants = SpecConstants::read(Ostra::Constants(schema));
-        return Record{{schema.typeId(), constants.name}, {constants.discipline}, std::nullopt};
+        return Record(schema.typeId(), SpecConstants::read(Ostra::Constants(schema)));
     }
 
-    static Record recordOf(const Spec& spec) {
-        const SpecCoreData& core = Access::data(spec);
-        return {core.texts, {typeIdOf(core.discipline)}, core.discipline};
-    }
+    static Record recordOf(const Spec& spec) { return Record(Access::data(spec)); }
 
-    static Spec build(const Record& record, const Finder& finder) { return of(buildSpecCore(record, finder)); }
+    static Spec build(const Record& record, const Finder& finder, const Spec* given) {
+        return of(buildSpecCore(record, finder, given != nullptr ? &Access::data(*given) : nullptr));
+    }
 
     static std::string write(const Spec& spec) {
         const SpecCoreData& core = Access::data(spec);
@@ -42,20 +40,13 @@ public:
         return std::move(writer).finish();
     }
 
-protected:
+    static Spec standIn(std::string_view typeId) requires DescribedKind<P>::hasBuiltIn {
+        return of(commonSpecCore(typeId, P::info.builtInName()));
+    }
+
+private:
     static Spec of(SpecCoreData core) {
         return Access::make<Spec>(std::make_shared<const SpecCoreData>(std::move(core)));
-    }
-};
-
-/// The kind of such a spec that has a built-in object.
-template <class Spec, const Ostra::BuiltIn::Identifier& base>
-class BuiltInCoreSpecKind : public CoreSpecKind<Spec, base> {
-public:
-    static constexpr const Ostra::BuiltIn::Identifier& builtIn = base;
-
-    static Spec standIn(std::string_view typeId) {
-        return CoreSpecKind<Spec, base>::of(commonSpecCore(typeId, base.displayName()));
     }
 };
 

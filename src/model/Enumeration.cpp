@@ -1,8 +1,7 @@
 #include "model/Enumeration.h"
 
-#include "schema/BuiltIn.h"
+#include "model/ValidationExceptionFactory.h"
 #include "schema/SchemaWriter.h"
-#include "schema/ValidationExceptionFactory.h"
 
 #include <parameters/ValidationException.h>
 
@@ -85,7 +84,7 @@ void check(const EnumerationData& data) {
 } // namespace
 
 std::optional<EnumerationKind::Record> EnumerationKind::read(const Ostra::Schema& schema) {
-    if (schema.base() != Ostra::BuiltIn::enumeration) {
+    if (schema.base() != base) {
         return std::nullopt;
     }
     const std::string typeId(schema.typeId());
@@ -101,7 +100,7 @@ std::optional<EnumerationKind::Record> EnumerationKind::read(const Ostra::Schema
     return Record{Texts(texts), std::move(integers)};
 }
 
-Enumeration EnumerationKind::build(const Record& record, const Finder& finder) {
+Enumeration EnumerationKind::build(const Record& record, const Finder& finder, const Enumeration*) {
     if (finder.binds()) {
         check(record); // a text's values have been checked since they were read
     }
@@ -110,7 +109,7 @@ Enumeration EnumerationKind::build(const Record& record, const Finder& finder) {
 
 std::string EnumerationKind::write(const Enumeration& enumeration) {
     const EnumerationData& data = Access::data(enumeration);
-    Ostra::SchemaWriter writer(data.typeId(), Ostra::BuiltIn::enumeration, *ValidationExceptionFactory::shared());
+    Ostra::SchemaWriter writer(data.typeId(), base, *ValidationExceptionFactory::shared());
     for (std::size_t value = 0; value < data.integers.size(); ++value) {
         writer.property(data.identifier(value)).integer(data.integers[value]);
     }

@@ -2,6 +2,7 @@
 
 #include "model/Access.h"
 #include "model/Finder.h"
+#include "model/Kind.h"
 #include "model/Texts.h"
 #include "schema/Schema.h"
 
@@ -23,15 +24,16 @@ struct EnumerationData {
     std::string_view identifier(std::size_t value) const { return texts[value + 1]; }
 };
 
-struct EnumerationKind {
-    using Object = Enumeration;
+struct EnumerationKind : DescribedKind<Kinds::Enumeration> {
+    using Names = KindList<>;
     using Record = EnumerationData;
 
-    static constexpr std::string_view word = "enumeration";
+    /// A bare word without a version, matched as a whole.
+    static constexpr std::string_view base = Public::info.bases()[0];
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const Enumeration& enumeration) { return Access::data(enumeration); }
-    static Enumeration build(const Record& record, const Finder& finder);
+    static Enumeration build(const Record& record, const Finder& finder, const Enumeration* given);
     static std::string write(const Enumeration& enumeration);
 };
 

@@ -1,7 +1,6 @@
 #include "model/EnumerationParameter.h"
 
 #include "model/Writing.h"
-#include "schema/BuiltIn.h"
 #include "schema/Constants.h"
 
 #include <memory>
@@ -84,40 +83,36 @@ std::string_view readEnumeration(const Ostra::Schema& schema, const std::string&
 
 } // namespace
 
-std::optional<ParameterRecord> EnumerationParameterKind::read(const Ostra::Schema& schema) {
-    if (!schema.inherits(Ostra::BuiltIn::enumerationParameter)) {
+std::optional<EnumerationParameterKind::Record> EnumerationParameterKind::read(const Ostra::Schema& schema) {
+    if (!schema.inherits(base)) {
         return std::nullopt;
     }
     const std::string typeId(schema.typeId());
     const auto common = ParameterConstants::read(Ostra::Constants(schema));
     const auto spec = readSpec(schema, typeId);
     const auto enumeration = readEnumeration(schema, typeId);
-    return Record{common.texts(typeId), {common.group, spec, enumeration}, common.readOnly};
+    return Record(typeId, common, spec, enumeration);
 }
 
-ParameterRecord EnumerationParameterKind::recordOf(const EnumerationParameter& parameter) {
+EnumerationParameterKind::Record EnumerationParameterKind::recordOf(const EnumerationParameter& parameter) {
     const auto& [core, spec, enumeration] = Access::data(parameter);
-    return {core.texts, {typeIdOf(core.group), typeIdOf(spec), typeIdOf(enumeration)}, core.readOnly};
+    return Record(core, typeIdOf(spec), typeIdOf(enumeration));
 }
 
-EnumerationParameter EnumerationParameterKind::build(const Record& record, const Finder& finder) {
-    const auto findSpec = [&] { return finder.require<GeneralSpecKind>(record.spec(), record.typeId()); };
-    const auto findEnumeration = [&] { return finder.require<EnumerationKind>(record.references[2], record.typeId()); };
+EnumerationParameter EnumerationParameterKind::build(const Record& record, const Finder& finder,
+                                                     const EnumerationParameter*) {
     auto core = buildParameterCore(record, finder);
-    // Of two things missing, resolution names the spec, binding the enumeration.
-    if (finder.binds()) {
-        const auto enumeration = findEnumeration();
-        return parameterOf({std::move(core), findSpec(), enumeration});
-    }
-    const auto spec = findSpec();
-    return parameterOf({std::move(core), spec, findEnumeration()});
+    const auto [spec, enumeration] = findBoth(
+        finder, [&] { return finder.require<GeneralSpecKind>(record.spec(), record.typeId()); },
+        [&] { return finder.require<EnumerationKind>(record.enumeration(), record.typeId()); });
+    return parameterOf({std::move(core), spec, enumeration});
 }
 
 std::string EnumerationParameterKind::write(const EnumerationParameter& parameter) {
     const auto& [core, spec, enumeration] = Access::data(parameter);
-    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), Ostra::BuiltIn::enumerationParameter);
+    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
     writeParameterConstants(writer, core);
-    writeSpecConstant(writer, typeIdOf(spec));
+    writeSpecConstant<GeneralSpecKind>(writer, spec);
     writer.typedProperty("value").typedValue(typeIdOf(enumeration));
     return std::move(writer).finish();
 }

@@ -21,15 +21,16 @@ struct EnumerationParameterData {
     std::string_view typeId() const { return core.typeId(); }
 };
 
-struct EnumerationParameterKind {
-    using Object = EnumerationParameter;
-    using Record = ParameterRecord; // the enumeration is the third reference
-
-    static constexpr std::string_view word = "enumeration parameter";
+struct EnumerationParameterKind : DescribedKind<Kinds::EnumerationParameter> {
+    using Names = KindList<GroupKind, GeneralSpecKind, EnumerationKind>;
+    struct Record : ParameterRecord {
+        using ParameterRecord::ParameterRecord;
+        std::string_view enumeration() const { return references[2]; }
+    };
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const EnumerationParameter& parameter);
-    static EnumerationParameter build(const Record& record, const Finder& finder);
+    static EnumerationParameter build(const Record& record, const Finder& finder, const EnumerationParameter* given);
     static std::string write(const EnumerationParameter& parameter);
 };
 

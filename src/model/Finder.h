@@ -2,22 +2,25 @@
 
 #include "schema/Immortal.h"
 
+#include <parameters/Kinds.h>
 #include <units/Unit.h>
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace Parameters::Internal {
 
-/// Tells kinds apart by address where their types cannot be named.
-template <class Kind>
-inline constexpr char kindTag = 0;
-
-/// Returns the object that stands in for a typeid of the kind's built-in identifier.
+/// The number of a kind: its place in the public list.
 template <class K>
-typename K::Object standInOf(std::string_view typeId) {
-    if (typeId == K::builtIn.full()) {
+inline constexpr std::size_t kindIndex = Kinds::indexOf<typename K::Public>;
+
+/// Returns the object that stands in for a typeid of the kind's base.
+template <class K>
+typename K::Object standInOf(std::string_view typeId = K::base.full()) {
+    if (typeId == K::base.full()) {
         static const auto& usual = Ostra::immortal(K::standIn(typeId)); // nearly all that name a built-in name this one
         return usual;
     }
@@ -43,7 +46,7 @@ public:
     /// Returns the object of that kind and typeid, or null.
     template <class K>
     const typename K::Object* find(std::string_view typeId) const {
-        return static_cast<const typename K::Object*>(lookUp(&kindTag<K>, typeId));
+        return static_cast<const typename K::Object*>(lookUp(kindIndex<K>, typeId));
     }
 
     /// Returns the object of that kind and typeid, which the schema names.
@@ -56,7 +59,7 @@ public:
         failMissing(K::word, typeId, schemaTypeId);
     }
 
-    /// As require, but a typeid of the kind's built-in identifier needs no object: for it stands the given one or else
+    /// As require, but a typeid of the kind's base needs no object: for it stands the given one or else
     /// the built-in object of exactly that typeid.
     template <class K>
     typename K::Object requireOrStandIn(std::string_view typeId, std::string_view schemaTypeId,
@@ -64,7 +67,7 @@ public:
         if (const auto* object = find<K>(typeId)) {
             return *object;
         }
-        if (!K::builtIn.isIn(typeId)) {
+        if (!K::base.isIn(typeId)) {
             failMissing(K::word, typeId, schemaTypeId);
         }
         return given != nullptr ? *given : standInOf<K>(typeId);
@@ -73,8 +76,8 @@ public:
     /// As requireOrStandIn, but binding takes the stand-in of the full identifier whatever version is named.
     template <class K>
     typename K::Object requireOrUsualStandIn(std::string_view typeId, std::string_view schemaTypeId) const {
-        const bool usual = binds() && K::builtIn.isIn(typeId);
-        return requireOrStandIn<K>(usual ? K::builtIn.full() : typeId, schemaTypeId);
+        const bool usual = binds() && K::base.isIn(typeId);
+        return requireOrStandIn<K>(usual ? K::base.full() : typeId, schemaTypeId);
     }
 
     /// Returns the unit of that typeid, which a measurable spec's schema names in a constant.
@@ -84,12 +87,24 @@ public:
 private:
     /// Returns the unit of that typeid, unless it is unknown or not resolved.
     virtual std::optional<Units::Unit> findUnit(const std::string& typeId) const = 0;
-    /// Returns the object of the kind with that tag, or null.
-    virtual const void* lookUp(const char* kind, std::string_view typeId) const = 0;
+    /// Returns the object of the kind of that number, or null.
+    virtual const void* lookUp(std::size_t kind, std::string_view typeId) const = 0;
 
     [[noreturn]] void failMissing(std::string_view word, std::string_view typeId, std::string_view schemaTypeId) const;
 
     Purpose purpose_;
 };
+
+/// Finds two things that a record names, by calls without arguments, and returns the pair of them. Of two that are
+/// missing, resolution names the first, binding the second.
+template <class First, class Second>
+auto findBoth(const Finder& finder, First findFirst, Second findSecond) {
+    if (finder.binds()) {
+        auto second = findSecond();
+        return std::pair(findFirst(), std::move(second));
+    }
+    auto first = findFirst();
+    return std::pair(std::move(first), findSecond());
+}
 
 } // namespace Parameters::Internal

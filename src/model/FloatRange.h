@@ -4,22 +4,16 @@
 
 #include <parameters/FloatRange.h>
 
-#include <string_view>
-
 namespace Parameters::Internal {
 
 struct FloatRangeTraits {
-    using Range = FloatRange;
+    using Public = Kinds::FloatRange;
     using Number = double;
     using Reader = Ostra::Number;
-
-    static constexpr const auto& base = Ostra::BuiltIn::floatRange;
 
     static void write(Ostra::SchemaWriter& writer, Number number) { writer.number(number); }
 };
 
-struct FloatRangeKind : NumericRangeKind<FloatRangeTraits> {
-    static constexpr std::string_view word = "floating-point range";
-};
+using FloatRangeKind = NumericRangeKind<FloatRangeTraits>;
 
 } // namespace Parameters::Internal

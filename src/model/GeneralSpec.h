@@ -4,12 +4,8 @@
 
 #include <parameters/GeneralSpec.h>
 
-#include <string_view>
-
 namespace Parameters::Internal {
 
-struct GeneralSpecKind : CoreSpecKind<GeneralSpec, Ostra::BuiltIn::generalSpec> {
-    static constexpr std::string_view word = "general spec";
-};
+using GeneralSpecKind = CoreSpecKind<Kinds::GeneralSpec>;
 
 } // namespace Parameters::Internal

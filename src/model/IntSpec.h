@@ -4,12 +4,8 @@
 
 #include <parameters/IntSpec.h>
 
-#include <string_view>
-
 namespace Parameters::Internal {
 
-struct IntSpecKind : BuiltInCoreSpecKind<IntSpec, Ostra::BuiltIn::intSpec> {
-    static constexpr std::string_view word = "integer spec";
-};
+using IntSpecKind = CoreSpecKind<Kinds::IntSpec>;
 
 } // namespace Parameters::Internal

@@ -3,28 +3,23 @@
 #include "model/FloatRange.h"
 #include "model/MeasurableSpec.h"
 #include "model/RangedParameter.h"
-#include "schema/Schema.h"
 
 #include <parameters/MeasurableParameter.h>
-#include <parameters/ValueType.h>
-
-#include <optional>
-#include <string>
-#include <string_view>
 
 namespace Parameters::Internal {
 
-struct MeasurableParameterKind {
-    using Object = MeasurableParameter;
-    using Record = RangedParameterRecord<FloatRange>;
+struct MeasurableParameterTraits {
+    using Public = Kinds::MeasurableParameter;
+    using SpecKind = MeasurableSpecKind;
+    using RangeKind = FloatRangeKind;
 
-    static constexpr std::string_view word = "measurable parameter";
-    static constexpr ValueType valueType = Measurable;
+    static constexpr bool bindsRangeFirst = false;
 
-    static std::optional<Record> read(const Ostra::Schema& schema);
-    static Record recordOf(const MeasurableParameter& parameter);
-    static MeasurableParameter build(const Record& record, const Finder& finder);
-    static std::string write(const MeasurableParameter& parameter);
+    static MeasurableSpec findSpec(const ParameterRecord& record, const Finder& finder, const MeasurableSpec*) {
+        return finder.require<MeasurableSpecKind>(record.spec(), record.typeId());
+    }
 };
+
+using MeasurableParameterKind = RangedParameterKind<MeasurableParameterTraits>;
 
 } // namespace Parameters::Internal

@@ -1,7 +1,6 @@
 #include "model/MeasurableSpec.h"
 
 #include "model/Writing.h"
-#include "schema/BuiltIn.h"
 #include "schema/Constants.h"
 
 #include <memory>
@@ -9,8 +8,6 @@
 #include <utility>
 
 namespace Parameters {
-
-namespace BuiltIn = Ostra::BuiltIn;
 
 namespace {
 
@@ -43,31 +40,26 @@ struct FoundUnits {
 };
 
 FoundUnits findUnits(const MeasurableSpecKind::Record& record, const Finder& finder) {
-    FoundUnits found{finder.requireUnit(record.units[0], "for storageUnit", record.typeId()), {}};
-    found.applicable.reserve(record.units.size() - 1);
-    for (std::size_t i = 1; i < record.units.size(); ++i) {
-        found.applicable.push_back(finder.requireUnit(record.units[i], "in applicableUnits", record.typeId()));
+    FoundUnits found{finder.requireUnit(record.storageUnit(), "for storageUnit", record.typeId()), {}};
+    found.applicable.reserve(record.applicableUnits());
+    for (std::size_t place = 0; place < record.applicableUnits(); ++place) {
+        found.applicable.push_back(
+            finder.requireUnit(record.applicableUnit(place), "in applicableUnits", record.typeId()));
     }
     return found;
-}
-
-MeasurableSpec specOf(SpecCoreData core, FoundUnits units) {
-    return Parameters::specOf({std::move(core), std::move(units.applicable), units.storage});
 }
 
 } // namespace
 
 std::optional<MeasurableSpecKind::Record> MeasurableSpecKind::read(const Ostra::Schema& schema) {
-    if (!schema.inherits(BuiltIn::measurableSpec)) {
+    if (!schema.inherits(base)) {
         return std::nullopt;
     }
     const Ostra::Constants constants(schema);
-    const auto [name, discipline] = SpecConstants::read(constants);
+    const auto common = SpecConstants::read(constants);
     auto units = constants.optional<Ostra::TypedValues>("applicableUnits", {});
     units.insert(units.begin(), constants.required<Ostra::TypedValue>("storageUnit"));
-    // Made before the record: g++ 12 destroys the first part of a record twice when making the second one throws.
-    const Texts unitTexts(units);
-    return Record{{{schema.typeId(), name}, {discipline}, std::nullopt}, unitTexts};
+    return Record(schema.typeId(), common, units);
 }
 
 MeasurableSpecKind::Record MeasurableSpecKind::recordOf(const MeasurableSpec& spec) {
@@ -76,23 +68,19 @@ MeasurableSpecKind::Record MeasurableSpecKind::recordOf(const MeasurableSpec& sp
     for (const Units::Unit& unit : applicableUnits) {
         typeIds.push_back(unit.getTypeId());
     }
-    const Texts units(std::vector<std::string_view>(typeIds.begin(), typeIds.end()));
-    return {{core.texts, {typeIdOf(core.discipline)}, core.discipline}, units};
+    return Record(core, std::vector<std::string_view>(typeIds.begin(), typeIds.end()));
 }
 
-MeasurableSpec MeasurableSpecKind::build(const Record& record, const Finder& finder) {
-    // Of two things missing, resolution names the unit, binding the discipline.
-    if (finder.binds()) {
-        auto core = buildSpecCore(record, finder);
-        return specOf(std::move(core), findUnits(record, finder));
-    }
-    auto units = findUnits(record, finder);
-    return specOf(buildSpecCore(record, finder), std::move(units));
+MeasurableSpec MeasurableSpecKind::build(const Record& record, const Finder& finder, const MeasurableSpec* given) {
+    auto [units, core] = findBoth(
+        finder, [&] { return findUnits(record, finder); },
+        [&] { return buildSpecCore(record, finder, given != nullptr ? &Access::data(*given).core : nullptr); });
+    return specOf({std::move(core), std::move(units.applicable), units.storage});
 }
 
 std::string MeasurableSpecKind::write(const MeasurableSpec& spec) {
     const auto& [core, applicableUnits, storageUnit] = Access::data(spec);
-    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), BuiltIn::measurableSpec);
+    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
     writeSpecConstants(writer, core);
     if (!applicableUnits.empty()) {
         writer.typedConstant("applicableUnits").beginArray();

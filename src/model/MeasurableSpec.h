@@ -5,7 +5,9 @@
 
 #include <parameters/MeasurableSpec.h>
 
+#include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,17 +22,23 @@ struct MeasurableSpecData {
     std::string_view typeId() const { return core.typeId(); }
 };
 
-struct MeasurableSpecKind {
-    using Object = MeasurableSpec;
+struct MeasurableSpecKind : DescribedKind<Kinds::MeasurableSpec> {
+    using Names = KindList<DisciplineKind>;
     struct Record : SpecRecord {
         Texts units; // typeids: storage unit, applicable units
-    };
 
-    static constexpr std::string_view word = "measurable spec";
+        Record(std::string_view typeId, const SpecConstants& constants, std::span<const std::string_view> named)
+            : SpecRecord(typeId, constants), units(named) {}
+        Record(const SpecCoreData& core, std::span<const std::string_view> named) : SpecRecord(core), units(named) {}
+
+        std::string_view storageUnit() const { return units[0]; }
+        std::size_t applicableUnits() const { return units.size() - 1; }
+        std::string_view applicableUnit(std::size_t place) const { return units[place + 1]; }
+    };
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const MeasurableSpec& spec);
-    static MeasurableSpec build(const Record& record, const Finder& finder);
+    static MeasurableSpec build(const Record& record, const Finder& finder, const MeasurableSpec* given);
     static std::string write(const MeasurableSpec& spec);
 };
 

@@ -2,10 +2,10 @@
 
 #include "model/Access.h"
 #include "model/Finder.h"
+#include "model/Kind.h"
 #include "model/RangeConstant.h"
 #include "model/Texts.h"
 #include "model/Writing.h"
-#include "schema/BuiltIn.h"
 #include "schema/Constants.h"
 #include "schema/Immortal.h"
 #include "schema/JSON.h"
@@ -32,15 +32,16 @@ struct NumericRangeData {
 
 /// The kind of a range between two numbers; integer and floating-point ranges differ in the numbers alone.
 ///
-/// Traits names the Range class, its Number, the Reader of a number from JSON, and the base.
+/// Traits has the kind's entry in the public list, its Number, the Reader of a number from JSON, and how one is
+/// written.
 template <class Traits>
-class NumericRangeKind {
+class NumericRangeKind : public DescribedKind<typename Traits::Public> {
 public:
-    using Object = typename Traits::Range;
+    using Object = typename Traits::Public::Value;
+    using Names = KindList<>;
     using Number = typename Traits::Number;
     using Record = NumericRangeData<Number>;
-
-    static constexpr const Ostra::BuiltIn::Identifier& base = Traits::base;
+    using DescribedKind<typename Traits::Public>::base;
 
     static std::optional<Record> read(const Ostra::Schema& schema) {
         if (!schema.inherits(base)) {
@@ -56,7 +57,7 @@ public:
 
     static Record recordOf(const Object& range) { return Access::data(range); }
 
-    static Object build(const Record& record, const Finder&) { return of(record); }
+    static Object build(const Record& record, const Finder&, const Object*) { return of(record); }
 
     static std::string write(const Object& range) {
         const Record& data = Access::data(range);

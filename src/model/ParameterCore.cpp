@@ -1,7 +1,6 @@
 #include "model/ParameterCore.h"
 
 #include "model/Taxon.h"
-#include "schema/BuiltIn.h"
 
 #include <string>
 
@@ -9,8 +8,7 @@ namespace Parameters {
 
 ParameterCore::ParameterCore(const std::string& typeId, const std::string& name, const std::string& description,
                              const std::string& sampleText, bool readOnly)
-    : ParameterCore(typeId, name, Internal::standInOf<Internal::GroupKind>(Ostra::BuiltIn::group.full()), description,
-                    sampleText, readOnly) {}
+    : ParameterCore(typeId, name, Internal::standInOf<Internal::GroupKind>(), description, sampleText, readOnly) {}
 
 ParameterCore::ParameterCore(const std::string& typeId, const std::string& name, const Taxon& group,
                              const std::string& description, const std::string& sampleText, bool readOnly)
@@ -38,7 +36,7 @@ ParameterConstants ParameterConstants::read(const Ostra::Constants& constants) {
     result.name = constants.required<Ostra::NonEmptyString>("name");
     result.description = constants.optional<Ostra::String>("description", "");
     result.sampleText = constants.optional<Ostra::String>("sampleText", "");
-    result.group = constants.optional<Ostra::TypedValue>("group", Ostra::BuiltIn::group.full());
+    result.group = constants.optional<Ostra::TypedValue>("group", GroupKind::base.full());
     result.readOnly = constants.optional<Ostra::Boolean>("readOnly", false);
     return result;
 }
@@ -56,17 +54,11 @@ void writeParameterConstants(Ostra::SchemaWriter& writer, const ParameterCoreDat
         writer.constant("sampleText").string(core.sampleText());
     }
     const std::string_view group = typeIdOf(core.group);
-    if (group != Ostra::BuiltIn::group.full()) {
+    if (group != GroupKind::base.full()) {
         writer.typedConstant("group").typedValue(group);
     }
     if (core.readOnly) {
         writer.constant("readOnly").boolean(true);
-    }
-}
-
-void writeSpecConstant(Ostra::SchemaWriter& writer, std::string_view spec, std::string_view defaultSpec) {
-    if (spec != defaultSpec) {
-        writer.typedConstant("spec").typedValue(spec);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "model/Access.h"
 #include "model/Finder.h"
+#include "model/Kind.h"
 #include "model/Taxon.h"
 #include "model/Texts.h"
 #include "schema/Constants.h"
@@ -11,6 +12,7 @@
 #include <parameters/Taxon.h>
 
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace Parameters::Internal {
@@ -26,17 +28,6 @@ struct ParameterCoreData {
     std::string_view sampleText() const { return texts[3]; }
 };
 
-/// The part of a parameter's record that all parameters share.
-struct ParameterRecord {
-    Texts texts;      // typeid, name, description, sampleText
-    Texts references; // typeids: group, spec, then what the kind adds
-    bool readOnly;
-
-    std::string_view typeId() const { return texts[0]; }
-    std::string_view group() const { return references[0]; }
-    std::string_view spec() const { return references[1]; }
-};
-
 /// The constants that all parameter schemas share, as the text has them.
 struct ParameterConstants {
     std::string_view name;
@@ -46,8 +37,37 @@ struct ParameterConstants {
     bool readOnly;
 
     static ParameterConstants read(const Ostra::Constants& constants);
+};
 
-    Texts texts(std::string_view typeId) const { return {typeId, name, description, sampleText}; }
+/// The part of a parameter's record that all parameters share.
+struct ParameterRecord {
+    Texts texts;      // typeid, name, description, sampleText
+    Texts references; // typeids: group, spec, then what the kind adds
+    bool readOnly;
+
+    /// Of a schema text.
+    ParameterRecord(std::string_view typeId, const ParameterConstants& constants, std::string_view spec,
+                    std::optional<std::string_view> added = {})
+        : texts{typeId, constants.name, constants.description, constants.sampleText},
+          references(referencesOf(constants.group, spec, added)), readOnly(constants.readOnly) {}
+    /// Of an object.
+    ParameterRecord(const ParameterCoreData& core, std::string_view spec, std::optional<std::string_view> added = {})
+        : texts(core.texts), references(referencesOf(typeIdOf(core.group), spec, added)), readOnly(core.readOnly) {}
+
+    std::string_view typeId() const { return texts[0]; }
+    std::string_view group() const { return references[0]; }
+    std::string_view spec() const { return references[1]; }
+
+protected:
+    /// What the kind names beside group and spec, if it does.
+    std::optional<std::string_view> added() const {
+        return references.size() > 2 ? std::optional(references[2]) : std::nullopt;
+    }
+
+private:
+    static Texts referencesOf(std::string_view group, std::string_view spec, std::optional<std::string_view> added) {
+        return added ? Texts{group, spec, *added} : Texts{group, spec};
+    }
 };
 
 /// Returns the core of the record with the group that it names.
@@ -56,8 +76,17 @@ ParameterCoreData buildParameterCore(const ParameterRecord& record, const Finder
 /// Writes the constants that all parameters share, those that differ from their defaults.
 void writeParameterConstants(Ostra::SchemaWriter& writer, const ParameterCoreData& core);
 
-/// Writes the constant that names a parameter's spec, unless that is the default.
-void writeSpecConstant(Ostra::SchemaWriter& writer, std::string_view spec, std::string_view defaultSpec = {});
+/// Writes the constant that names a parameter's spec, unless that is the built-in one.
+template <class SpecKind>
+void writeSpecConstant(Ostra::SchemaWriter& writer, const typename SpecKind::Object& spec) {
+    const std::string_view typeId = typeIdOf(spec);
+    if constexpr (KindWithStandIn<SpecKind>) {
+        if (typeId == SpecKind::base.full()) {
+            return;
+        }
+    }
+    writer.typedConstant("spec").typedValue(typeId);
+}
 
 /// Returns the core that is a part of a parameter's data and lives as long as that.
 template <class Data>

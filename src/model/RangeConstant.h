@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Access.h"
-#include "schema/BuiltIn.h"
+#include "schema/Identifier.h"
 #include "schema/JSON.h"
 #include "schema/Schema.h"
 
@@ -21,7 +21,7 @@ struct RangeReference {
 /// A base of ranges that a parameter's schema may write inline, and how the inline value is read.
 template <class Range>
 struct InlineRangeBase {
-    const Ostra::BuiltIn::Identifier& identifier;
+    const Ostra::Identifier& identifier;
     Range (*readInline)(Ostra::JSONView value);
 };
 

@@ -2,7 +2,6 @@
 
 #include "model/Category.h"
 #include "model/Writing.h"
-#include "schema/BuiltIn.h"
 #include "schema/Constants.h"
 
 #include <parameters/ValidationException.h>
@@ -12,8 +11,6 @@
 #include <utility>
 
 namespace Parameters {
-
-namespace BuiltIn = Ostra::BuiltIn;
 
 namespace {
 
@@ -25,14 +22,15 @@ ReferenceParameter parameterOf(Internal::ReferenceParameterData data) {
 } // namespace
 
 ReferenceParameter::ReferenceParameter(const ParameterCore& core, const Category& category, bool ranged)
-    : ReferenceParameter(core, Internal::ReferenceSpecKind::familyType(BuiltIn::familyType.full(), category), ranged) {}
+    : ReferenceParameter(
+          core, Internal::ReferenceSpecKind::familyType(Internal::ReferenceSpecKind::familyTypeBase.full(), category),
+          ranged) {}
 
 ReferenceParameter::ReferenceParameter(const ParameterCore& core, const ReferenceSpec& spec, bool ranged)
     : ReferenceParameter(parameterOf({Internal::Access::data(core), spec, ranged})) {}
 
 ReferenceParameter::ReferenceParameter(const ParameterCore& core, bool ranged)
-    : ReferenceParameter(core, Internal::standInOf<Internal::ReferenceSpecKind>(BuiltIn::referenceSpec.full()),
-                         ranged) {}
+    : ReferenceParameter(core, Internal::standInOf<Internal::ReferenceSpecKind>(), ranged) {}
 
 ParameterCore ReferenceParameter::getCore() const { return Internal::parameterCoreOf(data_); }
 
@@ -45,6 +43,8 @@ PARAMETERS_COMPARE_BY_TYPEID(ReferenceParameter)
 namespace Internal {
 
 namespace {
+
+bool isFamilyType(std::string_view spec) { return ReferenceSpecKind::familyTypeBase.isIn(spec); }
 
 /// Returns the typeid of the category that stands beside the typeid of the family type base.
 std::string_view readCategory(std::string_view spec, Ostra::JSONView typedValue) {
@@ -73,7 +73,7 @@ struct SpecReference {
 SpecReference readSpec(const Ostra::Schema& schema, const Ostra::Constants& constants) {
     const auto typedValue = constants.find("spec");
     if (!typedValue) {
-        return {BuiltIn::referenceSpec.full(), std::nullopt};
+        return {ReferenceSpecKind::base.full(), std::nullopt};
     }
     const auto typeId = typedValue->member("typeid");
     if (!typeId) {
@@ -81,7 +81,7 @@ SpecReference readSpec(const Ostra::Schema& schema, const Ostra::Constants& cons
                     " must specify a typeid string attribute in its spec constant typedValue.");
     }
     const std::string_view spec = Ostra::readTypeId(*typeId);
-    if (BuiltIn::familyType.isIn(spec)) {
+    if (isFamilyType(spec)) {
         return {spec, readCategory(spec, *typedValue)};
     }
     if (typedValue->hasMember("value") || typedValue->hasMember("typedValue")) {
@@ -90,44 +90,43 @@ SpecReference readSpec(const Ostra::Schema& schema, const Ostra::Constants& cons
     return {spec, std::nullopt};
 }
 
-Texts referencesOf(std::string_view group, std::string_view spec, std::optional<std::string_view> category) {
-    return category ? Texts{group, spec, *category} : Texts{group, spec};
-}
-
-ReferenceSpec buildFamilyType(const ParameterRecord& record, const Finder& finder) {
-    if (record.references.size() < 3) {
+ReferenceSpec buildFamilyType(const ReferenceParameterKind::Record& record, const Finder& finder) {
+    const auto named = record.category();
+    if (!named) {
         throw ValidationException("Family Type parameter must specify a category.");
     }
-    const auto category = finder.require<CategoryKind>(record.references[2], record.typeId());
-    return ReferenceSpecKind::familyType(finder.binds() ? BuiltIn::familyType.full() : record.spec(), category);
+    const auto category = finder.require<CategoryKind>(*named, record.typeId());
+    return ReferenceSpecKind::familyType(finder.binds() ? ReferenceSpecKind::familyTypeBase.full() : record.spec(),
+                                         category);
 }
 
 } // namespace
 
 std::optional<ReferenceParameterKind::Record> ReferenceParameterKind::read(const Ostra::Schema& schema) {
-    const bool ranged = schema.inherits(BuiltIn::rangedReferenceParameter);
-    if (!ranged && !schema.inherits(BuiltIn::referenceParameter)) {
+    const bool ranged = schema.inherits(rangedBase);
+    if (!ranged && !schema.inherits(plainBase)) {
         return std::nullopt;
     }
     const Ostra::Constants constants(schema);
     const auto common = ParameterConstants::read(constants);
     const auto [spec, category] = readSpec(schema, constants);
-    return Record{{common.texts(schema.typeId()), referencesOf(common.group, spec, category), common.readOnly}, ranged};
+    return Record(ranged, schema.typeId(), common, spec, category);
 }
 
 ReferenceParameterKind::Record ReferenceParameterKind::recordOf(const ReferenceParameter& parameter) {
     const auto& [core, spec, ranged] = Access::data(parameter);
     const auto& category = Access::data(spec).category;
     std::optional<std::string_view> named;
-    if (category && BuiltIn::familyType.isIn(typeIdOf(spec))) { // another spec brings its own category
+    if (category && isFamilyType(typeIdOf(spec))) { // another spec brings its own category
         named = typeIdOf(*category);
     }
-    return {{core.texts, referencesOf(typeIdOf(core.group), typeIdOf(spec), named), core.readOnly}, ranged};
+    return Record(ranged, core, typeIdOf(spec), named);
 }
 
-ReferenceParameter ReferenceParameterKind::build(const Record& record, const Finder& finder) {
+ReferenceParameter ReferenceParameterKind::build(const Record& record, const Finder& finder,
+                                                 const ReferenceParameter*) {
     auto core = buildParameterCore(record, finder);
-    const auto spec = BuiltIn::familyType.isIn(record.spec())
+    const auto spec = isFamilyType(record.spec())
                           ? buildFamilyType(record, finder)
                           : finder.requireOrUsualStandIn<ReferenceSpecKind>(record.spec(), record.typeId());
     return parameterOf({std::move(core), spec, record.ranged});
@@ -135,12 +134,12 @@ ReferenceParameter ReferenceParameterKind::build(const Record& record, const Fin
 
 std::string ReferenceParameterKind::write(const ReferenceParameter& parameter) {
     const auto& [core, spec, ranged] = Access::data(parameter);
-    const auto& base = ranged ? BuiltIn::rangedReferenceParameter : BuiltIn::referenceParameter;
+    const auto& base = ranged ? rangedBase : plainBase;
     Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
     writeParameterConstants(writer, core);
     const auto& category = Access::data(spec).category;
-    if (category && BuiltIn::familyType.isIn(typeIdOf(spec))) {
-        writer.typedConstant("spec").beginTypedValue(BuiltIn::familyType.full());
+    if (category && isFamilyType(typeIdOf(spec))) {
+        writer.typedConstant("spec").beginTypedValue(ReferenceSpecKind::familyTypeBase.full());
         writer.name("typedValue");
         writer.beginObject();
         writer.name("category");
@@ -148,7 +147,7 @@ std::string ReferenceParameterKind::write(const ReferenceParameter& parameter) {
         writer.endObject();
         writer.endObject();
     } else {
-        writeSpecConstant(writer, typeIdOf(spec), BuiltIn::referenceSpec.full());
+        writeSpecConstant<ReferenceSpecKind>(writer, spec);
     }
     return std::move(writer).finish();
 }

@@ -5,11 +5,11 @@
 #include "schema/Schema.h"
 
 #include <parameters/ReferenceParameter.h>
-#include <parameters/ValueType.h>
 
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace Parameters::Internal {
 
@@ -21,18 +21,24 @@ struct ReferenceParameterData {
     std::string_view typeId() const { return core.typeId(); }
 };
 
-struct ReferenceParameterKind {
-    using Object = ReferenceParameter;
-    struct Record : ParameterRecord { // the category of a family type is the third reference
+struct ReferenceParameterKind : DescribedKind<Kinds::ReferenceParameter> {
+    using Names = KindList<GroupKind, ReferenceSpecKind, CategoryKind>;
+    struct Record : ParameterRecord {
         bool ranged;
+
+        template <class... Parts> // of a ParameterRecord; what it adds is the category of a family type
+        explicit Record(bool isRanged, Parts&&... parts)
+            : ParameterRecord(std::forward<Parts>(parts)...), ranged(isRanged) {}
+
+        std::optional<std::string_view> category() const { return added(); }
     };
 
-    static constexpr std::string_view word = "reference parameter";
-    static constexpr ValueType valueType = Reference;
+    static constexpr Ostra::Identifier plainBase{Public::info.bases()[0]};
+    static constexpr Ostra::Identifier rangedBase{Public::info.bases()[1]};
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const ReferenceParameter& parameter);
-    static ReferenceParameter build(const Record& record, const Finder& finder);
+    static ReferenceParameter build(const Record& record, const Finder& finder, const ReferenceParameter* given);
     static std::string write(const ReferenceParameter& parameter);
 };
 

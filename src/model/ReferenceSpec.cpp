@@ -9,8 +9,6 @@
 
 namespace Parameters {
 
-namespace BuiltIn = Ostra::BuiltIn;
-
 namespace {
 
 ReferenceSpec specOf(Internal::SpecCoreData core, std::optional<Category> category) {
@@ -32,35 +30,33 @@ PARAMETERS_COMPARE_BY_TYPEID(ReferenceSpec)
 
 namespace Internal {
 
-std::optional<SpecRecord> ReferenceSpecKind::read(const Ostra::Schema& schema) {
-    if (!schema.inherits(BuiltIn::referenceSpec)) {
+std::optional<ReferenceSpecKind::Record> ReferenceSpecKind::read(const Ostra::Schema& schema) {
+    if (!schema.inherits(base)) {
         return std::nullopt;
     }
     const Ostra::Constants constants(schema);
-    const auto [name, discipline] = SpecConstants::read(constants);
+    const auto common = SpecConstants::read(constants);
     const auto category = constants.optional<Ostra::TypedValue>("category", {});
-    return Record{
-        {schema.typeId(), name}, category.empty() ? Texts{discipline} : Texts{discipline, category}, std::nullopt};
+    return Record(schema.typeId(), common, category.empty() ? std::nullopt : std::optional(category));
 }
 
-SpecRecord ReferenceSpecKind::recordOf(const ReferenceSpec& spec) {
+ReferenceSpecKind::Record ReferenceSpecKind::recordOf(const ReferenceSpec& spec) {
     const auto& [core, category] = Access::data(spec);
-    const std::string_view discipline = typeIdOf(core.discipline);
-    return {core.texts, category ? Texts{discipline, typeIdOf(*category)} : Texts{discipline}, core.discipline};
+    return Record(core, category ? std::optional(typeIdOf(*category)) : std::nullopt);
 }
 
-ReferenceSpec ReferenceSpecKind::build(const Record& record, const Finder& finder) {
-    auto core = buildSpecCore(record, finder);
+ReferenceSpec ReferenceSpecKind::build(const Record& record, const Finder& finder, const ReferenceSpec* given) {
+    auto core = buildSpecCore(record, finder, given != nullptr ? &Access::data(*given).core : nullptr);
     std::optional<Category> category;
-    if (record.references.size() > 1) {
-        category = finder.require<CategoryKind>(record.references[1], record.typeId());
+    if (const auto named = record.category()) {
+        category = finder.require<CategoryKind>(*named, record.typeId());
     }
     return specOf(std::move(core), std::move(category));
 }
 
 std::string ReferenceSpecKind::write(const ReferenceSpec& spec) {
     const auto& [core, category] = Access::data(spec);
-    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), BuiltIn::referenceSpec);
+    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
     writeSpecConstants(writer, core);
     if (category) {
         writer.typedConstant("category").typedValue(typeIdOf(*category));
@@ -69,11 +65,11 @@ std::string ReferenceSpecKind::write(const ReferenceSpec& spec) {
 }
 
 ReferenceSpec ReferenceSpecKind::standIn(std::string_view typeId) {
-    return specOf(commonSpecCore(typeId, builtIn.displayName()), std::nullopt);
+    return specOf(commonSpecCore(typeId, Public::info.builtInName()), std::nullopt);
 }
 
 ReferenceSpec ReferenceSpecKind::familyType(std::string_view typeId, const Category& category) {
-    return specOf(commonSpecCore(typeId, BuiltIn::familyType.displayName()), category);
+    return specOf(commonSpecCore(typeId, "Family Type"), category);
 }
 
 } // namespace Internal

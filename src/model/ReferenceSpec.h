@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/SpecCore.h"
-#include "schema/BuiltIn.h"
 #include "schema/Schema.h"
 
 #include <parameters/ReferenceSpec.h>
@@ -19,21 +18,27 @@ struct ReferenceSpecData {
     std::string_view typeId() const { return core.typeId(); }
 };
 
-struct ReferenceSpecKind {
-    using Object = ReferenceSpec;
-    using Record = SpecRecord; // the category, if there is one, is the second reference
+struct CategoryKind;
 
-    static constexpr std::string_view word = "reference spec";
-    static constexpr const auto& builtIn = Ostra::BuiltIn::referenceSpec;
+struct ReferenceSpecKind : DescribedKind<Kinds::ReferenceSpec> {
+    using Names = KindList<DisciplineKind, CategoryKind>;
+    struct Record : SpecRecord {
+        using SpecRecord::SpecRecord;
+        std::optional<std::string_view> category() const { return added(); }
+    };
+
+    /// The spec that a parameter names to refer to family types of a category of its own choice.
+    static constexpr Ostra::Identifier familyTypeBase{Public::familyType};
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const ReferenceSpec& spec);
-    static ReferenceSpec build(const Record& record, const Finder& finder);
+    static ReferenceSpec build(const Record& record, const Finder& finder, const ReferenceSpec* given);
     static std::string write(const ReferenceSpec& spec);
     static ReferenceSpec standIn(std::string_view typeId);
 
     /// Returns the spec of family types under that typeid.
     static ReferenceSpec familyType(std::string_view typeId, const Category& category);
+    static bool reserves(std::string_view typeId) { return familyTypeBase.begins(typeId); }
 };
 
 } // namespace Parameters::Internal

@@ -1,7 +1,6 @@
 #include "model/SpecCore.h"
 
 #include "model/Taxon.h"
-#include "schema/BuiltIn.h"
 
 #include <string>
 
@@ -25,25 +24,25 @@ namespace Internal {
 
 SpecConstants SpecConstants::read(const Ostra::Constants& constants) {
     const auto name = constants.required<Ostra::NonEmptyString>("name");
-    const auto discipline = constants.optional<Ostra::TypedValue>("discipline", Ostra::BuiltIn::discipline.full());
+    const auto discipline = constants.optional<Ostra::TypedValue>("discipline", DisciplineKind::base.full());
     return {name, discipline};
 }
 
-SpecCoreData buildSpecCore(const SpecRecord& record, const Finder& finder) {
+SpecCoreData buildSpecCore(const SpecRecord& record, const Finder& finder, const SpecCoreData* given) {
     const Taxon discipline = finder.requireOrStandIn<DisciplineKind>(record.discipline(), record.typeId());
-    return {record.texts, record.givenDiscipline.value_or(discipline)};
+    return {record.texts, given != nullptr ? given->discipline : discipline};
 }
 
 void writeSpecConstants(Ostra::SchemaWriter& writer, const SpecCoreData& core) {
     writer.constant("name").string(core.name());
     const std::string_view discipline = typeIdOf(core.discipline);
-    if (discipline != Ostra::BuiltIn::discipline.full()) {
+    if (discipline != DisciplineKind::base.full()) {
         writer.typedConstant("discipline").typedValue(discipline);
     }
 }
 
 SpecCoreData commonSpecCore(std::string_view typeId, std::string_view name) {
-    return {{typeId, name}, standInOf<DisciplineKind>(DisciplineKind::builtIn.full())};
+    return {{typeId, name}, standInOf<DisciplineKind>()};
 }
 
 } // namespace Internal

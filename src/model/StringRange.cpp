@@ -1,7 +1,6 @@
 #include "model/StringRange.h"
 
 #include "model/Writing.h"
-#include "schema/BuiltIn.h"
 #include "schema/Immortal.h"
 
 #include <parameters/ValidationException.h>
@@ -15,12 +14,11 @@
 
 namespace Parameters {
 
-namespace BuiltIn = Ostra::BuiltIn;
-
 namespace {
 
 using Internal::Access;
 using Internal::StringRangeData;
+using Internal::StringRangeKind;
 using Internal::Texts;
 
 StringRange rangeOf(StringRangeData data) {
@@ -53,13 +51,13 @@ RegexStringRangeComponent::RegexStringRangeComponent(const std::string& regex)
 
 std::string RegexStringRangeComponent::getRegex() const { return std::string(regexIn(*this)); }
 
-StringRange::StringRange() : StringRange(rangeOf({{BuiltIn::stringRange.full()}, {}})) {}
+StringRange::StringRange() : StringRange(rangeOf({{StringRangeKind::anyBase.full()}, {}})) {}
 
 StringRange::StringRange(const SetStringRangeComponent& set)
-    : StringRange(rangeOf({{BuiltIn::setStringRange.full()}, set})) {}
+    : StringRange(rangeOf({{StringRangeKind::setBase.full()}, set})) {}
 
 StringRange::StringRange(const RegexStringRangeComponent& regex)
-    : StringRange(rangeOf({{BuiltIn::regexStringRange.full()}, regex})) {}
+    : StringRange(rangeOf({{StringRangeKind::regexBase.full()}, regex})) {}
 
 StringRange::StringRange(const std::string& typeId, const SetStringRangeComponent& set)
     : StringRange(rangeOf({{typeId}, set})) {}
@@ -139,19 +137,19 @@ StringRange readInlineDefault(Ostra::JSONView value) {
 
 std::optional<StringRangeKind::Record> StringRangeKind::read(const Ostra::Schema& schema) {
     const Ostra::Constants constants(schema);
-    if (schema.inherits(BuiltIn::setStringRange)) {
+    if (schema.inherits(setBase)) {
         return Record{{schema.typeId()}, setOf(constants.required<Ostra::UniqueStrings>("allowedValues"))};
     }
-    if (schema.inherits(BuiltIn::regexStringRange)) {
+    if (schema.inherits(regexBase)) {
         return Record{{schema.typeId()}, regexOf(constants.required<Ostra::String>("regex"))};
     }
-    if (schema.inherits(BuiltIn::stringRange)) {
+    if (schema.inherits(anyBase)) {
         return Record{{schema.typeId()}, {}};
     }
     return std::nullopt;
 }
 
-StringRange StringRangeKind::build(const Record& record, const Finder& finder) {
+StringRange StringRangeKind::build(const Record& record, const Finder& finder, const StringRange*) {
     if (finder.binds()) {
         checkUnique(record); // a text's values are unique since they were read
     }
@@ -161,8 +159,7 @@ StringRange StringRangeKind::build(const Record& record, const Finder& finder) {
 std::string StringRangeKind::write(const StringRange& range) {
     const StringRangeData& data = Access::data(range);
     const auto* set = data.set();
-    Ostra::SchemaWriter writer =
-        schemaWriter(data.typeId(), set != nullptr ? BuiltIn::setStringRange : BuiltIn::regexStringRange);
+    Ostra::SchemaWriter writer = schemaWriter(data.typeId(), set != nullptr ? setBase : regexBase);
     if (set != nullptr) {
         writeAllowedValues(writer.constant("allowedValues"), *set);
     } else {
@@ -175,10 +172,9 @@ std::string StringRangeKind::write(const StringRange& range) {
 RangeReference<StringRange> StringRangeKind::readConstant(const Ostra::Schema& schema,
                                                           const Ostra::Constants& constants) {
     if (const auto typedValue = constants.find("range")) {
-        return readRangeConstant<StringRange>(schema, *typedValue,
-                                              {{BuiltIn::stringRange, &readInlineDefault},
-                                               {BuiltIn::setStringRange, &readInlineSet},
-                                               {BuiltIn::regexStringRange, &readInlineRegex}});
+        return readRangeConstant<StringRange>(
+            schema, *typedValue,
+            {{anyBase, &readInlineDefault}, {setBase, &readInlineSet}, {regexBase, &readInlineRegex}});
     }
     static const auto& anyText = Ostra::immortal(StringRange());
     return {std::nullopt, anyText};
@@ -186,8 +182,7 @@ RangeReference<StringRange> StringRangeKind::readConstant(const Ostra::Schema& s
 
 RangeReference<StringRange> StringRangeKind::referenceTo(const StringRange& range) {
     const std::string_view typeId = typeIdOf(range);
-    if (BuiltIn::stringRange.isIn(typeId) || BuiltIn::setStringRange.isIn(typeId) ||
-        BuiltIn::regexStringRange.isIn(typeId)) {
+    if (anyBase.isIn(typeId) || setBase.isIn(typeId) || regexBase.isIn(typeId)) {
         return {std::nullopt, range};
     }
     return {typeId, range};
@@ -195,9 +190,9 @@ RangeReference<StringRange> StringRangeKind::referenceTo(const StringRange& rang
 
 void StringRangeKind::writeConstant(Ostra::SchemaWriter& writer, const StringRange& range) {
     const StringRangeData& data = Access::data(range);
-    const bool set = data.set() != nullptr && BuiltIn::setStringRange.isIn(data.typeId());
-    const bool regex = !set && data.regex() != nullptr && BuiltIn::regexStringRange.isIn(data.typeId());
-    if (!set && !regex && BuiltIn::stringRange.isIn(data.typeId())) {
+    const bool set = data.set() != nullptr && setBase.isIn(data.typeId());
+    const bool regex = !set && data.regex() != nullptr && regexBase.isIn(data.typeId());
+    if (!set && !regex && anyBase.isIn(data.typeId())) {
         return;
     }
     writer.typedConstant("range").beginTypedValue(data.typeId());
@@ -221,13 +216,13 @@ void StringRangeKind::check(const StringRange& range) {
     const std::string typeId(data.typeId());
     checkUnique(data);
     const std::string subject = "String range using base schema typeid " + typeId;
-    if (BuiltIn::stringRange.isIn(typeId) && (data.set() != nullptr || data.regex() != nullptr)) {
+    if (anyBase.isIn(typeId) && (data.set() != nullptr || data.regex() != nullptr)) {
         throw ValidationException(subject + " may not specify a limited range of values.");
     }
-    if (BuiltIn::setStringRange.isIn(typeId) && (data.set() == nullptr || allowedValuesIn(*data.set()).size() == 0)) {
+    if (setBase.isIn(typeId) && (data.set() == nullptr || allowedValuesIn(*data.set()).size() == 0)) {
         throw ValidationException(subject + " must specify an explicit set of allowed values.");
     }
-    if (BuiltIn::regexStringRange.isIn(typeId) && data.regex() == nullptr) {
+    if (regexBase.isIn(typeId) && data.regex() == nullptr) {
         throw ValidationException(subject + " must specify a regular expression matching permitted values.");
     }
 }

@@ -2,6 +2,7 @@
 
 #include "model/Access.h"
 #include "model/Finder.h"
+#include "model/Kind.h"
 #include "model/RangeConstant.h"
 #include "model/Texts.h"
 #include "schema/Constants.h"
@@ -34,15 +35,17 @@ struct StringRangeData {
     const RegexStringRangeComponent* regex() const { return std::get_if<RegexStringRangeComponent>(&limitation); }
 };
 
-struct StringRangeKind {
-    using Object = StringRange;
+struct StringRangeKind : DescribedKind<Kinds::StringRange> {
+    using Names = KindList<>;
     using Record = StringRangeData;
 
-    static constexpr std::string_view word = "string range";
+    static constexpr Ostra::Identifier anyBase{Public::info.bases()[0]};
+    static constexpr Ostra::Identifier setBase{Public::info.bases()[1]};
+    static constexpr Ostra::Identifier regexBase{Public::info.bases()[2]};
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const StringRange& range) { return Access::data(range); }
-    static StringRange build(const Record& record, const Finder& finder);
+    static StringRange build(const Record& record, const Finder& finder, const StringRange* given);
     static std::string write(const StringRange& range);
 
     /// Reads the range constant of a parameter; without it any text is allowed.

@@ -4,12 +4,8 @@
 
 #include <parameters/StringSpec.h>
 
-#include <string_view>
-
 namespace Parameters::Internal {
 
-struct StringSpecKind : BuiltInCoreSpecKind<StringSpec, Ostra::BuiltIn::stringSpec> {
-    static constexpr std::string_view word = "string spec";
-};
+using StringSpecKind = CoreSpecKind<Kinds::StringSpec>;
 
 } // namespace Parameters::Internal

@@ -9,16 +9,7 @@
 
 namespace Parameters {
 
-namespace {
-
-Taxon taxonOf(Internal::Texts texts) {
-    return Internal::Access::make<Taxon>(
-        std::make_shared<const Internal::TaxonData>(Internal::TaxonData{std::move(texts)}));
-}
-
-} // namespace
-
-Taxon::Taxon(const std::string& typeId, const std::string& name) : Taxon(taxonOf({typeId, name})) {}
+Taxon::Taxon(const std::string& typeId, const std::string& name) : Taxon(Internal::makeTaxon({typeId, name})) {}
 
 std::string Taxon::getTypeId() const { return std::string(data_->typeId()); }
 
@@ -28,26 +19,22 @@ PARAMETERS_COMPARE_BY_TYPEID(Taxon)
 
 namespace Internal {
 
-Taxon TaxonomyKind::build(const Record& record, const Finder&) { return taxonOf(record.texts); }
+Taxon makeTaxon(Texts texts) {
+    return Access::make<Taxon>(std::make_shared<const TaxonData>(TaxonData{std::move(texts)}));
+}
 
-std::optional<TaxonomyKind::Record> TaxonomyKind::readAs(const Ostra::BuiltIn::Identifier& base,
-                                                         const Ostra::Schema& schema) {
+std::optional<Texts> readTaxon(const Ostra::Schema& schema, const Ostra::Identifier& base) {
     if (!schema.inherits(base)) {
         return std::nullopt;
     }
     const auto name = Ostra::Constants(schema).required<Ostra::NonEmptyString>("name");
-    return Record{{schema.typeId(), name}};
+    return Texts{schema.typeId(), name};
 }
 
-std::string TaxonomyKind::writeAs(const Ostra::BuiltIn::Identifier& base, const Taxon& taxon) {
-    const TaxonData& data = Access::data(taxon);
-    Ostra::SchemaWriter writer = schemaWriter(data.typeId(), base);
-    writer.constant("name").string(data.name());
+std::string writeTaxon(const TaxonData& taxon, const Ostra::Identifier& base) {
+    Ostra::SchemaWriter writer = schemaWriter(taxon.typeId(), base);
+    writer.constant("name").string(taxon.name());
     return std::move(writer).finish();
-}
-
-Taxon TaxonomyKind::standInFor(const Ostra::BuiltIn::Identifier& builtIn, std::string_view typeId) {
-    return taxonOf({typeId, builtIn.displayName()});
 }
 
 } // namespace Internal

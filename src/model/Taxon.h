@@ -2,8 +2,8 @@
 
 #include "model/Access.h"
 #include "model/Finder.h"
+#include "model/Kind.h"
 #include "model/Texts.h"
-#include "schema/BuiltIn.h"
 #include "schema/Schema.h"
 
 #include <parameters/Taxon.h>
@@ -21,50 +21,35 @@ struct TaxonData {
     std::string_view name() const { return texts[1]; }
 };
 
-/// What the taxonomy kinds share; they differ in the base of their schemas.
-class TaxonomyKind {
-public:
-    using Object = Taxon;
+Taxon makeTaxon(Texts texts);
+/// Returns the texts of a schema with that base, or none.
+std::optional<Texts> readTaxon(const Ostra::Schema& schema, const Ostra::Identifier& base);
+std::string writeTaxon(const TaxonData& taxon, const Ostra::Identifier& base);
+
+/// The kind of a taxon. Those that have no built-in object are named only where one is registered.
+template <class P>
+struct TaxonKind : DescribedKind<P> {
+    using Names = KindList<>;
     struct Record {
         Texts texts; // typeid, name
     };
+    using DescribedKind<P>::base;
 
+    static std::optional<Record> read(const Ostra::Schema& schema) {
+        auto texts = readTaxon(schema, base);
+        return texts ? std::optional(Record{*std::move(texts)}) : std::nullopt;
+    }
     static Record recordOf(const Taxon& taxon) { return {Access::data(taxon).texts}; }
-    static Taxon build(const Record& record, const Finder& finder);
+    static Taxon build(const Record& record, const Finder&, const Taxon*) { return makeTaxon(record.texts); }
+    static std::string write(const Taxon& taxon) { return writeTaxon(Access::data(taxon), base); }
 
-protected:
-    static std::optional<Record> readAs(const Ostra::BuiltIn::Identifier& base, const Ostra::Schema& schema);
-    static std::string writeAs(const Ostra::BuiltIn::Identifier& base, const Taxon& taxon);
-    static Taxon standInFor(const Ostra::BuiltIn::Identifier& builtIn, std::string_view typeId);
+    static Taxon standIn(std::string_view typeId) requires DescribedKind<P>::hasBuiltIn {
+        return makeTaxon({typeId, P::info.builtInName()});
+    }
 };
 
-class DisciplineKind : public TaxonomyKind {
-public:
-    static constexpr std::string_view word = "discipline";
-    static constexpr const auto& builtIn = Ostra::BuiltIn::discipline;
-
-    static std::optional<Record> read(const Ostra::Schema& schema) { return readAs(builtIn, schema); }
-    static std::string write(const Taxon& taxon) { return writeAs(builtIn, taxon); }
-    static Taxon standIn(std::string_view typeId) { return standInFor(builtIn, typeId); }
-};
-
-class GroupKind : public TaxonomyKind {
-public:
-    static constexpr std::string_view word = "group";
-    static constexpr const auto& builtIn = Ostra::BuiltIn::group;
-
-    static std::optional<Record> read(const Ostra::Schema& schema) { return readAs(builtIn, schema); }
-    static std::string write(const Taxon& taxon) { return writeAs(builtIn, taxon); }
-    static Taxon standIn(std::string_view typeId) { return standInFor(builtIn, typeId); }
-};
-
-/// No domain stands in for the built-in identifier: what names a domain names a registered one.
-class DomainKind : public TaxonomyKind {
-public:
-    static constexpr std::string_view word = "domain";
-
-    static std::optional<Record> read(const Ostra::Schema& schema) { return readAs(Ostra::BuiltIn::domain, schema); }
-    static std::string write(const Taxon& taxon) { return writeAs(Ostra::BuiltIn::domain, taxon); }
-};
+using DisciplineKind = TaxonKind<Kinds::Discipline>;
+using GroupKind = TaxonKind<Kinds::Group>;
+using DomainKind = TaxonKind<Kinds::Domain>;
 
 } // namespace Parameters::Internal

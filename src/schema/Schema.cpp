@@ -59,7 +59,7 @@ std::string_view readId(JSONView definition) {
 
 Schema::Schema(std::string_view text, std::shared_ptr<const ExceptionFactory> factory)
     : document_(text, std::move(factory)), typeId_(readTypeId(document_.view())), base_(readBase(document_.view())),
-      beginsOnly_(BuiltIn::findStart(base_, 1) == std::string_view::npos) {
+      beginsOnly_(Identifier::findStart(base_, 1) == std::string_view::npos) {
     readDefinitions("constants", constants_);
     readDefinitions("properties", properties_);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "schema/BuiltIn.h"
+#include "schema/Identifier.h"
 #include "schema/Definitions.h"
 #include "schema/JSON.h"
 
@@ -24,7 +24,7 @@ public:
 
     std::string_view typeId() const { return typeId_; }
     /// True when the base is of that built-in identifier's major version.
-    bool inherits(const BuiltIn::Identifier& base) const { return beginsOnly_ ? base.begins(base_) : base.isIn(base_); }
+    bool inherits(const Identifier& base) const { return beginsOnly_ ? base.begins(base_) : base.isIn(base_); }
     std::string_view base() const { return base_; }
     const Definitions& constants() const { return constants_; }
     const Definitions& properties() const { return properties_; }

@@ -18,6 +18,9 @@ namespace Ostra {
 
 namespace {
 
+constexpr Identifier group("norvex.parameter:group-1.0.0");
+constexpr Identifier discipline("norvex.spec:discipline-1.0.0");
+
 using Support::Complaint;
 using Support::complaintOf;
 using Support::Complaints;
@@ -303,23 +306,23 @@ TEST(Schema, NeedsItsTextNoLonger) {
 
 TEST(Schema, InheritsFromEveryMinorVersionOfItsBase) {
     const Text text(R"({"typeid": "t", "inherits": ["norvex.parameter:group-1.9.3"]})");
-    EXPECT_TRUE(text.schema.inherits(BuiltIn::group));
-    EXPECT_FALSE(text.schema.inherits(BuiltIn::discipline));
+    EXPECT_TRUE(text.schema.inherits(group));
+    EXPECT_FALSE(text.schema.inherits(discipline));
 }
 
 TEST(Schema, InheritsFromABaseInsideALongerText) {
     const Text text(R"({"typeid": "t", "inherits": ["my norvex.parameter:group-1.0.0 too"]})");
-    EXPECT_TRUE(text.schema.inherits(BuiltIn::group));
+    EXPECT_TRUE(text.schema.inherits(group));
 }
 
 TEST(Schema, InheritsFromABaseBehindOneMoreCharacter) {
     const Text text(R"({"typeid": "t", "inherits": ["xnorvex.parameter:group-1.0.0"]})");
-    EXPECT_TRUE(text.schema.inherits(BuiltIn::group));
+    EXPECT_TRUE(text.schema.inherits(group));
 }
 
 TEST(Schema, DoesNotInheritFromAnotherMajorVersion) {
     const Text text(R"({"typeid": "t", "inherits": ["norvex.parameter:group-2.0.0"]})");
-    EXPECT_FALSE(text.schema.inherits(BuiltIn::group));
+    EXPECT_FALSE(text.schema.inherits(group));
 }
 
 TEST(Schema, FailsThroughTheFactoryOnDemand) {

@@ -1,6 +1,6 @@
 #include "UnitSchema.h"
 
-#include "schema/BuiltIn.h"
+#include "schema/Identifier.h"
 #include "schema/Constants.h"
 #include "schema/Schema.h"
 
@@ -10,7 +10,7 @@ namespace Units::Internal {
 
 namespace {
 
-constexpr Ostra::BuiltIn::Identifier unitBase("norvex.unit:unit-1.0.0");
+constexpr Ostra::Identifier unitBase("norvex.unit:unit-1.0.0");
 
 } // namespace
 

@@ -1,0 +1,116 @@
+#include "engine/Kinds.h"
+
+#include "support/Catalogue.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Parameters::Internal {
+
+namespace {
+
+template <class... Ks>
+std::vector<std::string> idsOf(KindList<Ks...>) {
+    return {std::string(Ks::Public::info.id())...};
+}
+
+using Ids = std::vector<std::string>;
+
+// The orders as they were promised: what was built or offered first shows in which fault is reported.
+
+TEST(StoreOrder, IsThatOfThePublicList) {
+    Ids ids;
+    Parameters::forEachKind([&](auto kind) { ids.emplace_back(kind.info.id()); });
+    EXPECT_EQ(idsOf(StoreOrder{}), ids);
+}
+
+TEST(OfferingOrder, HasTheKindsThatNameNothingFirst) {
+    EXPECT_EQ(idsOf(OfferingOrder{}), (Ids{"enumeration",
+                                           "float-range",
+                                           "int-range",
+                                           "string-range",
+                                           "discipline",
+                                           "group",
+                                           "domain",
+                                           "bool-spec",
+                                           "general-spec",
+                                           "int-spec",
+                                           "measurable-spec",
+                                           "reference-spec",
+                                           "string-spec",
+                                           "enumeration-parameter",
+                                           "bool-parameter",
+                                           "int-parameter",
+                                           "measurable-parameter",
+                                           "reference-parameter",
+                                           "string-parameter",
+                                           "category"}));
+}
+
+TEST(ResolutionOrder, HasWhatIsNamedFirst) {
+    EXPECT_EQ(idsOf(ResolutionOrder{}), (Ids{"enumeration",
+                                             "float-range",
+                                             "int-range",
+                                             "string-range",
+                                             "discipline",
+                                             "domain",
+                                             "group",
+                                             "category",
+                                             "bool-spec",
+                                             "general-spec",
+                                             "int-spec",
+                                             "measurable-spec",
+                                             "reference-spec",
+                                             "string-spec",
+                                             "enumeration-parameter",
+                                             "bool-parameter",
+                                             "int-parameter",
+                                             "measurable-parameter",
+                                             "reference-parameter",
+                                             "string-parameter"}));
+}
+
+TEST(ValueTypeOrder, HasTheReadableParameters) {
+    EXPECT_EQ(idsOf(ValueTypeOrder{}), (Ids{"bool-parameter", "int-parameter", "measurable-parameter",
+                                            "reference-parameter", "string-parameter"}));
+}
+
+/// What kinds say they name is what the order of resolution is checked against: it must be all that they name.
+TEST(Names, AreTheKindsOfAllThatTheExampleCatalogueNames) {
+    std::map<std::string, std::string> texts;
+    for (const std::string& text : Support::textsIn(OSTRA_SOURCE_DIR "/examples/catalogue")) {
+        texts.emplace(std::to_string(texts.size()), text);
+    }
+    ParametersEngine engine;
+    engine.registerSchemas(texts);
+    std::map<std::string, std::string_view> kindOfTypeId;
+    Parameters::forEachKind([&](auto kind) {
+        for (const auto& [typeId, object] : kind.getAll(engine)) {
+            kindOfTypeId.emplace(typeId, kind.info.id());
+        }
+    });
+    forEachKind(StoreOrder{}, [&]<class K>() {
+        std::set<std::string> promised;
+        for (const std::string& id : idsOf(typename K::Names{})) {
+            promised.insert(id);
+        }
+        std::set<std::string> named;
+        for (const auto& [typeId, object] : K::Public::getAll(engine)) {
+            for (const std::string& dependency : K::Public::getDependencies(engine, object)) {
+                if (const auto found = kindOfTypeId.find(dependency); found != kindOfTypeId.end()) {
+                    named.emplace(found->second);
+                }
+            }
+        }
+        EXPECT_EQ(named, promised) << K::word;
+    });
+}
+
+} // namespace
+
+} // namespace Parameters::Internal
