@@ -1,10 +1,13 @@
 #pragma once
 
 #include "schema/Immortal.h"
+#include "schema/Message.h"
 
 #include <exception>
+#include <initializer_list>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace Ostra {
 
@@ -18,6 +21,10 @@ public:
     /// Returns a pointer to an exception that carries the message; throws nothing but what allocation may throw.
     virtual std::exception_ptr makeException(const std::string& message) const = 0;
 
+    /// Throws the exception made from the message, with what is inserted into it.
+    [[noreturn]] void raise(const Message& message, std::initializer_list<std::string_view> inserted = {}) const {
+        raise(message.with(inserted));
+    }
     /// Throws the exception made from the message.
     [[noreturn]] void raise(const std::string& message) const { std::rethrow_exception(makeException(message)); }
 };

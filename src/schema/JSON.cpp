@@ -101,6 +101,10 @@ std::map<std::string, std::string> JSONView::toStringMap() const {
 
 std::string JSONView::toText() const { return ValueWriter().write(*value_); }
 
+void JSONView::fail(const Message& message, std::initializer_list<std::string_view> inserted) const {
+    factory_->raise(message, inserted);
+}
+
 void JSONView::fail(const std::string& message) const { factory_->raise(message); }
 
 // NOLINTNEXTLINE(bugprone-throw-keyword-missing): what is made of the factory is no exception

@@ -2,9 +2,11 @@
 
 #include "schema/ExceptionFactory.h"
 #include "schema/Memory.h"
+#include "schema/Message.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <optional>
@@ -72,6 +74,7 @@ public:
     std::string toText() const;
 
     /// Throws the exception of the library that had the document read.
+    [[noreturn]] void fail(const Message& message, std::initializer_list<std::string_view> inserted = {}) const;
     [[noreturn]] void fail(const std::string& message) const;
 
 private:

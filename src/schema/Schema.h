@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <initializer_list>
 #include <memory>
 #include <memory_resource>
 #include <string>
@@ -32,6 +33,9 @@ public:
     /// Returns the value of a definition: its "value", else its "typedValue"; fails when it has neither.
     static JSONView valueOf(JSONView definition);
 
+    [[noreturn]] void fail(const Message& message, std::initializer_list<std::string_view> inserted = {}) const {
+        document_.view().fail(message, inserted);
+    }
     [[noreturn]] void fail(const std::string& message) const { document_.view().fail(message); }
 
 private:
