@@ -1,65 +1,66 @@
 #include "schema/Constants.h"
 
+#include "schema/Messages.h"
+
 #include <set>
-#include <string>
 
 namespace Ostra {
 
 std::string_view String::read(JSONView value) {
     if (!value.isString()) {
-        value.fail("Expected a string.");
+        value.fail(messages("string-expected"));
     }
     return value.string();
 }
 
 std::string_view NonEmptyString::read(JSONView value) {
     if (!value.isString() || value.string().empty()) {
-        value.fail("Expected a non-empty string.");
+        value.fail(messages("non-empty-string-expected"));
     }
     return value.string();
 }
 
 bool Boolean::read(JSONView value) {
     if (!value.isBoolean()) {
-        value.fail("Expected a Boolean value.");
+        value.fail(messages("boolean-expected"));
     }
     return value.boolean();
 }
 
 std::int64_t Integer::read(JSONView value) {
     if (!value.isInteger()) {
-        value.fail("Expected an integer.");
+        value.fail(messages("integer-expected"));
     }
     return value.integer();
 }
 
 double Number::read(JSONView value) {
     if (!value.isNumber()) {
-        value.fail("Expected a number.");
+        value.fail(messages("number-expected"));
     }
     return value.number();
 }
 
 std::string_view TypedValue::read(JSONView value) {
     if (!value.isObject()) {
-        value.fail("A typedValue must be an object.");
+        value.fail(messages("typed-value-object-expected"));
     }
     if (value.size() != 1) {
-        value.fail("A typedValue object may not be empty and must contain a typeid attribute only.");
+        value.fail(messages("typed-value-typeid-only"));
     }
     const auto typeId = value.member("typeid");
     if (!typeId) {
-        value.fail("A typedValue did not contain a typeid attribute.");
+        value.fail(messages("typed-value-typeid-missing"));
     }
     if (!typeId->isString() || typeId->string().empty()) {
-        value.fail("A typeid attribute in a typedValue object may not be empty.");
+        value.fail(messages("typed-value-typeid-empty"));
     }
     return typeId->string();
 }
 
 std::vector<std::string_view> TypedValues::read(JSONView value) {
     if (!value.isArray()) {
-        value.fail("Expected an array of typedValue objects.");
+        value.fail(messages("array-of-typed-values-expected"));
     }
     std::vector<std::string_view> typeIds;
     typeIds.reserve(value.size());
@@ -69,17 +70,17 @@ std::vector<std::string_view> TypedValues::read(JSONView value) {
 
 std::vector<std::string_view> UniqueStrings::read(JSONView value) {
     if (!value.isArray()) {
-        value.fail("Expected an array.");
+        value.fail(messages("array-expected"));
     }
     std::vector<std::string_view> strings;
     strings.reserve(value.size());
     std::set<std::string_view> seen;
     value.forEachElement([&](JSONView element) {
         if (!element.isString()) {
-            value.fail("Expected an array of strings.");
+            value.fail(messages("array-of-strings-expected"));
         }
         if (!seen.insert(element.string()).second) {
-            value.fail("Expected an array of unique strings.");
+            value.fail(messages("array-of-unique-strings-expected"));
         }
         strings.push_back(element.string());
     });
@@ -96,7 +97,7 @@ std::optional<JSONView> Constants::find(std::string_view id) const {
 }
 
 void Constants::failUndefined(std::string_view id) const {
-    schema_.fail("Schema " + std::string(schema_.typeId()) + " has an undefined " + std::string(id) + " constant.");
+    schema_.fail(messages("constant-undefined"), {schema_.typeId(), id});
 }
 
 } // namespace Ostra

@@ -2,6 +2,7 @@
 
 #include "schema/JSONParser.h"
 #include "schema/JSONWriter.h"
+#include "schema/Messages.h"
 
 #include <rapidjson/error/en.h>
 
@@ -89,10 +90,10 @@ std::map<std::string, std::string> JSONView::toStringMap() const {
     std::map<std::string, std::string> strings;
     for (const auto& member : value_->GetObject()) {
         if (!member.name.IsString()) {
-            fail("Expected a map with string keys and values, but key was not a string.");
+            fail(messages("map-key-string-expected"));
         }
         if (!member.value.IsString()) {
-            fail("Expected a map with string keys and values, but value was not a string.");
+            fail(messages("map-value-string-expected"));
         }
         strings.emplace(JSONView(member.name, factory_).string(), JSONView(member.value, factory_).string());
     }
@@ -110,8 +111,8 @@ void JSONView::fail(const std::string& message) const { factory_->raise(message)
 // NOLINTNEXTLINE(bugprone-throw-keyword-missing): what is made of the factory is no exception
 JSON::JSON(std::string_view text, std::shared_ptr<const ExceptionFactory> factory) : factory_(std::move(factory)) {
     if (const auto result = parseText(text, memory_.pool(), value_); result.IsError()) {
-        factory_->raise("JSON parsing error at offset " + std::to_string(result.Offset()) + ": " +
-                        rapidjson::GetParseError_En(result.Code()));
+        factory_->raise(messages("json-syntax"),
+                        {std::to_string(result.Offset()), rapidjson::GetParseError_En(result.Code())});
     }
 }
 

@@ -1,5 +1,6 @@
 #include "schema/JSONParser.h"
 
+#include "schema/Messages.h"
 #include "schema/Numbers.h"
 #include "schema/TextStream.h"
 
@@ -124,7 +125,7 @@ std::optional<ParseResult> parseWith(std::string_view text, JSONPool& pool, JSON
 
 ParseResult parseText(std::string_view text, JSONPool& pool, JSONValue& value) {
     if (text.size() > maxTextSize) {
-        throw std::length_error("A JSON text is too long.");
+        throw std::length_error(messages("json-text-too-long").with({}));
     }
     if (const auto result = parseWith<parseFlags>(text, pool, value, maxRecursion)) {
         return *result;

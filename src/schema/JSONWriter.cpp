@@ -1,5 +1,6 @@
 #include "schema/JSONWriter.h"
 
+#include "schema/Messages.h"
 #include "schema/PlainCharacters.h"
 
 #include <cmath>
@@ -10,7 +11,7 @@ namespace Ostra {
 
 void JSONWriter::number(double value) {
     if (!std::isfinite(value)) {
-        throw std::domain_error("A number that is not finite cannot be written as JSON.");
+        throw std::domain_error(messages("json-number-not-finite").with({}));
     }
     writer_.Double(value);
 }
@@ -19,7 +20,7 @@ void JSONWriter::Writer::string(std::string_view value) {
     // The writer reserves six characters for each byte, and counts them in 32 bits.
     constexpr std::size_t maxLength = (std::numeric_limits<rapidjson::SizeType>::max() - 2) / 6;
     if (value.size() > maxLength) {
-        throw std::length_error("A string is too long to be written as JSON.");
+        throw std::length_error(messages("json-string-too-long").with({}));
     }
     const auto length = static_cast<rapidjson::SizeType>(value.size());
     if (!PlainCharacters::areAll(value)) {

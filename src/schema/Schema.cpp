@@ -1,5 +1,7 @@
 #include "schema/Schema.h"
 
+#include "schema/Messages.h"
+
 #include <utility>
 
 namespace Ostra {
@@ -9,10 +11,10 @@ namespace {
 std::string_view readTypeId(JSONView schema) {
     const auto typeId = schema.member("typeid");
     if (!typeId || !typeId->isString()) {
-        schema.fail("Schema must specify a typeid string.");
+        schema.fail(messages("typeid-missing"));
     }
     if (typeId->string().empty()) {
-        schema.fail("The typeid string may not be empty.");
+        schema.fail(messages("typeid-empty"));
     }
     return typeId->string();
 }
@@ -20,37 +22,37 @@ std::string_view readTypeId(JSONView schema) {
 std::string_view readBase(JSONView schema) {
     const auto inherits = schema.member("inherits");
     if (!inherits) {
-        schema.fail("Schema must specify an inheritance array.");
+        schema.fail(messages("inherits-missing"));
     }
     if (!inherits->isArray()) {
-        schema.fail("Expected an array.");
+        schema.fail(messages("array-expected"));
     }
     std::string_view base;
     inherits->forEachElement([&](JSONView element) {
         if (!element.isString()) {
-            schema.fail("Expected an array of strings.");
+            schema.fail(messages("array-of-strings-expected"));
         }
         if (element.string().empty()) {
-            schema.fail("Expected an array of non-empty strings.");
+            schema.fail(messages("array-of-non-empty-strings-expected"));
         }
         base = element.string();
     });
     if (inherits->size() != 1) {
-        schema.fail("Inheritance clause must specify exactly one base schema.");
+        schema.fail(messages("single-base-expected"));
     }
     return base;
 }
 
 std::string_view readId(JSONView definition) {
     if (!definition.isObject()) {
-        definition.fail("Expected an object describing a property.");
+        definition.fail(messages("definition-object-expected"));
     }
     const auto id = definition.member("id");
     if (!id) {
-        definition.fail("A property definition must have an id attribute.");
+        definition.fail(messages("definition-id-missing"));
     }
     if (!id->isString()) {
-        definition.fail("A property's id attribute must be a string.");
+        definition.fail(messages("definition-id-string-expected"));
     }
     return id->string();
 }
@@ -70,13 +72,13 @@ void Schema::readDefinitions(const char* name, Definitions& definitions) {
         return;
     }
     if (!array->isArray()) {
-        fail(std::string("Expected schema ") + name + " to be an array.");
+        fail(messages("definitions-array-expected"), {name});
     }
     definitions.reserve(array->size());
     array->forEachElement([&](JSONView definition) {
         const std::string_view id = readId(definition);
         if (!definitions.add(id, definition)) {
-            fail("Item " + std::string(id) + " in " + name + " array must be defined only once.");
+            fail(messages("definition-duplicate"), {id, name});
         }
     });
 }
@@ -88,7 +90,7 @@ JSONView Schema::valueOf(JSONView definition) {
     if (const auto typedValue = definition.member("typedValue")) {
         return *typedValue;
     }
-    definition.fail("A property definition must contain either a value or a typedValue.");
+    definition.fail(messages("definition-value-missing"));
 }
 
 } // namespace Ostra

@@ -1,5 +1,7 @@
 #include "schema/SchemaWriter.h"
 
+#include "schema/Messages.h"
+
 #include <cmath>
 #include <stdexcept>
 
@@ -18,7 +20,7 @@ SchemaWriter::SchemaWriter(std::string_view typeId, std::string_view base, const
 
 void SchemaWriter::number(double value) {
     if (!std::isfinite(value)) {
-        factory_.raise("Schema " + std::string(typeId_) + " has a number that is not finite.");
+        factory_.raise(messages("number-not-finite"), {typeId_});
     }
     JSONWriter::number(value);
 }
@@ -39,7 +41,7 @@ SchemaWriter& SchemaWriter::define(std::string_view table, std::string_view id, 
         endObject(); // of the definition before
     } else {
         if (table < table_) {
-            throw std::logic_error("A schema's constants are written before its properties.");
+            throw std::logic_error(messages("constants-after-properties").with({}));
         }
         endTable();
         name(table);
