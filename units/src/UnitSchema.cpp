@@ -1,7 +1,8 @@
 #include "UnitSchema.h"
 
-#include "schema/Identifier.h"
+#include "Messages.h"
 #include "schema/Constants.h"
+#include "schema/Identifier.h"
 #include "schema/Schema.h"
 
 #include <utility>
@@ -16,7 +17,7 @@ constexpr Ostra::Identifier unitBase("norvex.unit:unit-1.0.0");
 
 Unit readUnit(const Ostra::Schema& schema) {
     if (!schema.inherits(unitBase)) {
-        schema.fail("Inheritance from an unrecognized base schema.");
+        schema.fail(messages("base-unrecognized"));
     }
     const Ostra::Constants constants(schema);
     std::string name(constants.required<Ostra::NonEmptyString>("name"));

@@ -1,5 +1,6 @@
 #include <units/UnitsEngine.h>
 
+#include "Messages.h"
 #include "UnitSchema.h"
 #include "schema/ExceptionFactory.h"
 #include "schema/Hash.h"
@@ -27,7 +28,7 @@ public:
     const Unit& find(const std::string& typeId) const {
         const auto found = entries_.find(typeId);
         if (found == entries_.end() || !isResolved(found->second)) {
-            throw ValidationException("Could not find unit with typeid " + typeId + ".");
+            throw ValidationException(Internal::messages("unit-unknown").with({typeId}));
         }
         return found->second.unit;
     }
@@ -79,7 +80,7 @@ std::set<std::string> UnitsEngine::registerSchema(const std::string& schemaText)
     const Ostra::Schema schema(schemaText, Ostra::ExceptionFactoryOf<ValidationException>::shared());
     const std::string typeId(schema.typeId());
     if (registry_->holds(typeId)) {
-        schema.fail("Schema with typeid " + typeId + " is already registered.");
+        schema.fail(Internal::messages("typeid-taken"), {typeId});
     }
     registry_->add(typeId, Internal::readUnit(schema));
     return {};
