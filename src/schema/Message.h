@@ -32,7 +32,7 @@ public:
     /// Returns the message of that code; does not compile where there is none.
     // A call and no operator[]: clang 14 refuses one that is consteval in every template.
     consteval const Message& operator()(std::string_view code) const {
-        const auto found = std::find_if(begin(), end(), [code](const Message& each) { return each.code == code; });
+        const auto found = std::ranges::find(messages_, code, &Message::code);
         if (found == end()) {
             noMessageHasThisCode();
         }
@@ -55,7 +55,7 @@ private:
             if (!isCode(message->code)) {
                 aCodeIsNotLowerCaseWordsWithHyphens();
             }
-            if (std::any_of(begin(), message, [&](const Message& before) { return before.code == message->code; })) {
+            if (std::ranges::find(begin(), message, message->code, &Message::code) != message) {
                 aCodeStandsTwice();
             }
             if (!isSentence(message->sentence)) {
