@@ -1,5 +1,7 @@
 #include "engine/Directory.h"
 
+#include "engine/Messages.h"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -26,7 +28,7 @@ void Directory::reserveOne() {
         return;
     }
     if (entries_.size() >= limit) {
-        throw std::length_error("An engine holds at most 2^31 objects.");
+        throw std::length_error(EngineMessages::messages("engine-full").with({}));
     }
     if (entries_.size() == entries_.capacity()) {
         entries_.reserve(std::max<std::size_t>(8, entries_.capacity() * 2));

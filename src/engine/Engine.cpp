@@ -7,22 +7,21 @@ namespace Parameters::Internal {
 namespace {
 
 [[noreturn]] void failUnknown(const std::string& typeId) {
-    throw UnrecognizedIdentifierException("Could not find any object with typeid " + typeId + ".");
+    throw UnrecognizedIdentifierException(EngineMessages::messages("any-object-unknown").with({typeId}));
 }
 
 } // namespace
 
 bool Engine::isRegistered(const Directory::Key& key) const {
-    return registry_.read().find(key) != nullptr || isReserved(key.typeId) ||
-           units_.isRegistered(key.typeId);
+    return registry_.read().find(key) != nullptr || isReserved(key.typeId) || units_.isRegistered(key.typeId);
 }
 
 void Engine::checkNew(const Directory::Key& key) const {
     if (key.typeId.empty()) {
-        throw ValidationException("Typeid must not be empty.");
+        throw ValidationException(EngineMessages::messages("object-typeid-empty").with({}));
     }
     if (isRegistered(key)) {
-        throw ValidationException("Schema with typeid " + std::string(key.typeId) + " is already registered.");
+        throw ValidationException(EngineMessages::messages("typeid-taken").with({key.typeId}));
     }
 }
 
@@ -44,7 +43,7 @@ ValueType Engine::valueTypeOf(const std::string& text) const {
 Engine::Missing Engine::registerSchema(const std::string& text) {
     Missing missing;
     if (!offer(text, &missing)) {
-        throw ValidationException("Inheritance from an unrecognized base schema.");
+        throw ValidationException(EngineMessages::messages("base-unrecognized").with({}));
     }
     return missing;
 }

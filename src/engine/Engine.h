@@ -2,6 +2,7 @@
 
 #include "engine/CopyOnWrite.h"
 #include "engine/Kinds.h"
+#include "engine/Messages.h"
 #include "engine/Registry.h"
 #include "engine/Resolution.h"
 #include "model/ValidationExceptionFactory.h"
@@ -36,8 +37,7 @@ public:
         if (const auto* object = registry_.read().findObject<K>(typeId)) {
             return *object;
         }
-        throw UnrecognizedIdentifierException("Could not find " + std::string(K::word) + " with typeid " + typeId +
-                                              ".");
+        throw UnrecognizedIdentifierException(messages("object-unknown").with({K::word, typeId}));
     }
 
     template <class K>
@@ -58,7 +58,7 @@ public:
         checkNew(schema.typeId());
         const auto record = K::read(schema);
         if (!record) {
-            throw ValidationException("Inheritance from an incorrect base schema.");
+            throw ValidationException(EngineMessages::messages("base-incorrect").with({}));
         }
         return K::build(*record, RegistryFinder(registry_.read(), units_), nullptr);
     }

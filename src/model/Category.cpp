@@ -86,9 +86,9 @@ MajorCategoryComponent buildMajor(const CategoryKind::Record& record, const Find
 SubCategoryComponent buildSub(const CategoryKind::Record& record, const Finder& finder) {
     const auto parent = finder.require<CategoryKind>(record.parent(), record.typeId());
     if (Access::data(parent).major() == nullptr) {
-        throw ValidationException("Parent " + std::string(record.parent()) +
-                                  (finder.binds() ? " of subcategory " : " of subcategory schema ") +
-                                  std::string(record.typeId()) + " is not a major category.");
+        const auto& message = finder.binds() ? CategoryKind::messages("given-parent-not-major")
+                                             : CategoryKind::messages("parent-not-major");
+        throw ValidationException(message.with({record.parent(), record.typeId()}));
     }
     return subOf(record.parent());
 }

@@ -5,6 +5,7 @@
 #include "model/Kind.h"
 #include "model/Taxon.h"
 #include "model/Texts.h"
+#include "schema/Message.h"
 #include "schema/Schema.h"
 
 #include <parameters/Category.h>
@@ -50,6 +51,11 @@ struct CategoryKind : DescribedKind<Kinds::Category> {
         std::string_view discipline(std::size_t place) const { return references[place + 1]; }
         std::string_view parent() const { return references[0]; }
     };
+
+    static constexpr auto messages = Ostra::Messages({
+        {"parent-not-major", "Parent <typeid> of subcategory schema <typeid> is not a major category."},
+        {"given-parent-not-major", "Parent <typeid> of subcategory <typeid> is not a major category."},
+    });
 
     static constexpr Ostra::Identifier majorBase{Public::info.bases()[0]};
     static constexpr Ostra::Identifier subBase{Public::info.bases()[1]};

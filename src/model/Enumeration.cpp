@@ -1,5 +1,6 @@
 #include "model/Enumeration.h"
 
+#include "model/Messages.h"
 #include "model/ValidationExceptionFactory.h"
 #include "schema/SchemaWriter.h"
 
@@ -52,14 +53,13 @@ namespace Internal {
 namespace {
 
 /// Returns the integer of a value in a schema.
-std::int64_t readInteger(const std::string& enumeration, std::string_view identifier, Ostra::JSONView definition) {
+std::int64_t readInteger(std::string_view enumeration, std::string_view identifier, Ostra::JSONView definition) {
     if (identifier.empty()) {
-        definition.fail("ID of value in enumeration schema " + enumeration + " must not be empty.");
+        definition.fail(EnumerationKind::messages("enumeration-id-empty"), {enumeration});
     }
     const auto integer = definition.member("value");
     if (!integer || !integer->isInteger()) {
-        definition.fail("Value " + std::string(identifier) + " in enumeration schema " + enumeration +
-                        " must specify an integer value.");
+        definition.fail(EnumerationKind::messages("enumeration-integer-missing"), {identifier, enumeration});
     }
     return integer->integer();
 }
@@ -67,16 +67,16 @@ std::int64_t readInteger(const std::string& enumeration, std::string_view identi
 /// Checks the values of an enumeration made in code.
 void check(const EnumerationData& data) {
     if (data.integers.empty()) {
-        throw ValidationException("Enumeration must specify at least one value.");
+        throw ValidationException(EnumerationKind::messages("given-enumeration-empty").with({}));
     }
     std::set<std::string_view> seen;
     for (std::size_t value = 0; value < data.integers.size(); ++value) {
         const std::string_view identifier = data.identifier(value);
         if (identifier.empty()) {
-            throw ValidationException("ID of value in enumeration must not be empty.");
+            throw ValidationException(EnumerationKind::messages("given-enumeration-id-empty").with({}));
         }
         if (!seen.insert(identifier).second) {
-            throw ValidationException("Value " + std::string(identifier) + " must appear only once.");
+            throw ValidationException(messages("value-duplicate").with({identifier}));
         }
     }
 }
@@ -87,15 +87,14 @@ std::optional<EnumerationKind::Record> EnumerationKind::read(const Ostra::Schema
     if (schema.base() != base) {
         return std::nullopt;
     }
-    const std::string typeId(schema.typeId());
-    std::vector<std::string_view> texts{typeId};
+    std::vector<std::string_view> texts{schema.typeId()};
     std::vector<std::int64_t> integers;
     for (const auto& [identifier, definition] : schema.properties().sorted()) {
-        integers.push_back(readInteger(typeId, identifier, definition));
+        integers.push_back(readInteger(schema.typeId(), identifier, definition));
         texts.push_back(identifier);
     }
     if (integers.empty()) {
-        schema.fail("Enumeration schema " + typeId + " must specify at least one value.");
+        schema.fail(messages("enumeration-empty"), {schema.typeId()});
     }
     return Record{Texts(texts), std::move(integers)};
 }

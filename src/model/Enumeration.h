@@ -4,6 +4,7 @@
 #include "model/Finder.h"
 #include "model/Kind.h"
 #include "model/Texts.h"
+#include "schema/Message.h"
 #include "schema/Schema.h"
 
 #include <parameters/Enumeration.h>
@@ -27,6 +28,14 @@ struct EnumerationData {
 struct EnumerationKind : DescribedKind<Kinds::Enumeration> {
     using Names = KindList<>;
     using Record = EnumerationData;
+
+    static constexpr auto messages = Ostra::Messages({
+        {"enumeration-empty", "Enumeration schema <typeid> must specify at least one value."},
+        {"enumeration-id-empty", "ID of value in enumeration schema <typeid> must not be empty."},
+        {"enumeration-integer-missing", "Value <id> in enumeration schema <typeid> must specify an integer value."},
+        {"given-enumeration-empty", "Enumeration must specify at least one value."},
+        {"given-enumeration-id-empty", "ID of value in enumeration must not be empty."},
+    });
 
     /// A bare word without a version, matched as a whole.
     static constexpr std::string_view base = Public::info.bases()[0];

@@ -44,39 +44,37 @@ std::optional<Ostra::JSONView> typedValueIn(Ostra::JSONView definition) {
 bool isEmptyObject(Ostra::JSONView value) { return value.isObject() && value.size() == 0; }
 
 /// Returns the typeid of the general spec.
-std::string_view readSpec(const Ostra::Schema& schema, const std::string& typeId) {
+std::string_view readSpec(const Ostra::Schema& schema) {
     const auto definition = schema.constants().find("spec");
     if (!definition) {
-        schema.fail("Enumeration parameter schema " + typeId + " has an undefined spec constant.");
+        schema.fail(EnumerationParameterKind::messages("spec-undefined"), {schema.typeId()});
     }
     const auto typedValue = typedValueIn(*definition);
     if (!typedValue) {
-        schema.fail("A spec definition must contain either a value or a typedValue.");
+        schema.fail(EnumerationParameterKind::messages("spec-value-missing"));
     }
     const auto spec = typedValue->member("typeid");
     if (!spec || !spec->isString() || spec->string().empty()) {
-        schema.fail("Spec constant in enumeration parameter schema " + typeId +
-                    " must specify a nonempty typeid string.");
+        schema.fail(EnumerationParameterKind::messages("spec-typeid-missing"), {schema.typeId()});
     }
     const auto beside = definition->hasMember("typedValue") ? definition->member("value") : std::nullopt;
     const auto inside = typedValue->member("value");
     if ((beside && !isEmptyObject(*beside)) || (inside && !isEmptyObject(*inside))) {
-        schema.fail("Value of spec constant in enumeration parameter schema " + typeId + " must be an empty object.");
+        schema.fail(EnumerationParameterKind::messages("spec-value-misplaced"), {schema.typeId()});
     }
     return spec->string();
 }
 
 /// Returns the typeid of the enumeration.
-std::string_view readEnumeration(const Ostra::Schema& schema, const std::string& typeId) {
+std::string_view readEnumeration(const Ostra::Schema& schema) {
     const auto definition = schema.properties().find("value");
     if (!definition) {
-        schema.fail("Enumeration parameter schema " + typeId + " has an undefined value property.");
+        schema.fail(EnumerationParameterKind::messages("value-property-undefined"), {schema.typeId()});
     }
     const auto typedValue = typedValueIn(*definition);
     const auto enumeration = (typedValue ? *typedValue : Ostra::Schema::valueOf(*definition)).member("typeid");
     if (!enumeration) {
-        schema.fail("Value property in enumeration parameter schema " + typeId +
-                    " must specify a nonempty typeid string.");
+        schema.fail(EnumerationParameterKind::messages("value-property-typeid-missing"), {schema.typeId()});
     }
     return Ostra::readTypeId(*enumeration);
 }
@@ -87,11 +85,10 @@ std::optional<EnumerationParameterKind::Record> EnumerationParameterKind::read(c
     if (!schema.inherits(base)) {
         return std::nullopt;
     }
-    const std::string typeId(schema.typeId());
     const auto common = ParameterConstants::read(Ostra::Constants(schema));
-    const auto spec = readSpec(schema, typeId);
-    const auto enumeration = readEnumeration(schema, typeId);
-    return Record(typeId, common, spec, enumeration);
+    const auto spec = readSpec(schema);
+    const auto enumeration = readEnumeration(schema);
+    return Record(schema.typeId(), common, spec, enumeration);
 }
 
 EnumerationParameterKind::Record EnumerationParameterKind::recordOf(const EnumerationParameter& parameter) {

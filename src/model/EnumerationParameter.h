@@ -3,6 +3,7 @@
 #include "model/Enumeration.h"
 #include "model/GeneralSpec.h"
 #include "model/ParameterCore.h"
+#include "schema/Message.h"
 #include "schema/Schema.h"
 
 #include <parameters/EnumerationParameter.h>
@@ -23,6 +24,19 @@ struct EnumerationParameterData {
 
 struct EnumerationParameterKind : DescribedKind<Kinds::EnumerationParameter> {
     using Names = KindList<GroupKind, GeneralSpecKind, EnumerationKind>;
+
+    static constexpr auto messages = Ostra::Messages({
+        {"spec-undefined", "Enumeration parameter schema <typeid> has an undefined spec constant."},
+        {"spec-value-missing", "A spec definition must contain either a value or a typedValue."},
+        {"spec-typeid-missing",
+         "Spec constant in enumeration parameter schema <typeid> must specify a nonempty typeid string."},
+        {"spec-value-misplaced",
+         "Value of spec constant in enumeration parameter schema <typeid> must be an empty object."},
+        {"value-property-undefined", "Enumeration parameter schema <typeid> has an undefined value property."},
+        {"value-property-typeid-missing",
+         "Value property in enumeration parameter schema <typeid> must specify a nonempty typeid string."},
+    });
+
     struct Record : ParameterRecord {
         using ParameterRecord::ParameterRecord;
         std::string_view enumeration() const { return references[2]; }

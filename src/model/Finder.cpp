@@ -1,30 +1,27 @@
 #include "model/Finder.h"
 
+#include "model/Messages.h"
+
 #include <parameters/ValidationException.h>
 
 namespace Parameters::Internal {
 
 Units::Unit Finder::requireUnit(std::string_view typeId, std::string_view inConstant,
                                 std::string_view schemaTypeId) const {
-    const std::string named(typeId);
-    if (auto unit = findUnit(named)) {
+    if (auto unit = findUnit(std::string(typeId))) {
         return *unit;
     }
     if (binds()) {
         failMissing("unit", typeId, schemaTypeId);
     }
-    throw ValidationException("Typeid " + named + " " + std::string(inConstant) +
-                              " constant in measurable spec schema " + std::string(schemaTypeId) +
-                              " does not belong to a unit.");
+    throw ValidationException(messages("unit-missing").with({typeId, inConstant, schemaTypeId}));
 }
 
 void Finder::failMissing(std::string_view word, std::string_view typeId, std::string_view schemaTypeId) const {
-    const std::string named(typeId);
     if (binds()) {
-        throw ValidationException("Could not find " + std::string(word) + " with typeid " + named + ".");
+        throw ValidationException(messages("object-unknown").with({word, typeId}));
     }
-    throw ValidationException("Dependency " + named + " in schema " + std::string(schemaTypeId) +
-                              " is missing or does not represent an object of the expected type.");
+    throw ValidationException(messages("dependency-missing").with({typeId, schemaTypeId}));
 }
 
 } // namespace Parameters::Internal

@@ -43,6 +43,11 @@ public:
     using Record = NumericRangeData<Number>;
     using DescribedKind<typename Traits::Public>::base;
 
+    static constexpr auto messages = Ostra::Messages({
+        {"inline-range-flag-missing", "Inline value override in range constant typedValue must specify a Boolean value "
+                                      "for constant <fromBottom or fromTop>."},
+    });
+
     static std::optional<Record> read(const Ostra::Schema& schema) {
         if (!schema.inherits(base)) {
             return std::nullopt;
@@ -140,8 +145,7 @@ private:
     static bool readInlineFlag(Ostra::JSONView value, std::string_view name) {
         const auto flag = value.member(name);
         if (!flag || !flag->isBoolean()) {
-            value.fail("Inline value override in range constant typedValue must specify a Boolean value for constant " +
-                       std::string(name) + ".");
+            value.fail(messages("inline-range-flag-missing"), {name});
         }
         return flag->boolean();
     }

@@ -1,16 +1,14 @@
 #include "model/RangeConstant.h"
 
+#include "model/Messages.h"
 #include "schema/Constants.h"
-
-#include <string>
 
 namespace Parameters::Internal {
 
 std::string_view readRangeTypeId(const Ostra::Schema& schema, Ostra::JSONView typedValue) {
     const auto typeId = typedValue.member("typeid");
     if (!typeId) {
-        schema.fail("Schema " + std::string(schema.typeId()) +
-                    " must specify a typeid string attribute in its range constant typedValue.");
+        schema.fail(messages("range-typeid-missing"), {schema.typeId()});
     }
     return Ostra::readTypeId(*typeId);
 }
@@ -18,11 +16,10 @@ std::string_view readRangeTypeId(const Ostra::Schema& schema, Ostra::JSONView ty
 Ostra::JSONView readInlineValue(std::string_view typeId, Ostra::JSONView typedValue) {
     const auto value = typedValue.member("value");
     if (!value) {
-        typedValue.fail("Inline value override is required when specifying range schema " + std::string(typeId) +
-                        " in range constant typedValue.");
+        typedValue.fail(messages("inline-range-missing"), {typeId});
     }
     if (!value->isObject()) {
-        typedValue.fail("Inline value override in range constant typedValue must be an object.");
+        typedValue.fail(messages("inline-range-object-expected"));
     }
     return *value;
 }
@@ -30,8 +27,7 @@ Ostra::JSONView readInlineValue(std::string_view typeId, Ostra::JSONView typedVa
 void refuseInlineValue(std::string_view typeId, Ostra::JSONView typedValue) {
     const auto value = typedValue.member("value");
     if (value && (!value->isObject() || value->size() != 0)) {
-        typedValue.fail("Inline value override for range schema " + std::string(typeId) +
-                        " in range constant typedValue, if present, must be an empty object.");
+        typedValue.fail(messages("inline-range-misplaced"), {typeId});
     }
 }
 

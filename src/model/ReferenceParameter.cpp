@@ -50,17 +50,15 @@ bool isFamilyType(std::string_view spec) { return ReferenceSpecKind::familyTypeB
 std::string_view readCategory(std::string_view spec, Ostra::JSONView typedValue) {
     const auto inlined = typedValue.member("typedValue");
     if (!inlined) {
-        typedValue.fail("Inline typedValue override is required when specifying the family type base schema " +
-                        std::string(spec) + " in spec constant typedValue.");
+        typedValue.fail(ReferenceParameterKind::messages("family-type-inline-missing"), {spec});
     }
     if (!inlined->isObject()) {
-        typedValue.fail("Inline typedValue override in spec constant typedValue must be an object.");
+        typedValue.fail(ReferenceParameterKind::messages("family-type-object-expected"));
     }
     const auto category = inlined->member("category");
     const auto typeId = category ? category->member("typeid") : std::nullopt;
     if (!typeId) {
-        typedValue.fail("Inline typedValue override in spec constant typedValue must specify an object with a typeid "
-                        "string attribute for constant category.");
+        typedValue.fail(ReferenceParameterKind::messages("family-type-category-missing"));
     }
     return Ostra::readTypeId(*typeId);
 }
@@ -77,15 +75,14 @@ SpecReference readSpec(const Ostra::Schema& schema, const Ostra::Constants& cons
     }
     const auto typeId = typedValue->member("typeid");
     if (!typeId) {
-        schema.fail("Parameter schema " + std::string(schema.typeId()) +
-                    " must specify a typeid string attribute in its spec constant typedValue.");
+        schema.fail(ReferenceParameterKind::messages("reference-spec-typeid-missing"), {schema.typeId()});
     }
     const std::string_view spec = Ostra::readTypeId(*typeId);
     if (isFamilyType(spec)) {
         return {spec, readCategory(spec, *typedValue)};
     }
     if (typedValue->hasMember("value") || typedValue->hasMember("typedValue")) {
-        schema.fail("Inline value override for spec " + std::string(spec) + " is not permitted.");
+        schema.fail(ReferenceParameterKind::messages("inline-spec-misplaced"), {spec});
     }
     return {spec, std::nullopt};
 }
@@ -93,7 +90,7 @@ SpecReference readSpec(const Ostra::Schema& schema, const Ostra::Constants& cons
 ReferenceSpec buildFamilyType(const ReferenceParameterKind::Record& record, const Finder& finder) {
     const auto named = record.category();
     if (!named) {
-        throw ValidationException("Family Type parameter must specify a category.");
+        throw ValidationException(ReferenceParameterKind::messages("given-category-missing").with({}));
     }
     const auto category = finder.require<CategoryKind>(*named, record.typeId());
     return ReferenceSpecKind::familyType(finder.binds() ? ReferenceSpecKind::familyTypeBase.full() : record.spec(),

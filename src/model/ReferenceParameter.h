@@ -2,6 +2,7 @@
 
 #include "model/ParameterCore.h"
 #include "model/ReferenceSpec.h"
+#include "schema/Message.h"
 #include "schema/Schema.h"
 
 #include <parameters/ReferenceParameter.h>
@@ -23,6 +24,20 @@ struct ReferenceParameterData {
 
 struct ReferenceParameterKind : DescribedKind<Kinds::ReferenceParameter> {
     using Names = KindList<GroupKind, ReferenceSpecKind, CategoryKind>;
+
+    static constexpr auto messages = Ostra::Messages({
+        {"reference-spec-typeid-missing",
+         "Parameter schema <typeid> must specify a typeid string attribute in its spec constant typedValue."},
+        {"inline-spec-misplaced", "Inline value override for spec <typeid> is not permitted."},
+        {"family-type-inline-missing", "Inline typedValue override is required when specifying the family type base "
+                                       "schema <typeid> in spec constant typedValue."},
+        {"family-type-object-expected", "Inline typedValue override in spec constant typedValue must be an object."},
+        {"family-type-category-missing",
+         "Inline typedValue override in spec constant typedValue must specify an object "
+         "with a typeid string attribute for constant category."},
+        {"given-category-missing", "Family Type parameter must specify a category."},
+    });
+
     struct Record : ParameterRecord {
         bool ranged;
 

@@ -1,5 +1,6 @@
 #include "model/StringRange.h"
 
+#include "model/Messages.h"
 #include "model/Writing.h"
 #include "schema/Immortal.h"
 
@@ -93,7 +94,7 @@ void checkUnique(const StringRangeData& range) {
     std::set<std::string_view> seen;
     for (const std::string_view value : allowedValuesIn(*set)) {
         if (!seen.insert(value).second) {
-            throw ValidationException("Value " + std::string(value) + " must appear only once.");
+            throw ValidationException(messages("value-duplicate").with({value}));
         }
     }
 }
@@ -110,8 +111,7 @@ StringRange readInlineSet(Ostra::JSONView value) {
     const auto allowedValues = value.member("allowedValues");
     // An empty set, as no set, would allow nothing at all.
     if (!allowedValues || (allowedValues->isArray() && allowedValues->size() == 0)) {
-        value.fail("Inline value override in range constant typedValue must specify a non-empty array of unique string "
-                   "values for constant allowedValues.");
+        value.fail(StringRangeKind::messages("inline-range-values-missing"));
     }
     return StringRange(setOf(Ostra::UniqueStrings::read(*allowedValues)));
 }
@@ -119,16 +119,14 @@ StringRange readInlineSet(Ostra::JSONView value) {
 StringRange readInlineRegex(Ostra::JSONView value) {
     const auto regex = value.member("regex");
     if (!regex) {
-        value.fail("Inline value override in range constant typedValue must specify a string value for constant "
-                   "regex.");
+        value.fail(StringRangeKind::messages("inline-range-regex-missing"));
     }
     return StringRange(regexOf(Ostra::String::read(*regex)));
 }
 
 StringRange readInlineDefault(Ostra::JSONView value) {
     if (value.size() != 0) {
-        value.fail("Inline value override for default string range in range constant typedValue, if present, must be "
-                   "an empty object.");
+        value.fail(StringRangeKind::messages("inline-range-not-empty"));
     }
     return StringRange();
 }
@@ -213,17 +211,16 @@ void StringRangeKind::writeConstant(Ostra::SchemaWriter& writer, const StringRan
 
 void StringRangeKind::check(const StringRange& range) {
     const StringRangeData& data = Access::data(range);
-    const std::string typeId(data.typeId());
+    const std::string_view typeId = data.typeId();
     checkUnique(data);
-    const std::string subject = "String range using base schema typeid " + typeId;
     if (anyBase.isIn(typeId) && (data.set() != nullptr || data.regex() != nullptr)) {
-        throw ValidationException(subject + " may not specify a limited range of values.");
+        throw ValidationException(messages("given-range-limited").with({typeId}));
     }
     if (setBase.isIn(typeId) && (data.set() == nullptr || allowedValuesIn(*data.set()).size() == 0)) {
-        throw ValidationException(subject + " must specify an explicit set of allowed values.");
+        throw ValidationException(messages("given-range-values-missing").with({typeId}));
     }
     if (regexBase.isIn(typeId) && data.regex() == nullptr) {
-        throw ValidationException(subject + " must specify a regular expression matching permitted values.");
+        throw ValidationException(messages("given-range-regex-missing").with({typeId}));
     }
 }
 

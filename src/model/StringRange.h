@@ -6,6 +6,7 @@
 #include "model/RangeConstant.h"
 #include "model/Texts.h"
 #include "schema/Constants.h"
+#include "schema/Message.h"
 #include "schema/Schema.h"
 #include "schema/SchemaWriter.h"
 
@@ -38,6 +39,21 @@ struct StringRangeData {
 struct StringRangeKind : DescribedKind<Kinds::StringRange> {
     using Names = KindList<>;
     using Record = StringRangeData;
+
+    static constexpr auto messages = Ostra::Messages({
+        {"inline-range-values-missing", "Inline value override in range constant typedValue must specify a non-empty "
+                                        "array of unique string values for constant allowedValues."},
+        {"inline-range-regex-missing",
+         "Inline value override in range constant typedValue must specify a string value for constant regex."},
+        {"inline-range-not-empty", "Inline value override for default string range in range constant typedValue, if "
+                                   "present, must be an empty object."},
+        {"given-range-limited",
+         "String range using base schema typeid <typeid> may not specify a limited range of values."},
+        {"given-range-values-missing",
+         "String range using base schema typeid <typeid> must specify an explicit set of allowed values."},
+        {"given-range-regex-missing",
+         "String range using base schema typeid <typeid> must specify a regular expression matching permitted values."},
+    });
 
     static constexpr Ostra::Identifier anyBase{Public::info.bases()[0]};
     static constexpr Ostra::Identifier setBase{Public::info.bases()[1]};

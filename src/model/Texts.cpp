@@ -1,5 +1,7 @@
 #include "model/Texts.h"
 
+#include "model/Messages.h"
+
 #include <algorithm>
 #include <limits>
 #include <new>
@@ -10,12 +12,12 @@ namespace Parameters::Internal {
 Texts::Texts(std::span<const std::string_view> strings) {
     constexpr std::size_t limit = std::numeric_limits<std::uint32_t>::max();
     if (strings.size() > limit) {
-        throw std::length_error("One object has more than 2^32 - 1 texts.");
+        throw std::length_error(messages("texts-too-many").with({}));
     }
     std::size_t length = 0;
     for (const std::string_view string : strings) {
         if (string.size() > limit - length) {
-            throw std::length_error("The texts of one object are longer than 4 GiB.");
+            throw std::length_error(messages("texts-too-long").with({}));
         }
         length += string.size();
     }

@@ -23,10 +23,8 @@ public:
 
     /// Throws the exception made from the message, with what is inserted into it.
     [[noreturn]] void raise(const Message& message, std::initializer_list<std::string_view> inserted = {}) const {
-        raise(message.with(inserted));
+        std::rethrow_exception(makeException(message.with(inserted)));
     }
-    /// Throws the exception made from the message.
-    [[noreturn]] void raise(const std::string& message) const { std::rethrow_exception(makeException(message)); }
 };
 
 /// The factory of one exception class that is constructed from its message.

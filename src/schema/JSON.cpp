@@ -106,8 +106,6 @@ void JSONView::fail(const Message& message, std::initializer_list<std::string_vi
     factory_->raise(message, inserted);
 }
 
-void JSONView::fail(const std::string& message) const { factory_->raise(message); }
-
 // NOLINTNEXTLINE(bugprone-throw-keyword-missing): what is made of the factory is no exception
 JSON::JSON(std::string_view text, std::shared_ptr<const ExceptionFactory> factory) : factory_(std::move(factory)) {
     if (const auto result = parseText(text, memory_.pool(), value_); result.IsError()) {

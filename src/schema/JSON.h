@@ -75,7 +75,6 @@ public:
 
     /// Throws the exception of the library that had the document read.
     [[noreturn]] void fail(const Message& message, std::initializer_list<std::string_view> inserted = {}) const;
-    [[noreturn]] void fail(const std::string& message) const;
 
 private:
     const JSONValue* value_;

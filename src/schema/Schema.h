@@ -1,7 +1,7 @@
 #pragma once
 
-#include "schema/Identifier.h"
 #include "schema/Definitions.h"
+#include "schema/Identifier.h"
 #include "schema/JSON.h"
 
 #include <array>
@@ -36,7 +36,6 @@ public:
     [[noreturn]] void fail(const Message& message, std::initializer_list<std::string_view> inserted = {}) const {
         document_.view().fail(message, inserted);
     }
-    [[noreturn]] void fail(const std::string& message) const { document_.view().fail(message); }
 
 private:
     void readDefinitions(const char* name, Definitions& definitions);

@@ -1,5 +1,8 @@
 #include "documentation/Pages.h"
-#include "documentation/SourceMessages.h"
+#include "engine/Messages.h"
+#include "units/src/Messages.h"
+
+#include <parameters/Kinds.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,58 +13,72 @@
 #include <cstddef>
 #include <filesystem>
 #include <iterator>
+#include <map>
 #include <regex>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
 using Documentation::contentOf;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 const std::filesystem::path top = OSTRA_SOURCE_DIR;
 
-Documentation::SourceMessages messagesOfTheLibrary() {
-    Documentation::SourceMessages all;
-    for (const char* folder : {"src", "units"}) {
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(top / folder)) {
-            if (entry.path().extension() == ".cpp" || entry.path().extension() == ".h") {
-                auto found = Documentation::messagesIn(contentOf(entry.path()));
-                all.patterns.merge(found.patterns);
-                all.strays.merge(found.strays);
-            }
-        }
-    }
-    return all;
+/// A sentence and the code of its rule; reasons of the parser have no code.
+using Row = std::pair<std::string, std::string>;
+
+/// Returns the messages of both libraries.
+std::set<Row> messagesOfTheLibraries() {
+    std::set<Row> rows;
+    const auto add = [&](const Ostra::Message& message) { rows.emplace(message.sentence, message.code); };
+    Parameters::Internal::forEachMessage(add);
+    std::for_each(Units::Internal::messages.begin(), Units::Internal::messages.end(), add);
+    return rows;
 }
 
-/// Returns those of some codes that are sentences, with "*" for what is inserted.
-std::set<std::string> messagesAmong(const std::vector<std::string>& codes) {
-    std::set<std::string> messages;
-    for (const std::string& code : codes) {
-        if (code.find(' ') != std::string::npos && code.back() == '.') {
-            messages.insert(std::regex_replace(code, std::regex("<[^>]*>"), "*"));
+/// Returns the messages that the page lists: rows that begin with a sentence and its code.
+std::set<Row> messagesOfThePage() {
+    std::set<Row> rows;
+    const std::regex row("\\| `([^`]*)` \\| `([a-z-]*)` \\| .* \\| .* \\|");
+    for (const std::string& line : Documentation::linesOf(contentOf(top / "docs/errors.md"))) {
+        if (std::smatch match; std::regex_match(line, match, row)) {
+            rows.emplace(match[1].str(), match[2].str());
         }
     }
-    return messages;
-}
-
-std::set<std::string> messagesOfThePage() {
-    auto codes = Documentation::codesOfFirstColumn(contentOf(top / "docs/errors.md"));
-    auto messages = messagesAmong(codes);
-    messages.insert("JSON parsing error at offset *: *"); // which is no sentence
-    return messages;
+    return rows;
 }
 
 /// Returns the reasons that the parser has for refusing a text.
 std::set<std::string> reasonsOfTheParser() {
     std::set<std::string> reasons;
-    for (int code = 1; code <= rapidjson::kParseErrorUnspecificSyntaxError + 1; ++code) {
+    for (int code = rapidjson::kParseErrorNone + 1; code <= rapidjson::kParseErrorUnspecificSyntaxError + 1; ++code) {
         reasons.insert(rapidjson::GetParseError_En(static_cast<rapidjson::ParseErrorCode>(code)));
     }
     return reasons;
+}
+
+/// Returns those of some codes in a page that are sentences, with "*" for what is inserted.
+std::set<std::string> sentencesAmong(const std::vector<std::string>& codes) {
+    std::set<std::string> sentences;
+    for (const std::string& code : codes) {
+        if (code.find(' ') != std::string::npos && code.back() == '.') {
+            sentences.insert(std::regex_replace(code, std::regex("<[^>]*>"), "*"));
+        }
+    }
+    return sentences;
+}
+
+std::set<std::string> allSentences() {
+    std::vector<std::string> sentences;
+    for (const auto& [sentence, code] : messagesOfTheLibraries()) {
+        sentences.push_back(sentence);
+    }
+    auto all = sentencesAmong(sentences);
+    all.merge(reasonsOfTheParser());
+    return all;
 }
 
 std::set<std::string> difference(const std::set<std::string>& a, const std::set<std::string>& b) {
@@ -70,31 +87,11 @@ std::set<std::string> difference(const std::set<std::string>& a, const std::set<
     return result;
 }
 
-std::set<std::string> allMessages() {
-    auto all = messagesOfTheLibrary().patterns;
-    all.merge(reasonsOfTheParser());
-    return all;
-}
+TEST(PageOfErrors, ListsEveryMessageWithItsCodeAndNoOther) { EXPECT_EQ(messagesOfThePage(), messagesOfTheLibraries()); }
 
-/// Returns the words that the kinds go by in messages.
-std::set<std::string> wordsOfKinds() {
-    std::set<std::string> words;
-    const std::regex definition("string_view word = \"([^\"]*)\"");
-    for (const auto& entry : std::filesystem::directory_iterator(top / "src/model")) {
-        const std::string source = contentOf(entry.path());
-        for (std::sregex_iterator found(source.begin(), source.end(), definition), end; found != end; ++found) {
-            words.insert((*found)[1].str());
-        }
-    }
-    return words;
-}
-
-TEST(PageOfErrors, ListsEveryMessageOfTheSources) {
-    EXPECT_THAT(difference(allMessages(), messagesOfThePage()), IsEmpty());
-}
-
-TEST(PageOfErrors, ListsNoMessageThatTheSourcesDoNotHave) {
-    EXPECT_THAT(difference(messagesOfThePage(), allMessages()), IsEmpty());
+TEST(PageOfErrors, ListsEveryReasonOfTheParser) {
+    const auto codes = Documentation::codesOfFirstColumn(contentOf(top / "docs/errors.md"));
+    EXPECT_THAT(difference(reasonsOfTheParser(), std::set<std::string>(codes.begin(), codes.end())), IsEmpty());
 }
 
 TEST(PageOfErrors, ListsTheWordOfEachKind) {
@@ -102,22 +99,45 @@ TEST(PageOfErrors, ListsTheWordOfEachKind) {
     const std::size_t begin = page.find("`<kind>` in \"Could not find\"");
     const auto codes = Documentation::codesOf(page.substr(begin, page.find("\n\n", begin) - begin));
     const std::set<std::string> listed(codes.begin() + 1, codes.end());
-    EXPECT_EQ(listed, wordsOfKinds());
+    std::set<std::string> words;
+    Parameters::forEachKind([&](auto kind) { words.emplace(kind.info.word()); });
+    EXPECT_EQ(listed, words);
 }
 
-TEST(Guides, QuoteNoMessageThatTheSourcesDoNotHave) {
-    for (const auto& entry : std::filesystem::directory_iterator(top / "docs")) {
-        const std::string name = entry.path().filename().string();
-        if (entry.path().extension() == ".md") {
-            EXPECT_THAT(difference(messagesAmong(Documentation::codesOf(contentOf(entry.path()))), allMessages()),
-                        IsEmpty())
-                << name;
+TEST(PageOfTheSchemaLanguage, ListsEveryBase) {
+    const auto codes = Documentation::codesOf(contentOf(top / "docs/schema-language.md"));
+    std::set<std::string> bases;
+    Parameters::forEachKind([&](auto kind) { bases.insert(kind.info.bases().begin(), kind.info.bases().end()); });
+    EXPECT_THAT(difference(bases, std::set<std::string>(codes.begin(), codes.end())), IsEmpty());
+}
+
+/// The two libraries may say the same, under one code.
+TEST(Messages, HaveACodeEach) {
+    std::map<std::string, std::string> sentenceOfCode;
+    for (const auto& [sentence, code] : messagesOfTheLibraries()) {
+        EXPECT_EQ(sentenceOfCode.try_emplace(code, sentence).first->second, sentence) << code;
+    }
+    EXPECT_EQ(sentenceOfCode.size(), messagesOfTheLibraries().size()) << "a sentence has two codes";
+}
+
+TEST(Messages, AreThrownFromTheirTablesAlone) {
+    const std::regex phrased("(fail|raise|Exception|_error)\\(\\s*(std::string\\(|\")");
+    for (const char* folder : {"src", "units/src"}) {
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(top / folder)) {
+            if (entry.is_regular_file()) {
+                EXPECT_FALSE(std::regex_search(contentOf(entry.path()), phrased)) << entry.path();
+            }
         }
     }
 }
 
-TEST(SourcesOfTheLibrary, HaveNoSentenceThatIsNotSeenToBeThrown) {
-    EXPECT_THAT(messagesOfTheLibrary().strays, ElementsAre("Family Type", "for storageUnit", "in applicableUnits"));
+TEST(Guides, QuoteNoMessageThatTheSourcesDoNotHave) {
+    for (const auto& entry : std::filesystem::directory_iterator(top / "docs")) {
+        if (entry.path().extension() == ".md") {
+            const auto quoted = sentencesAmong(Documentation::codesOf(contentOf(entry.path())));
+            EXPECT_THAT(difference(quoted, allSentences()), IsEmpty()) << entry.path();
+        }
+    }
 }
 
 } // namespace

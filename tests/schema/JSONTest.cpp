@@ -1,6 +1,7 @@
 #include "schema/JSON.h"
 
 #include "AllocationWatch.h"
+#include "schema/Messages.h"
 #include "support/Messages.h"
 #include "support/RowNames.h"
 
@@ -150,7 +151,8 @@ TEST(JSONView, VisitsElementsInOrder) {
 
 TEST(JSONView, FailsWithTheExceptionOfTheReadersLibrary) {
     const JSON json = parse(R"({"a": [1]})");
-    EXPECT_THAT([&] { json.view().member("a")->fail("wrong"); }, ThrowsMessage<Refusal>("wrong"));
+    EXPECT_THAT([&] { json.view().member("a")->fail(messages("array-expected")); },
+                ThrowsMessage<Refusal>("Expected an array."));
 }
 
 TEST(StringMap, HoldsEachMember) {

@@ -1,5 +1,6 @@
 #include "schema/Schema.h"
 
+#include "schema/Messages.h"
 #include "support/Complaint.h"
 #include "support/Fault.h"
 #include "support/Messages.h"
@@ -327,7 +328,7 @@ TEST(Schema, DoesNotInheritFromAnotherMajorVersion) {
 
 TEST(Schema, FailsThroughTheFactoryOnDemand) {
     const Text text(R"({"typeid": "t", "inherits": ["b"]})");
-    EXPECT_EQ(messageOf<Complaint>([&] { text.schema.fail("No."); }), "No.");
+    EXPECT_EQ(messageOf<Complaint>([&] { text.schema.fail(messages("string-expected")); }), "Expected a string.");
 }
 
 class DefinitionValue : public testing::Test {
