@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <regex>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -22,6 +23,14 @@ const std::string discharge = "hydro.parameter:ratedDischarge-1.0.0";
 std::string group(const std::string& typeId, const std::string& name) {
     return R"({"typeid":")" + typeId +
            R"(","inherits":["norvex.parameter:group-1.0.0"],"constants":[{"id":"name","value":")" + name + "\"}]}\n";
+}
+
+std::string repeated(std::string_view text, int times) {
+    std::string result;
+    for (int i = 0; i < times; ++i) {
+        result += text;
+    }
+    return result;
 }
 
 std::string parameter(const std::string& typeId, const std::string& more) {
@@ -340,6 +349,37 @@ TEST(Export, WritesAFileForEachSchema) {
     folder.write("f.ndjson", group("x:g/1", "Safety"));
     EXPECT_EQ(folder.run({"export", "f.ndjson", "-o", "out/"}).exitCode, 0);
     EXPECT_EQ(folder.read("out/group/x%3Ag%2F1.json"), group("x:g/1", "Safety"));
+}
+
+TEST(Export, NamesFilesOfLongTypeIdsTheSameEverywhere) {
+    const Folder folder;
+    folder.write("f.ndjson", group(std::string(200, 'x'), "A") + group(std::string(201, 'x'), "B") +
+                                 group(std::string(201, 'X'), "C") + group("g:" + std::string(197, 'y'), "D") +
+                                 group(repeated("\u00FC", 40), "E"));
+    EXPECT_EQ(folder.run({"export", "f.ndjson", "-o", "out"}).exitCode, 0);
+    EXPECT_EQ(folder.files(),
+              (std::vector<std::string>{"f.ndjson", "out/group/" + repeated("%C3%BC", 33) + "%C%4BD4732601945065.json",
+                                        "out/group/" + std::string(200, 'X') + "%F19EB4B4A9FA2FC7.json",
+                                        "out/group/g%3A" + std::string(196, 'y') + "%E53CBD4407D7574B.json",
+                                        "out/group/" + std::string(200, 'x') + "%3631500D06F3BBA7.json",
+                                        "out/group/" + std::string(200, 'x') + ".json"}));
+}
+
+// Both texts have the 64-bit FNV-1a hash 9F393972590A7DC2.
+TEST(Export, WritesAFileForEachOfTwoLongTypeIdsWithOneDigest) {
+    const Folder folder;
+    const std::string start(200, 'x');
+    const std::string one = group(start + "oamozaagkvmczsbluhypcldqdfddpmmuznxfrrgkrikkuppuqqnjtqbk"
+                                          "grzdqeyaoyrhaiglppgyeneouevaehbkkojcqvexwtiwqywan",
+                                  "A");
+    const std::string other = group(start + "oamozaagkvmczslfahfewjjelmqxbbmlnnhfrrgkriaaapcheqnjtqbk"
+                                            "rcybgnqqewgnmxkmufeykneouevajfrnowpcqvexwtpcjllfy",
+                                    "B");
+    folder.write("f.ndjson", other + one);
+    EXPECT_EQ(folder.run({"export", "f.ndjson", "-o", "out"}).exitCode, 0);
+    EXPECT_EQ(folder.read("out/group/" + start + "%9F393972590A7DC2.json"), one);
+    EXPECT_EQ(folder.read("out/group/" + start + "%9F393972590A7DC3.json"), other);
+    EXPECT_EQ(folder.files().size(), 3U);
 }
 
 TEST(Export, ReplacesAnEarlierExportAsAWhole) {

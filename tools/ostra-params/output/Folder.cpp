@@ -9,8 +9,8 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <functional>
 #include <iterator>
+#include <string_view>
 #include <system_error>
 
 namespace Tool {
@@ -69,13 +69,28 @@ void mustBeReplaceable(const fs::path& folder) {
     mustSucceed(folder, error);
 }
 
+/// Returns the 64-bit FNV-1a hash of a text. That of the standard library is another one elsewhere.
+std::uint64_t digestOf(std::string_view text) {
+    std::uint64_t digest = 0xCBF29CE484222325U;
+    for (const char byte : text) {
+        digest = (digest ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
+    }
+    return digest;
+}
+
 } // namespace
 
-std::string fileNameOf(const std::string& text) {
+std::string FileNames::nameOf(const std::string& text) {
     constexpr std::size_t longest = 200; // file systems take 255 bytes
     const std::string name = percentEncoded(text, text.substr(0, 1) == "." ? "-_" : "-_."); // none is hidden
-    return name.size() <= longest ? name
-                                  : fmt::format("{}%{:016X}", name.substr(0, longest), std::hash<std::string>()(text));
+    if (name.size() <= longest) {
+        return name;
+    }
+    std::uint64_t digest = digestOf(text);
+    while (!digests_.insert(digest).second) {
+        ++digest; // texts of one digest can be made on purpose
+    }
+    return fmt::format("{}%{:016X}", name.substr(0, longest), digest);
 }
 
 void replaceFolder(const fs::path& folder, const std::vector<FolderEntry>& entries) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -13,8 +15,16 @@ struct FolderEntry {
     std::string content;
 };
 
-/// Returns a file name for a text: readable, and another one for each text.
-std::string fileNameOf(const std::string& text);
+/// The names of the files in one folder, the same on every platform.
+class FileNames {
+public:
+    /// Returns a file name for a text: readable, and another one for each text. A name that would be too long ends in a
+    /// digest of the text instead.
+    std::string nameOf(const std::string& text);
+
+private:
+    std::set<std::uint64_t> digests_;
+};
 
 /// Replaces a folder by one that holds these files and nothing else; the old one stays until the new one is whole.
 /// @throws OutputError if that fails, or the folder holds what such a replacement would not have written.

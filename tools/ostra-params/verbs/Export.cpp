@@ -9,7 +9,9 @@
 #include <fmt/format.h>
 
 #include <filesystem>
+#include <map>
 #include <memory>
+#include <string_view>
 
 namespace Tool {
 
@@ -36,9 +38,10 @@ std::string lines(const Catalogue& catalogue) {
 
 std::vector<FolderEntry> files(const Catalogue& catalogue) {
     std::vector<FolderEntry> entries;
+    std::map<std::string_view, FileNames> names;
     for (const Object& object : catalogue.objects()) {
-        entries.push_back(
-            {std::string(object.kind->id), fileNameOf(object.typeId) + ".json", catalogue.schemaOf(object) + "\n"});
+        entries.push_back({std::string(object.kind->id), names[object.kind->id].nameOf(object.typeId) + ".json",
+                           catalogue.schemaOf(object) + "\n"});
     }
     return entries;
 }
