@@ -1,6 +1,6 @@
 #include "harness/Fixtures.h"
 #include "programs/Groups.h"
-#include "programs/HeapWatch.h"
+#include "support/HeapWatch.h"
 
 namespace Bench {
 
@@ -10,20 +10,20 @@ namespace {
 
 /// The texts are the caller's and there before: they do not count.
 void heapAfter(const Catalogue& catalogue, Measurement& measurement) {
-    const std::size_t before = HeapWatch::held();
+    const std::size_t before = Support::HeapWatch::held();
     ParametersEngine engine;
     registerEach(catalogue, engine);
     engine.resolveSchemas();
-    measurement.setBytes(HeapWatch::held() - before);
+    measurement.setBytes(Support::HeapWatch::held() - before);
 }
 
 void heapPeak(const Catalogue& catalogue, Measurement& measurement) {
-    const std::size_t before = HeapWatch::held();
-    HeapWatch::reset();
+    const std::size_t before = Support::HeapWatch::held();
+    Support::HeapWatch::reset();
     ParametersEngine engine;
     registerEach(catalogue, engine);
     engine.resolveSchemas();
-    measurement.setBytes(HeapWatch::peak() - before);
+    measurement.setBytes(Support::HeapWatch::peak() - before);
 }
 
 void textBytes(const Catalogue& catalogue, Measurement& measurement) {

@@ -1,12 +1,14 @@
-#include "soak/Soak.h"
+#include "soak/Workload.h"
 
 #include <stdexcept>
 #include <utility>
 
-namespace Bench {
+namespace Soak {
 
 namespace {
 
+using Bench::Kind;
+using Bench::Schema;
 using Parameters::ParametersEngine;
 
 constexpr std::size_t maxEngines = 8;
@@ -38,27 +40,28 @@ std::size_t sizeOf(const ParametersEngine& engine) {
 
 } // namespace
 
-const std::array<Soak::Operation, 13> Soak::operations{{{"register a text", &Soak::registerText, 20},
-                                                        {"register a hundred texts", &Soak::registerTexts, 10},
-                                                        {"register a broken text", &Soak::registerBrokenText, 20},
-                                                        {"register a batch", &Soak::registerBatch, 5},
-                                                        {"register an object", &Soak::registerObject, 10},
-                                                        {"resolve", &Soak::resolve, 10},
-                                                        {"discard what cannot be resolved", &Soak::discard, 4},
-                                                        {"read a parameter", &Soak::read, 10},
-                                                        {"list", &Soak::list, 4},
-                                                        {"export", &Soak::exportObjects, 5},
-                                                        {"copy", &Soak::copy, 5},
-                                                        {"move", &Soak::move, 4},
-                                                        {"drop", &Soak::drop, 4}}};
+const std::array<Workload::Operation, 13> Workload::operations{
+    {{"register a text", &Workload::registerText, 20},
+     {"register a hundred texts", &Workload::registerTexts, 10},
+     {"register a broken text", &Workload::registerBrokenText, 20},
+     {"register a batch", &Workload::registerBatch, 5},
+     {"register an object", &Workload::registerObject, 10},
+     {"resolve", &Workload::resolve, 10},
+     {"discard what cannot be resolved", &Workload::discard, 4},
+     {"read a parameter", &Workload::read, 10},
+     {"list", &Workload::list, 4},
+     {"export", &Workload::exportObjects, 5},
+     {"copy", &Workload::copy, 5},
+     {"move", &Workload::move, 4},
+     {"drop", &Workload::drop, 4}}};
 
-Soak::Soak(std::uint64_t seed) : random_(seed) {
-    for (const std::size_t size : {minCatalogueSize, std::size_t{200}, std::size_t{1000}}) {
-        catalogues_.push_back(makeCatalogue(size, seed));
+Workload::Workload(std::uint64_t seed) : random_(seed) {
+    for (const std::size_t size : {Bench::minCatalogueSize, std::size_t{200}, std::size_t{1000}}) {
+        catalogues_.push_back(Bench::makeCatalogue(size, seed));
     }
 }
 
-void Soak::round() {
+void Workload::round() {
     std::uint32_t weights = 0;
     for (const Operation& operation : operations) {
         weights += operation.weight;
@@ -76,16 +79,16 @@ void Soak::round() {
     std::vector<Engine>().swap(engines_);
 }
 
-Soak::Engine& Soak::engine() {
+Workload::Engine& Workload::engine() {
     if (engines_.empty()) {
         engines_.emplace_back();
     }
     return engines_[random_.below(static_cast<std::uint32_t>(engines_.size()))];
 }
 
-const Schema& Soak::schema() { return catalogue()[random_.below(static_cast<std::uint32_t>(catalogue().size()))]; }
+const Schema& Workload::schema() { return catalogue()[random_.below(static_cast<std::uint32_t>(catalogue().size()))]; }
 
-std::vector<std::string> Soak::someTypeIds() {
+std::vector<std::string> Workload::someTypeIds() {
     std::vector<std::string> typeIds(20);
     for (std::string& typeId : typeIds) {
         typeId = schema().typeId;
@@ -93,7 +96,7 @@ std::vector<std::string> Soak::someTypeIds() {
     return typeIds;
 }
 
-bool Soak::registerText() {
+bool Workload::registerText() {
     Engine& target = engine();
     const Schema& added = schema();
     const bool taken = target.isRegistered(added.typeId);
@@ -102,7 +105,7 @@ bool Soak::registerText() {
     return accepted;
 }
 
-bool Soak::registerTexts() {
+bool Workload::registerTexts() {
     Engine& target = engine();
     bool all = true;
     for (int i = 0; i < 100; ++i) {
@@ -116,7 +119,7 @@ bool Soak::registerTexts() {
     return all;
 }
 
-bool Soak::registerBrokenText() {
+bool Workload::registerBrokenText() {
     std::string text = schema().text;
     const std::size_t place = random_.below(static_cast<std::uint32_t>(text.size()));
     if (random_.percent(50)) {
@@ -128,7 +131,7 @@ bool Soak::registerBrokenText() {
     return accepts([&] { target.registerSchema(text); });
 }
 
-bool Soak::registerBatch() {
+bool Workload::registerBatch() {
     std::map<std::string, std::string> batch;
     for (const Schema& added : catalogue()) {
         if (random_.percent(80)) {
@@ -139,7 +142,7 @@ bool Soak::registerBatch() {
     return accepts([&] { target.registerSchemas(batch); });
 }
 
-bool Soak::registerObject() {
+bool Workload::registerObject() {
     const auto parameters = engine().getAllBoolParameters();
     const auto specs = engine().getAllMeasurableSpecs();
     Engine& target = engine();
@@ -153,7 +156,7 @@ bool Soak::registerObject() {
     return all;
 }
 
-bool Soak::resolve() {
+bool Workload::resolve() {
     Engine& target = engine();
     const std::size_t before = sizeOf(target);
     const bool resolves = target.findUnresolvable().empty();
@@ -163,7 +166,7 @@ bool Soak::resolve() {
     return resolved;
 }
 
-bool Soak::discard() {
+bool Workload::discard() {
     Engine& target = engine();
     for (const auto& [typeId, message] : target.findUnresolvable()) {
         require(target.discardPending(typeId), "what cannot be resolved is pending");
@@ -173,7 +176,7 @@ bool Soak::discard() {
     return resolved;
 }
 
-bool Soak::read() {
+bool Workload::read() {
     const Engine& source = engine();
     const std::string& text = schema().text;
     const Parameters::ValueType type = source.readValueType(text);
@@ -182,7 +185,7 @@ bool Soak::read() {
     return isMeasurable || accepts([&] { source.readStringParameter(text); });
 }
 
-bool Soak::list() {
+bool Workload::list() {
     const Engine& source = engine();
     const auto measurable = source.getAllMeasurableParameters();
     const auto categories = source.getAllCategories();
@@ -190,7 +193,7 @@ bool Soak::list() {
     return !measurable.empty() || !categories.empty() || !ranges.empty();
 }
 
-bool Soak::exportObjects() {
+bool Workload::exportObjects() {
     const Engine& source = engine();
     bool all = true;
     for (const std::string& typeId : someTypeIds()) {
@@ -204,7 +207,7 @@ bool Soak::exportObjects() {
     return all;
 }
 
-bool Soak::copy() {
+bool Workload::copy() {
     const Engine& source = engine();
     if (engines_.size() < maxEngines) {
         engines_.emplace_back(source);
@@ -214,7 +217,7 @@ bool Soak::copy() {
     return true;
 }
 
-bool Soak::move() {
+bool Workload::move() {
     Engine& source = engine();
     Engine moved(std::move(source));
     source = Engine(); // a moved-from engine may only be assigned to
@@ -222,11 +225,11 @@ bool Soak::move() {
     return true;
 }
 
-bool Soak::drop() {
+bool Workload::drop() {
     engine();
     engines_.erase(engines_.begin() +
                    static_cast<std::ptrdiff_t>(random_.below(static_cast<std::uint32_t>(engines_.size()))));
     return true;
 }
 
-} // namespace Bench
+} // namespace Soak

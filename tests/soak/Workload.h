@@ -12,13 +12,13 @@
 #include <string>
 #include <vector>
 
-namespace Bench {
+namespace Soak {
 
 /// Does to a few engines, at random, what an application may do in years: each round begins with none and ends with
 /// none.
-class Soak {
+class Workload {
 public:
-    explicit Soak(std::uint64_t seed);
+    explicit Workload(std::uint64_t seed);
 
     /// @throws std::logic_error if something does not hold that must.
     void round();
@@ -30,7 +30,7 @@ public:
     };
     struct Operation {
         const char* name;
-        bool (Soak::*apply)(); // returns false when it was refused
+        bool (Workload::*apply)(); // returns false when it was refused
         std::uint32_t weight;
     };
     static const std::array<Operation, 13> operations;
@@ -55,15 +55,15 @@ private:
     bool drop();
 
     Engine& engine();
-    const Schema& schema();
-    const Catalogue& catalogue() const { return catalogues_[catalogue_]; }
+    const Bench::Schema& schema();
+    const Bench::Catalogue& catalogue() const { return catalogues_[catalogue_]; }
     std::vector<std::string> someTypeIds();
 
-    Random random_;
-    std::vector<Catalogue> catalogues_;
+    Bench::Random random_;
+    std::vector<Bench::Catalogue> catalogues_;
     std::size_t catalogue_ = 0; // that of the round
     std::vector<Engine> engines_;
     std::array<Count, 13> counts_{};
 };
 
-} // namespace Bench
+} // namespace Soak

@@ -1,4 +1,4 @@
-#include "programs/HeapWatch.h"
+#include "support/HeapWatch.h"
 
 #include <malloc.h>
 
@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <new>
 
-namespace Bench::HeapWatch {
+namespace Support::HeapWatch {
 
 namespace {
 
@@ -49,11 +49,11 @@ std::size_t peak() noexcept { return peakBytes; }
 
 void reset() noexcept { peakBytes = heldBytes; }
 
-} // namespace Bench::HeapWatch
+} // namespace Support::HeapWatch
 
-using Bench::HeapWatch::allocate;
-using Bench::HeapWatch::allocateOrThrow;
-using Bench::HeapWatch::release;
+using Support::HeapWatch::allocate;
+using Support::HeapWatch::allocateOrThrow;
+using Support::HeapWatch::release;
 
 void* operator new(std::size_t size) { return allocateOrThrow(size, 1); }
 void* operator new(std::size_t size, std::align_val_t alignment) {

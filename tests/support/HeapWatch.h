@@ -4,7 +4,7 @@
 
 /// What operator new has handed out and not got back, in the bytes that the allocator spends on it. A program with this
 /// replaces the global operators.
-namespace Bench::HeapWatch {
+namespace Support::HeapWatch {
 
 std::size_t held() noexcept;
 /// The most that was held since reset.
@@ -12,4 +12,4 @@ std::size_t peak() noexcept;
 /// Lets the peak begin at what is held now.
 void reset() noexcept;
 
-} // namespace Bench::HeapWatch
+} // namespace Support::HeapWatch

@@ -1,5 +1,5 @@
-#include "programs/HeapWatch.h"
-#include "soak/Soak.h"
+#include "soak/Workload.h"
+#include "support/HeapWatch.h"
 
 #include <sys/resource.h>
 
@@ -10,9 +10,11 @@
 #include <string>
 
 /// Works on engines at random for so many seconds, and fails when memory does not come back to its level:
-/// bench-soak SECONDS [SEED]
+/// soak SECONDS [SEED]
 
 namespace {
+
+namespace HeapWatch = Support::HeapWatch;
 
 using Clock = std::chrono::steady_clock;
 
@@ -25,35 +27,35 @@ long peakMebibytes() {
     return usage.ru_maxrss / 1024;
 }
 
-void report(const Bench::Soak& soak, int rounds, std::size_t level, std::size_t warmPeak) {
+void report(const Soak::Workload& workload, int rounds, std::size_t level, std::size_t warmPeak) {
     std::cout << rounds << " rounds, after each of which " << level << " bytes were held\n"
-              << "peak of the heap " << Bench::HeapWatch::peak() << " bytes, in the first rounds " << warmPeak
+              << "peak of the heap " << HeapWatch::peak() << " bytes, in the first rounds " << warmPeak
               << "; of the process " << peakMebibytes() << " MiB\n";
-    for (std::size_t i = 0; i < Bench::Soak::operations.size(); ++i) {
-        const auto& count = soak.countOf(i);
-        std::cout << count.done << " x " << Bench::Soak::operations[i].name << ", " << count.refused
+    for (std::size_t i = 0; i < Soak::Workload::operations.size(); ++i) {
+        const auto& count = workload.countOf(i);
+        std::cout << count.done << " x " << Soak::Workload::operations[i].name << ", " << count.refused
                   << " of them refused\n";
     }
 }
 
 bool soakFor(std::chrono::seconds time, std::uint64_t seed) {
     const auto end = Clock::now() + time;
-    Bench::Soak soak(seed);
+    Soak::Workload workload(seed);
     int rounds = 0;
     for (; rounds < warmUpRounds; ++rounds) {
-        soak.round();
+        workload.round();
     }
-    const std::size_t level = Bench::HeapWatch::held();
-    const std::size_t warmPeak = Bench::HeapWatch::peak();
+    const std::size_t level = HeapWatch::held();
+    const std::size_t warmPeak = HeapWatch::peak();
     for (; Clock::now() < end; ++rounds) {
-        soak.round();
-        if (const std::size_t held = Bench::HeapWatch::held(); held != level) {
-            std::cerr << "bench-soak: " << held << " bytes are held after round " << rounds << " of seed " << seed
-                      << ", and " << level << " were before\n";
+        workload.round();
+        if (const std::size_t held = HeapWatch::held(); held != level) {
+            std::cerr << "soak: " << held << " bytes are held after round " << rounds << " of seed " << seed << ", and "
+                      << level << " were before\n";
             return false;
         }
     }
-    report(soak, rounds, level, warmPeak);
+    report(workload, rounds, level, warmPeak);
     return true;
 }
 
@@ -61,7 +63,7 @@ bool soakFor(std::chrono::seconds time, std::uint64_t seed) {
 
 int main(int argc, char** argv) {
     if (argc < 2 || argc > 3) {
-        std::cerr << "usage: bench-soak SECONDS [SEED]\n";
+        std::cerr << "usage: soak SECONDS [SEED]\n";
         return 2;
     }
     try {
@@ -69,7 +71,7 @@ int main(int argc, char** argv) {
         std::cout << "seed " << seed << '\n';
         return soakFor(std::chrono::seconds(std::stoul(argv[1])), seed) ? 0 : 1;
     } catch (const std::exception& error) {
-        std::cerr << "bench-soak: " << error.what() << '\n';
+        std::cerr << "soak: " << error.what() << '\n';
         return 1;
     }
 }
