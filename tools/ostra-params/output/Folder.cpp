@@ -81,8 +81,8 @@ std::uint64_t digestOf(std::string_view text) {
 } // namespace
 
 std::string FileNames::nameOf(const std::string& text) {
-    constexpr std::size_t longest = 200; // file systems take 255 bytes
-    const std::string name = percentEncoded(text, text.substr(0, 1) == "." ? "-_" : "-_."); // none is hidden
+    constexpr std::size_t longest = 200;                                              // file systems take 255 bytes
+    std::string name = percentEncoded(text, text.substr(0, 1) == "." ? "-_" : "-_."); // none is hidden
     if (name.size() <= longest) {
         return name;
     }
