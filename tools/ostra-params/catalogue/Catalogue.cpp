@@ -1,6 +1,7 @@
 #include "catalogue/Catalogue.h"
 
 #include "catalogue/Compact.h"
+#include "catalogue/Describe.h"
 #include "catalogue/Input.h"
 #include "output/Progress.h"
 
@@ -27,12 +28,9 @@ Catalogue::Catalogue(const std::vector<std::string>& paths) {
 }
 
 void Catalogue::collect() {
-    for (const Kind& kind : kinds()) {
-        for (Object& object : kind.objects(loader_.engine())) {
-            object.kind = &kind;
-            index_.emplace(object.typeId, objects_.size());
-            objects_.push_back(std::move(object));
-        }
+    objects_ = describeAll(loader_.engine());
+    for (std::size_t place = 0; place < objects_.size(); ++place) {
+        index_.emplace(objects_[place].typeId, place);
     }
     for (Object& object : objects_) {
         for (Property& property : object.properties) {
@@ -78,12 +76,13 @@ const std::vector<Link>& Catalogue::dependents(const std::string& typeId) const 
 
 std::string Catalogue::schemaOf(const Object& object) const {
     // Units are the units library's, which hands out no texts.
-    return object.kind->id == "unit" ? compact(sourceOf(object).text) : loader_.engine().getSchema(object.typeId);
+    return object.section == &sectionOfUnits() ? compact(sourceOf(object).text)
+                                               : loader_.engine().getSchema(object.typeId);
 }
 
-std::size_t Catalogue::count(const Kind& kind) const {
-    return static_cast<std::size_t>(
-        std::count_if(objects_.begin(), objects_.end(), [&](const Object& object) { return object.kind == &kind; }));
+std::size_t Catalogue::count(const Section& section) const {
+    return static_cast<std::size_t>(std::count_if(objects_.begin(), objects_.end(),
+                                                  [&](const Object& object) { return object.section == &section; }));
 }
 
 } // namespace Tool

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "catalogue/Kinds.h"
 #include "catalogue/Loader.h"
 #include "catalogue/Object.h"
+#include "catalogue/Sections.h"
 
 #include <cstddef>
 #include <string>
@@ -25,7 +25,7 @@ public:
     /// @throws InputError if a path cannot be read or is no schema file, or a folder holds none.
     explicit Catalogue(const std::vector<std::string>& paths);
 
-    /// Returns the objects by kind, then by typeid.
+    /// Returns the objects by section, then by typeid.
     const std::vector<Object>& objects() const { return objects_; }
     const Object* find(const std::string& typeId) const;
     /// Returns what a typeid goes by: the name of its object, or nothing.
@@ -43,8 +43,8 @@ public:
     const std::vector<Fault>& faults() const { return faults_; }
     std::size_t schemas() const { return loader_.schemas(); }
     std::size_t files() const { return files_; }
-    /// Returns how many objects there are of a kind.
-    std::size_t count(const Kind& kind) const;
+    /// Returns how many objects there are in a section.
+    std::size_t count(const Section& section) const;
 
 private:
     void collect();

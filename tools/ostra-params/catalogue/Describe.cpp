@@ -1,10 +1,14 @@
 #include "catalogue/Describe.h"
 
+#include "catalogue/Sections.h"
+
+#include <parameters/Kinds.h>
+
 #include <fmt/format.h>
 
-#include <cstdint>
-#include <optional>
+#include <algorithm>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -53,17 +57,16 @@ Property limitsOf(const StringRange& range) {
     return {"range", {{"any"}}};
 }
 
-/// An inline range has a built-in typeid, and its limits are the parameter's own.
-bool isInline(const std::string& rangeTypeId) {
-    return rangeTypeId == FloatRange(false, 0, false, 0).getTypeId() ||
-           rangeTypeId == IntRange(false, 0, false, 0).getTypeId() || rangeTypeId == StringRange().getTypeId() ||
-           rangeTypeId == StringRange(SetStringRangeComponent(std::vector<std::string>())).getTypeId() ||
-           rangeTypeId == StringRange(RegexStringRangeComponent("")).getTypeId();
+/// An inline range has one of the bases as its typeid, and its limits are the parameter's own.
+template <class Range>
+bool isInline(const Range& range) {
+    const auto bases = Kinds::Of<Range>::info.bases();
+    return std::find(bases.begin(), bases.end(), range.getTypeId()) != bases.end();
 }
 
 void addRange(Object& object, const auto& range) {
     Property limits = limitsOf(range);
-    if (!isInline(range.getTypeId())) {
+    if (!isInline(range)) {
         limits.isOwn = false;
         if (limits.name == "range") {
             limits.name = "values";
@@ -102,14 +105,19 @@ Object describeParameter(const ParameterCore& core, const SpecCore& spec) {
     return object;
 }
 
+/// In whatever minor version, and with whatever else in it.
+bool isFamilyType(const std::string& specTypeId) {
+    constexpr std::string_view typeId = Kinds::ReferenceSpec::familyType;
+    constexpr std::string_view anyMinor = typeId.substr(0, typeId.find('.', typeId.find('-')) + 1);
+    return specTypeId.find(anyMinor) != std::string::npos;
+}
+
 template <class Parameter>
 Object describeRanged(const Parameter& parameter) {
     Object object = describeParameter(parameter.getCore(), parameter.getSpec().getCore());
     addRange(object, parameter.getRange());
     return object;
 }
-
-} // namespace
 
 Object describe(const Units::Unit& unit) {
     Object object{unit.getTypeId(), unit.getName(), {}};
@@ -182,8 +190,7 @@ Object describe(const ReferenceParameter& parameter) {
     Object object = describeParameter(parameter.getCore(), spec.getCore());
     // The category of a family type is said by the parameter itself; that of a spec belongs to the spec.
     if (const auto category = spec.getCategory()) {
-        const bool isOwn = spec.getCore().getTypeId().find("norvex.talmo.spec:familyType-1.") != std::string::npos;
-        object.properties.push_back({"category", {named(*category)}, isOwn});
+        object.properties.push_back({"category", {named(*category)}, isFamilyType(spec.getCore().getTypeId())});
     }
     object.properties.push_back({"ranged", {{parameter.isRanged() ? "yes" : "no"}}});
     return object;
@@ -202,6 +209,33 @@ Object describe(const Category& category) {
         object.properties.push_back(std::move(disciplines));
     }
     return object;
+}
+
+template <class Kind>
+Object describeOne(const typename Kind::Value& value) {
+    static_assert(
+        requires { describe(value); }, "The tool has no describe() for this kind.");
+    return describe(value);
+}
+
+} // namespace
+
+std::vector<Object> describeAll(ParametersEngine& engine) {
+    std::vector<Object> objects;
+    const auto add = [&](Object object, const Section& section) {
+        object.section = &section;
+        objects.push_back(std::move(object));
+    };
+    for (const auto& [typeId, unit] : engine.getUnitsEngine().getAllUnits()) {
+        add(describe(unit), sectionOfUnits());
+    }
+    forEachKind([&](auto kind) {
+        const Section& section = sectionOf(kind.info);
+        for (const auto& [typeId, value] : kind.getAll(engine)) {
+            add(describeOne<decltype(kind)>(value), section);
+        }
+    });
+    return objects;
 }
 
 } // namespace Tool

@@ -6,7 +6,7 @@
 
 namespace Tool {
 
-struct Kind;
+struct Section;
 
 /// One value of a property: a text or, when it has a typeid, another object with the name that it goes by.
 struct Value {
@@ -23,12 +23,12 @@ struct Property {
     bool isOwn = true; ///< False for what a reader wants to see here, but another object says.
 };
 
-/// What a catalogue says of one object, in a form that serves every kind.
+/// What a catalogue says of one object, in a form that serves every section.
 struct Object {
     std::string typeId;
     std::string name;                 ///< Empty for the kinds that have none.
     std::vector<Property> properties; ///< In the order in which a person wants to read them.
-    const Kind* kind = nullptr;
+    const Section* section = nullptr;
 };
 
 } // namespace Tool

@@ -1,7 +1,7 @@
 #include "faults/Hints.h"
 
 #include "faults/Distance.h"
-#include "faults/ExpectedKind.h"
+#include "faults/ExpectedSection.h"
 #include "faults/FaultPlace.h"
 #include "faults/Outline.h"
 
@@ -66,8 +66,8 @@ std::string Hints::forBase(const std::string& base) const {
         return "only built-in bases can be inherited, and this is another schema.";
     }
     std::vector<std::string_view> bases;
-    for (const Kind& kind : kinds()) {
-        bases.insert(bases.end(), kind.bases.begin(), kind.bases.end());
+    for (const Section& section : sections()) {
+        bases.insert(bases.end(), section.bases.begin(), section.bases.end());
     }
     return didYouMean(base, bases);
 }
@@ -79,8 +79,8 @@ std::string Hints::forTakenTypeId(const std::string& typeId) const {
 }
 
 std::string Hints::forMissing(const Source& source, const Heading& heading, const std::string& typeId) {
-    const Kind* schemaKind = kindOfBase(heading.base);
-    const Kind* expected = schemaKind == nullptr ? nullptr : expectedKind(*schemaKind, roleOf(source.text, typeId));
+    const Section* ofSchema = sectionOfBase(heading.base);
+    const Section* expected = ofSchema == nullptr ? nullptr : expectedSection(*ofSchema, roleOf(source.text, typeId));
     const auto entry = entries_.find(typeId);
     if (entry == entries_.end()) {
         return expected == nullptr ? std::string() : similarTo(typeId, *expected);
@@ -89,23 +89,23 @@ std::string Hints::forMissing(const Source& source, const Heading& heading, cons
     if (!entry->second.isSound) {
         return fmt::format("it is in {}, and faulty.", place);
     }
-    const Kind* actual = kindOfBase(entry->second.base);
+    const Section* actual = sectionOfBase(entry->second.base);
     if (expected == nullptr || actual == nullptr || actual == expected) {
         return {};
     }
     return fmt::format("{} is of the kind {}, and the kind {} is expected.", place, actual->label, expected->label);
 }
 
-std::string Hints::similarTo(const std::string& typeId, const Kind& kind) {
-    constexpr std::size_t mostSearches = 200; // each goes through all typeids of a kind
-    const auto [similar, isNew] = similar_.try_emplace({&kind, typeId});
+std::string Hints::similarTo(const std::string& typeId, const Section& section) {
+    constexpr std::size_t mostSearches = 200; // each goes through all typeids of a section
+    const auto [similar, isNew] = similar_.try_emplace({&section, typeId});
     if (!isNew || similar_.size() > mostSearches) {
         return similar->second;
     }
-    std::vector<std::string_view>& typeIds = typeIds_[&kind];
+    std::vector<std::string_view>& typeIds = typeIds_[&section];
     if (typeIds.empty()) {
         for (const auto& [known, entry] : entries_) {
-            if (kindOfBase(entry.base) == &kind) {
+            if (sectionOfBase(entry.base) == &section) {
                 typeIds.emplace_back(known);
             }
         }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/Heading.h"
-#include "catalogue/Kinds.h"
+#include "catalogue/Sections.h"
 #include "catalogue/Source.h"
 
 #include <map>
@@ -33,11 +33,11 @@ private:
     std::string forBase(const std::string& base) const;
     std::string forTakenTypeId(const std::string& typeId) const;
     std::string forMissing(const Source& source, const Heading& heading, const std::string& typeId);
-    std::string similarTo(const std::string& typeId, const Kind& kind);
+    std::string similarTo(const std::string& typeId, const Section& section);
 
     const Entries& entries_;
-    std::map<const Kind*, std::vector<std::string_view>> typeIds_;       // of each kind that was asked for
-    std::map<std::pair<const Kind*, std::string>, std::string> similar_; // what was found, as many may miss the same
+    std::map<const Section*, std::vector<std::string_view>> typeIds_;       // of each section that was asked for
+    std::map<std::pair<const Section*, std::string>, std::string> similar_; // what was found, as many may miss the same
 };
 
 } // namespace Tool

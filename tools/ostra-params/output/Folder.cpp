@@ -1,6 +1,6 @@
 #include "output/Folder.h"
 
-#include "catalogue/Kinds.h"
+#include "catalogue/Sections.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
 
@@ -49,9 +49,9 @@ void mustSucceed(const fs::path& path, const std::error_code& error) {
 
 bool isFromAnExport(const fs::path& folder, const fs::directory_entry& entry) {
     const fs::path relative = entry.path().lexically_relative(folder);
-    const bool isOfKind = kindOfId(relative.begin()->string()) != nullptr;
+    const bool isInSection = sectionOfId(relative.begin()->string()) != nullptr;
     const auto depth = std::distance(relative.begin(), relative.end());
-    return isOfKind && !entry.is_symlink() &&
+    return isInSection && !entry.is_symlink() &&
            (entry.is_directory() ? depth == 1 : depth == 2 && entry.path().extension() == ".json");
 }
 

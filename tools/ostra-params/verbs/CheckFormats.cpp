@@ -22,8 +22,8 @@ std::string faultsAsText(const Catalogue& catalogue) {
 std::string summaryAsText(const Catalogue& catalogue) {
     constexpr auto line = "{:<24}{:>10}\n";
     std::string text = fmt::format(line, "kind", "objects");
-    for (const Kind& kind : kinds()) {
-        fmt::format_to(std::back_inserter(text), line, kind.plural, catalogue.count(kind));
+    for (const Section& section : sections()) {
+        fmt::format_to(std::back_inserter(text), line, section.plural, catalogue.count(section));
     }
     fmt::format_to(std::back_inserter(text), line, "total", catalogue.objects().size());
     return text + fmt::format("{} in {}: {}\n", counted(catalogue.schemas(), "schema"),
@@ -46,8 +46,8 @@ std::string checkAsJson(const Catalogue& catalogue) {
         faults.push_back(std::move(entry));
     }
     Json objects = Json::object();
-    for (const Kind& kind : kinds()) {
-        objects[std::string(kind.id)] = catalogue.count(kind);
+    for (const Section& section : sections()) {
+        objects[std::string(section.id)] = catalogue.count(section);
     }
     return toText({{"files", catalogue.files()},
                    {"schemas", catalogue.schemas()},

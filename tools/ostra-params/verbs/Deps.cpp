@@ -43,7 +43,7 @@ public:
             }
             const Object* object = catalogue_.find(typeId);
             graph_.nodes.push_back({typeId, object == nullptr ? "" : object->name,
-                                    object == nullptr ? "built in" : std::string(object->kind->label)});
+                                    object == nullptr ? "built in" : std::string(object->section->label)});
             for (const auto& [property, other] : linksOf(typeId)) {
                 graph_.edges.push_back(
                     {isReverse_ ? other : typeId, isReverse_ ? typeId : other, std::string(property)});

@@ -31,7 +31,7 @@ Exit codes:
   2  one of them cannot be read, or has faults)";
 
 std::string lineOf(char sign, const Object& object) {
-    return fmt::format("{} {}  {}{}\n", sign, printable(object.typeId), object.kind->label,
+    return fmt::format("{} {}  {}{}\n", sign, printable(object.typeId), object.section->label,
                        object.name.empty() ? "" : "  " + printable(object.name));
 }
 
@@ -55,7 +55,7 @@ std::string asText(const Difference& difference) {
 }
 
 Json asJson(const Object& object) {
-    return {{"typeid", object.typeId}, {"kind", object.kind->id}, {"name", object.name}};
+    return {{"typeid", object.typeId}, {"kind", object.section->id}, {"name", object.name}};
 }
 
 std::string asJson(const Difference& difference) {

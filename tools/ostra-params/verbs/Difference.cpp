@@ -15,7 +15,7 @@ struct Entry {
 
 /// What an object says, its kind and name among it. What other objects say changes there, not here.
 std::vector<Entry> entriesOf(const Object& object) {
-    std::vector<Entry> entries{{"kind", {std::string(object.kind->label)}}, {"name", {object.name}}};
+    std::vector<Entry> entries{{"kind", {std::string(object.section->label)}}, {"name", {object.name}}};
     for (const Property& property : object.properties) {
         Entry entry{property.name, {}};
         for (const Value& value : property.values) {

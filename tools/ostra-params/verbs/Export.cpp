@@ -40,7 +40,7 @@ std::vector<FolderEntry> files(const Catalogue& catalogue) {
     std::vector<FolderEntry> entries;
     std::map<std::string_view, FileNames> names;
     for (const Object& object : catalogue.objects()) {
-        entries.push_back({std::string(object.kind->id), names[object.kind->id].nameOf(object.typeId) + ".json",
+        entries.push_back({std::string(object.section->id), names[object.section->id].nameOf(object.typeId) + ".json",
                            catalogue.schemaOf(object) + "\n"});
     }
     return entries;

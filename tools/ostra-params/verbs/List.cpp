@@ -36,7 +36,7 @@ std::vector<const Object*> select(const Catalogue& catalogue, const Options& opt
     for (const Object& object : catalogue.objects()) {
         const bool isOfKind =
             options.kinds.empty() || std::any_of(options.kinds.begin(), options.kinds.end(),
-                                                 [&](const auto& word) { return isMeant(*object.kind, word); });
+                                                 [&](const auto& word) { return isMeant(*object.section, word); });
         if (isOfKind && (options.name.empty() || matches(object.name, options.name))) {
             selected.push_back(&object);
         }
@@ -47,7 +47,7 @@ std::vector<const Object*> select(const Catalogue& catalogue, const Options& opt
 std::string asJson(const std::vector<const Object*>& objects) {
     Json list = Json::array();
     for (const Object* object : objects) {
-        list.push_back({{"typeid", object->typeId}, {"kind", object->kind->id}, {"name", object->name}});
+        list.push_back({{"typeid", object->typeId}, {"kind", object->section->id}, {"name", object->name}});
     }
     return toText(list);
 }
@@ -56,7 +56,7 @@ std::string asTable(const std::vector<const Object*>& objects) {
     std::vector<std::array<std::string, 3>> rows;
     std::array<std::size_t, 2> widths{};
     for (const Object* object : objects) {
-        rows.push_back({printable(object->typeId), std::string(object->kind->label), printable(object->name)});
+        rows.push_back({printable(object->typeId), std::string(object->section->label), printable(object->name)});
         for (std::size_t column = 0; column < widths.size(); ++column) {
             widths[column] = std::max(widths[column], widthOf(rows.back()[column]));
         }
@@ -71,11 +71,11 @@ std::string asTable(const std::vector<const Object*>& objects) {
 
 std::string refuseUnknownKind(const std::string& word) {
     std::vector<std::string_view> names;
-    for (const Kind& kind : kinds()) {
-        if (isMeant(kind, word)) {
+    for (const Section& section : sections()) {
+        if (isMeant(section, word)) {
             return {};
         }
-        names.insert(names.end(), {kind.id, kind.label, kind.plural});
+        names.insert(names.end(), {section.id, section.label, section.plural});
     }
     const std::string question = didYouMean(word, names);
     return "there is no kind " + printable(word) + (question.empty() ? "" : "; " + question);

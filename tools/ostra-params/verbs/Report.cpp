@@ -32,16 +32,17 @@ Json dataOf(const Property& property) {
 /// What the page's script reads. Objects are arrays, as there may be many of them.
 Json dataOf(const Catalogue& catalogue) {
     Json data{{"kinds", Json::array()}, {"objects", Json::array()}, {"faults", Json::array()}};
-    for (const Kind& kind : kinds()) {
-        data["kinds"].push_back({{"label", kind.label}, {"plural", kind.plural}});
+    for (const Section& section : sections()) {
+        data["kinds"].push_back({{"label", section.label}, {"plural", section.plural}});
     }
     for (const Object& object : catalogue.objects()) {
         Json properties = Json::array();
         for (const Property& property : object.properties) {
             properties.push_back(dataOf(property));
         }
-        data["objects"].push_back(Json::array({object.typeId, indexOf(*object.kind), object.name, std::move(properties),
-                                               toString(beginningOf(catalogue.sourceOf(object)))}));
+        data["objects"].push_back(
+            Json::array({object.typeId, indexOf(*object.section), object.name, std::move(properties),
+                         toString(beginningOf(catalogue.sourceOf(object)))}));
     }
     for (const Fault& fault : catalogue.faults()) {
         data["faults"].push_back(Json::array({fault.place ? toString(*fault.place) : "", fault.message}));

@@ -80,7 +80,7 @@ std::string sheetOf(const Catalogue& catalogue, const Object& object) {
     const std::vector<Link> dependencies = catalogue.dependencies(object);
     const std::vector<Link>& dependents = catalogue.dependents(object.typeId);
     std::string text = object.name.empty() ? std::string() : printable(object.name) + "\n";
-    text += fmt::format("{}  {}\n\n{}", object.kind->label, printable(object.typeId), properties(catalogue, object));
+    text += fmt::format("{}  {}\n\n{}", object.section->label, printable(object.typeId), properties(catalogue, object));
     text +=
         fmt::format("\ndepends on {}\n{}", dependencies.empty() ? "nothing" : counted(dependencies.size(), "object"),
                     links(catalogue, dependencies));

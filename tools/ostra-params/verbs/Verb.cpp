@@ -36,12 +36,12 @@ std::string kindIds() {
     constexpr std::size_t width = 50;
     std::string ids;
     std::size_t lineBegin = 0;
-    for (const Kind& kind : kinds()) {
+    for (const Section& section : sections()) {
         ids += ids.empty() ? "" : ",";
-        const bool isFull = ids.size() + kind.id.size() - lineBegin > width;
+        const bool isFull = ids.size() + section.id.size() - lineBegin > width;
         ids += ids.empty() ? "" : isFull ? "\n" : " ";
         lineBegin = isFull ? ids.size() : lineBegin;
-        ids += kind.id;
+        ids += section.id;
     }
     return ids;
 }

@@ -1,0 +1,69 @@
+#include "catalogue/Sections.h"
+
+#include <parameters/Kinds.h>
+
+#include <algorithm>
+#include <cctype>
+#include <string>
+
+namespace Tool {
+
+namespace {
+
+constexpr std::string_view unitBase = "norvex.unit:unit-1.0.0"; // the units library has no list of its own
+
+std::vector<Section> makeSections() {
+    std::vector<Section> made{{"unit", "unit", "units", {unitBase}}};
+    Parameters::forEachKind([&](auto kind) {
+        const auto bases = kind.info.bases();
+        made.push_back({kind.info.id(), kind.info.word(), kind.info.plural(), {bases.begin(), bases.end()}});
+    });
+    return made;
+}
+
+/// Returns a word in small letters, with hyphens between its parts.
+std::string normal(std::string_view word) {
+    std::string result(word);
+    for (char& character : result) {
+        const bool isBlank = character == ' ' || character == '_';
+        character = isBlank ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+    }
+    return result;
+}
+
+} // namespace
+
+const std::vector<Section>& sections() {
+    static const std::vector<Section> all = makeSections();
+    return all;
+}
+
+std::size_t indexOf(const Section& section) { return static_cast<std::size_t>(&section - sections().data()); }
+
+const Section& sectionOfUnits() { return sections().front(); }
+
+const Section& sectionOf(Parameters::KindInfo kind) { return *sectionOfId(kind.id()); }
+
+const Section* sectionOfBase(std::string_view inherited) {
+    if (const auto kind = Parameters::findKindOfBase(inherited)) {
+        return &sectionOf(*kind);
+    }
+    const std::string_view anyMinor = unitBase.substr(0, unitBase.size() - std::string_view("0.0").size());
+    return inherited.find(anyMinor) == std::string_view::npos ? nullptr : &sectionOfUnits();
+}
+
+const Section* sectionOfId(std::string_view id) {
+    const auto& all = sections();
+    const auto found = std::find_if(all.begin(), all.end(), [id](const Section& section) { return section.id == id; });
+    return found == all.end() ? nullptr : &*found;
+}
+
+bool isMeant(const Section& section, std::string_view word) {
+    const std::string wanted = normal(word);
+    const auto names = {section.id, section.label, section.plural};
+    return std::any_of(names.begin(), names.end(), [&](std::string_view name) {
+        return wanted == normal(name) || wanted == normal(name.substr(name.rfind(' ') + 1));
+    });
+}
+
+} // namespace Tool
