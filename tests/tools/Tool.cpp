@@ -79,8 +79,13 @@ std::vector<std::string> Folder::files() const {
 
 Outcome Folder::run(const std::vector<std::string>& arguments, const std::string& output,
                     const std::string& input) const {
+    return runProgram(OSTRA_PARAMS_TOOL, arguments, output, input);
+}
+
+Outcome Folder::runProgram(const std::string& program, const std::vector<std::string>& arguments,
+                           const std::string& output, const std::string& input) const {
     write(".in", input);
-    std::string command = "cd " + quoted(path_.string()) + " && " + quoted(OSTRA_PARAMS_TOOL);
+    std::string command = "cd " + quoted(path_.string()) + " && " + quoted(program);
     for (const std::string& argument : arguments) {
         command.append(" ").append(quoted(argument));
     }

@@ -35,6 +35,9 @@ public:
     /// Runs the tool in this folder with the given arguments and standard input; its standard output goes to a file.
     Outcome run(const std::vector<std::string>& arguments, const std::string& output = ".out",
                 const std::string& input = "") const;
+    /// Runs another program in this folder in the same way.
+    Outcome runProgram(const std::string& program, const std::vector<std::string>& arguments,
+                       const std::string& output = ".out", const std::string& input = "") const;
 
 private:
     std::filesystem::path path_;

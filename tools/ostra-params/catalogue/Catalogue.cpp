@@ -3,6 +3,7 @@
 #include "catalogue/Compact.h"
 #include "catalogue/Describe.h"
 #include "catalogue/Input.h"
+#include "catalogue/Loss.h"
 #include "output/Progress.h"
 
 #include <algorithm>
@@ -29,6 +30,9 @@ Catalogue::Catalogue(const std::vector<std::string>& paths) {
 
 void Catalogue::collect() {
     objects_ = describeAll(loader_.engine());
+    if (loader_.isResolved()) {
+        mustHaveAll(objects_, loader_.entries());
+    }
     for (std::size_t place = 0; place < objects_.size(); ++place) {
         index_.emplace(objects_[place].typeId, place);
     }

@@ -23,6 +23,7 @@ class Catalogue {
 public:
     /// Reads files, folders and standard input.
     /// @throws InputError if a path cannot be read or is no schema file, or a folder holds none.
+    /// @throws Loss if a sound schema is not among the objects.
     explicit Catalogue(const std::vector<std::string>& paths);
 
     /// Returns the objects by section, then by typeid.

@@ -32,6 +32,7 @@ void Loader::resolve() {
             refuse(entry.number, entry.source, message, Stage::resolution);
         }
         engine_.resolveSchemas();
+        isResolved_ = true;
     } catch (const std::logic_error& fault) { // of the units engine, which may have faults of its own
         faults_.emplace(schemas_, Fault{std::nullopt, fault.what(), {}, Stage::resolution});
     }

@@ -20,6 +20,8 @@ public:
     void add(const Source& source);
     /// Resolves what was added and is sound. Nothing is added afterwards.
     void resolve();
+    /// Tells whether each sound schema has become an object; false as well when the units library refuses them all.
+    bool isResolved() const { return isResolved_; }
 
     Parameters::ParametersEngine& engine() { return engine_; }
     const Parameters::ParametersEngine& engine() const { return engine_; }
@@ -37,6 +39,7 @@ private:
     Hints hints_{entries_};
     std::multimap<std::size_t, Fault> faults_; // by the number of the schema
     std::size_t schemas_ = 0;
+    bool isResolved_ = false;
 };
 
 } // namespace Tool
