@@ -1,7 +1,7 @@
 #include "catalogue/Catalogue.h"
 
-#include "catalogue/Generator.h"
 #include "catalogue/Random.h"
+#include "catalogue/Recipes.h"
 
 #include <stdexcept>
 #include <utility>
@@ -14,8 +14,7 @@ Catalogue makeCatalogue(std::size_t size, std::uint64_t seed) {
                                     " schemas.");
     }
     Random random(seed);
-    Generator generator(Counts(size), random);
-    Catalogue catalogue = generator.makeAll();
+    Catalogue catalogue = makeKindByKind(size, random);
     for (std::size_t last = catalogue.size() - 1; last > 0; --last) {
         std::swap(catalogue[last], catalogue[random.below(static_cast<std::uint32_t>(last + 1))]);
     }

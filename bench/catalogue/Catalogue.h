@@ -1,42 +1,21 @@
 #pragma once
 
+#include <parameters/KindInfo.h>
+
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace Bench {
 
-/// What a schema of a catalogue describes: one of the twenty kinds, or a unit.
-enum class Kind {
-    unit,
-    discipline,
-    domain,
-    group,
-    enumeration,
-    floatRange,
-    intRange,
-    stringRange,
-    boolSpec,
-    generalSpec,
-    intSpec,
-    stringSpec,
-    referenceSpec,
-    measurableSpec,
-    category,
-    boolParameter,
-    enumerationParameter,
-    referenceParameter,
-    stringParameter,
-    intParameter,
-    measurableParameter
-};
-inline constexpr std::size_t kindCount = 21;
-
 struct Schema {
-    Kind kind;
+    std::optional<Parameters::KindInfo> kind; ///< Nothing for units.
     std::string typeId;
     std::string text;
+
+    bool isUnit() const { return !kind; }
 };
 
 using Catalogue = std::vector<Schema>;

@@ -1,143 +1,139 @@
 #include "catalogue/Generator.h"
 
-#include <algorithm>
-#include <utility>
+#include <vector>
 
 namespace Bench {
 
 namespace {
 
-struct Share {
-    Kind kind;
-    std::size_t perTenThousand;
-    std::uint32_t atLeast;
-    std::string_view base;
-};
-
-/// What remains is measurable parameters.
-constexpr std::array<Share, kindCount> shares = {{
-    {Kind::unit, 250, 1, "norvex.unit:unit-1.0.0"},
-    {Kind::discipline, 15, 1, "norvex.spec:discipline-1.0.0"},
-    {Kind::domain, 5, 1, "norvex.talmo.category:domain-1.0.0"},
-    {Kind::group, 30, 1, "norvex.parameter:group-1.0.0"},
-    {Kind::enumeration, 100, 1, "Enum"},
-    {Kind::floatRange, 80, 1, "norvex.range:range.float64.bounded.static-1.0.0"},
-    {Kind::intRange, 60, 1, "norvex.range:range.int64.bounded.static-1.0.0"},
-    {Kind::stringRange, 60, 3, "norvex.range:range.string-1.0.0"},
-    {Kind::boolSpec, 20, 1, "norvex.spec:spec.bool-1.0.0"},
-    {Kind::generalSpec, 20, 1, "norvex.spec:spec-1.0.0"},
-    {Kind::intSpec, 20, 1, "norvex.spec:spec.int64-2.0.0"},
-    {Kind::stringSpec, 20, 1, "norvex.spec:spec.string-2.0.0"},
-    {Kind::referenceSpec, 20, 1, "norvex.spec:spec.reference-1.0.0"},
-    {Kind::measurableSpec, 200, 1, "norvex.spec:spec.measurable-2.0.0"},
-    {Kind::category, 100, 2, "norvex.talmo.category:majorCategory-1.0.0"},
-    {Kind::boolParameter, 640, 1, "norvex.parameter:parameter.bool-2.0.0"},
-    {Kind::enumerationParameter, 640, 1, "norvex.parameter:parameter-2.0.0"},
-    {Kind::referenceParameter, 640, 1, "norvex.parameter:parameter.reference-2.0.0"},
-    {Kind::stringParameter, 1290, 1, "norvex.parameter:parameter.string-3.0.0"},
-    {Kind::intParameter, 1930, 1, "norvex.parameter:parameter.int64-3.0.0"},
-    {Kind::measurableParameter, 0, 0, "norvex.parameter:parameter.measurable-3.0.0"},
-}};
-
-constexpr std::string_view setRangeBase = "norvex.range:range.string.set.static-1.0.0";
-constexpr std::string_view regexRangeBase = "norvex.range:range.string.regex-1.0.0";
-
-std::string_view baseOf(Kind kind) { return shares[static_cast<std::size_t>(kind)].base; }
-
-/// Categories alternate: major ones have even numbers.
-bool isMajor(std::size_t index) { return index % 2 == 0; }
-
-/// The three designs of string ranges take turns.
-std::string_view stringRangeBase(std::size_t index) {
-    constexpr std::array bases = {setRangeBase, regexRangeBase, std::string_view("norvex.range:range.string-1.0.0")};
-    return bases.at(index % bases.size());
+std::string object(std::string_view members) {
+    std::string json = R"(,"value":{)";
+    json += members;
+    return json += '}';
 }
 
 } // namespace
 
-Counts::Counts(std::size_t size) {
-    auto rest = static_cast<std::uint32_t>(size);
-    for (const Share& share : shares) {
-        const auto count = std::max(static_cast<std::uint32_t>(size * share.perTenThousand / 10'000), share.atLeast);
-        counts_.at(static_cast<std::size_t>(share.kind)) = count;
-        rest -= count;
-    }
-    counts_.at(static_cast<std::size_t>(Kind::measurableParameter)) = rest;
+std::string inMinor(std::string_view identifier, int minor) {
+    const std::size_t major = identifier.find('.', identifier.rfind('-'));
+    return std::string(identifier.substr(0, major + 1)) + std::to_string(minor) + ".0";
 }
 
-Catalogue Generator::makeAll() {
-    Catalogue catalogue;
-    for (const Share& share : shares) {
-        for (std::size_t index = 0; index < counts_[share.kind]; ++index) {
-            Name name = nameOf(share.kind, index);
-            std::string text = textOf(share.kind, index, name);
-            catalogue.push_back({share.kind, std::move(name.typeId), std::move(text)});
-        }
+void Generator::addDiscipline(SchemaText& schema) {
+    if (percent(80)) {
+        schema.reference("discipline",
+                         percent(10) ? inMinor(baseOf<Kinds::Discipline>, 3) : oneOf<Kinds::Discipline>());
     }
-    return catalogue;
 }
 
-std::string Generator::textOf(Kind kind, std::size_t index, const Name& name) {
-    if (kind >= Kind::boolParameter) {
-        return parameter(kind, name);
+void Generator::addApplicableUnits(SchemaText& schema) {
+    std::vector<std::string> units;
+    for (std::uint32_t count = 1 + random_.below(8); count > 0; --count) {
+        units.push_back(oneOf<Unit>());
     }
-    if (kind == Kind::category) {
-        SchemaText schema(name.typeId, isMajor(index) ? baseOf(kind) : "norvex.talmo.category:subCategory-1.0.0");
-        schema.text("name", name.display);
-        addCategoryDetails(schema, isMajor(index));
-        return schema.finish();
+    schema.references("applicableUnits", units).reference("storageUnit", units.front());
+}
+
+void Generator::addParameterCore(SchemaText& schema, const Name& name) {
+    schema.text("name", name.display);
+    if (percent(55)) {
+        schema.text("description", sentence());
     }
-    if (kind == Kind::stringRange) {
-        const std::string_view base = stringRangeBase(index);
-        SchemaText schema(name.typeId, base);
-        if (base == setRangeBase) {
-            schema.value("allowedValues", allowedValues());
-        } else if (base == regexRangeBase) {
-            schema.text("regex", regex());
-        }
-        return schema.finish();
+    if (percent(35)) {
+        schema.text("sampleText", percent(50) ? "12.5" : "Level 1 \xE2\x86\x92 Room 1.014");
     }
-    SchemaText schema(name.typeId, baseOf(kind));
-    switch (kind) {
-    case Kind::enumeration:
-        schema.properties(choices());
-        break;
-    case Kind::floatRange:
-    case Kind::intRange:
-        addBounds(schema, kind);
-        break;
-    case Kind::unit:
-        schema.text("name", name.display)
-            .text("symbol", random_.percent(20) ? "\xC2\xB0"
-                                                  "C"
-                                                : "m/s");
-        break;
+    if (percent(85)) {
+        schema.reference("group", percent(5) ? inMinor(baseOf<Kinds::Group>, 2) : oneOf<Kinds::Group>());
+    }
+    if (percent(30)) {
+        schema.value("readOnly", percent(50) ? "true" : "false");
+    }
+}
+
+void Generator::addNumericRange(SchemaText& schema, const Stock& ranges, std::string_view base, bool isFloat) {
+    if (percent(50)) {
+        const std::string value = percent(30) ? object("") : "";
+        schema.reference("range", oneOf(ranges, 1), value);
+    } else if (percent(70)) {
+        std::string members = R"("fromBottom":true,"bottomBoundary":)" + boundary(isFloat);
+        members += percent(60) ? R"(,"fromTop":true,"topBoundary":)" + boundary(isFloat) : R"(,"fromTop":false)";
+        schema.reference("range", base, object(members));
+    }
+}
+
+void Generator::addStringRange(SchemaText& schema) {
+    constexpr auto bases = Kinds::StringRange::info.bases(); // of any text, of a set, of a regular expression
+    if (percent(40)) {
+        const std::string value = percent(30) ? object("") : "";
+        schema.reference("range", oneOf<Kinds::StringRange>(), value);
+    } else if (percent(40)) {
+        schema.reference("range", bases[1], object(R"("allowedValues":)" + allowedValues()));
+    } else if (percent(60)) {
+        schema.reference("range", bases[2], object(R"("regex":)" + quoted(regex())));
+    } else if (percent(60)) {
+        schema.reference("range", bases[0], object(""));
+    }
+}
+
+void Generator::addBounds(SchemaText& schema, bool isFloat) {
+    const bool fromBottom = percent(80);
+    schema.value("fromBottom", fromBottom ? "true" : "false");
+    if (fromBottom) {
+        schema.value("bottomBoundary", boundary(isFloat));
+    }
+    const bool fromTop = percent(70);
+    schema.value("fromTop", fromTop ? "true" : "false");
+    if (fromTop) {
+        schema.value("topBoundary", boundary(isFloat));
+    }
+}
+
+std::string Generator::oneOf(const Stock& stock, std::uint32_t step) {
+    return nameOf(stock.vocabulary, step * random_.below(stock.count / step)).typeId;
+}
+
+std::string Generator::boundary(bool isFloat) {
+    if (percent(1)) {
+        return isFloat ? "1.7976931348623157e+308" : "-9223372036854775808";
+    }
+    std::string number = percent(25) ? "-" : "";
+    number += std::to_string(random_.below(2000));
+    if (isFloat && percent(60)) {
+        number += '.' + std::to_string(random_.below(1000));
+    }
+    return number;
+}
+
+std::string Generator::allowedValues() {
+    std::string list = R"(["S235","Flat Oval","R-410A")";
+    for (std::uint32_t number = 1 + random_.below(5); number > 0; --number) {
+        list += R"(,"EI )" + std::to_string(30 * number) + '"';
+    }
+    return list += ']';
+}
+
+std::string Generator::choices() {
+    std::string list = R"({"id":"none","value":-1})";
+    for (std::uint32_t number = 2 + random_.below(6); number > 0; --number) {
+        list += R"(,{"id":"class )" + std::to_string(number) + R"(","value":)" + std::to_string(10 * number) + '}';
+    }
+    return list;
+}
+
+std::string Generator::regex() { return "^[A-Z]{" + std::to_string(1 + random_.below(5)) + R"(}\\d*$)"; }
+
+std::string Generator::sentence() {
+    switch (random_.below(4)) {
+    case 0:
+        return "";
+    case 1:
+        return R"(Value that the equipment is designed for; \"as built\" values go elsewhere.)";
+    case 2:
+        return "Taken from the manufacturer's data sheet\\n(see schedule \xC2\xA7 4." +
+               std::to_string(random_.below(30)) + "). Kept up to date by the discipline in charge.";
     default:
-        schema.text("name", name.display);
-        addSpecDetails(schema, kind);
+        return "Shown in schedules and on drawings at scale 1:50 and above.";
     }
-    return schema.finish();
-}
-
-std::string Generator::parameter(Kind kind, const Name& name) {
-    const bool isRanged = kind == Kind::referenceParameter && random_.percent(50);
-    SchemaText schema(name.typeId, isRanged ? "norvex.parameter:parameter.reference.ranged-2.0.0" : baseOf(kind));
-    addParameterCore(schema, name);
-    if (kind == Kind::referenceParameter) {
-        addReferenceSpec(schema);
-    } else {
-        addSpec(schema, kind);
-    }
-    if (kind == Kind::enumerationParameter) {
-        schema.properties(R"({"id":"value","typedValue":{"typeid":)" + quoted(oneOf(Kind::enumeration)) + "}}");
-    } else if (kind == Kind::measurableParameter) {
-        addNumericRange(schema, Kind::floatRange, baseOf(Kind::floatRange));
-    } else if (kind == Kind::intParameter) {
-        addNumericRange(schema, Kind::intRange, baseOf(Kind::intRange));
-    } else if (kind == Kind::stringParameter) {
-        addStringRange(schema);
-    }
-    return schema.finish();
 }
 
 } // namespace Bench

@@ -2,6 +2,8 @@
 
 #include "catalogue/Random.h"
 
+#include <parameters/Kinds.h>
+
 #include <utility>
 
 namespace Bench {
@@ -24,7 +26,7 @@ const Catalogue& catalogueOf(std::size_t size) {
 
 void registerEach(const Catalogue& catalogue, Parameters::ParametersEngine& engine) {
     for (const Schema& schema : catalogue) {
-        if (schema.kind == Kind::unit) {
+        if (schema.isUnit()) {
             engine.getUnitsEngine().registerSchema(schema.text);
         } else {
             engine.registerSchema(schema.text);
@@ -45,7 +47,7 @@ const std::vector<std::string>& measurableParameters(const Catalogue& catalogue)
     return once(catalogue, [](const Catalogue& texts) {
         std::vector<std::string> typeIds;
         for (const Schema& schema : texts) {
-            if (schema.kind == Kind::measurableParameter) {
+            if (schema.kind == Parameters::Kinds::MeasurableParameter::info) {
                 typeIds.push_back(schema.typeId);
             }
         }

@@ -1,7 +1,10 @@
 #include "harness/Fixtures.h"
 #include "programs/Groups.h"
 
+#include <parameters/Kinds.h>
+
 #include <optional>
+#include <string>
 
 namespace Bench {
 
@@ -20,9 +23,9 @@ void copyEngine(const Catalogue& catalogue, Measurement& measurement) {
 
 /// A parameter that names nothing but built-in objects.
 std::string newSchema(std::size_t number) {
-    return R"({"typeid":"acme.hvac:parameter.later.isInsulated)" + std::to_string(number) +
-           R"(-1.0.0","inherits":["norvex.parameter:parameter.bool-2.0.0"],"constants":[{"id":"name","value":"Later"},)" +
-           R"({"id":"description","value":"Added to what is there."}]})";
+    return R"({"typeid":"acme.hvac:parameter.later.isInsulated)" + std::to_string(number) + R"(-1.0.0","inherits":[")" +
+           std::string(Parameters::Kinds::BoolParameter::info.bases()[0]) +
+           R"("],"constants":[{"id":"name","value":"Later"},{"id":"description","value":"Added to what is there."}]})";
 }
 
 const std::vector<std::string>& newSchemas(const Catalogue& catalogue) {

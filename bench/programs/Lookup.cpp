@@ -1,6 +1,8 @@
 #include "harness/Fixtures.h"
 #include "programs/Groups.h"
 
+#include <parameters/Kinds.h>
+
 #include <benchmark/benchmark.h>
 
 #include <memory>
@@ -22,7 +24,7 @@ const Handles& handles(const Catalogue& catalogue) {
         const ParametersEngine& engine = resolvedEngine(schemas);
         Handles result;
         for (const Schema& schema : schemas) {
-            if (schema.kind == Kind::measurableParameter) {
+            if (schema.kind == Parameters::Kinds::MeasurableParameter::info) {
                 result.emplace(schema.typeId, std::make_shared<const MeasurableParameter>(
                                                   engine.getMeasurableParameter(schema.typeId)));
             }

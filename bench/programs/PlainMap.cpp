@@ -2,6 +2,8 @@
 
 #include "harness/Fixtures.h"
 
+#include <parameters/Kinds.h>
+
 namespace Bench {
 
 namespace {
@@ -24,7 +26,7 @@ const PlainMap& plainMap(const Catalogue& catalogue) {
         const Parameters::ParametersEngine& engine = resolvedEngine(schemas);
         PlainMap map;
         for (const Schema& schema : schemas) {
-            if (schema.kind == Kind::measurableParameter) {
+            if (schema.kind == Parameters::Kinds::MeasurableParameter::info) {
                 map.emplace(schema.typeId, std::make_shared<const PlainParameter>(
                                                plain(engine.getMeasurableParameter(schema.typeId))));
             }

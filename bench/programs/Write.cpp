@@ -25,7 +25,7 @@ const std::vector<std::string>& writable(const Catalogue& catalogue) {
     return once(catalogue, [](const Catalogue& schemas) {
         std::vector<std::string> typeIds;
         for (const Schema& schema : schemas) {
-            if (schema.kind != Kind::unit) {
+            if (!schema.isUnit()) {
                 typeIds.push_back(schema.typeId);
             }
         }

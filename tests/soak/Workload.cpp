@@ -101,7 +101,7 @@ bool Workload::registerText() {
     const Schema& added = schema();
     const bool taken = target.isRegistered(added.typeId);
     const bool accepted = accepts([&] { target.registerSchema(added.text); });
-    require(accepted == (!taken && added.kind != Kind::unit), "a text is registered when its typeid is free");
+    require(accepted == (!taken && !added.isUnit()), "a text is registered when its typeid is free");
     return accepted;
 }
 
@@ -111,8 +111,8 @@ bool Workload::registerTexts() {
     for (int i = 0; i < 100; ++i) {
         const Schema& added = schema();
         all = accepts([&] {
-                  added.kind == Kind::unit ? static_cast<void>(target.getUnitsEngine().registerSchema(added.text))
-                                           : static_cast<void>(target.registerSchema(added.text));
+                  added.isUnit() ? static_cast<void>(target.getUnitsEngine().registerSchema(added.text))
+                                 : static_cast<void>(target.registerSchema(added.text));
               }) &&
               all;
     }

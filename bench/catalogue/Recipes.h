@@ -1,0 +1,13 @@
+#pragma once
+
+#include "catalogue/Catalogue.h"
+#include "catalogue/Random.h"
+
+#include <cstddef>
+
+namespace Bench {
+
+/// Makes the schemas of a catalogue of so many, kind by kind.
+Catalogue makeKindByKind(std::size_t size, Random& random);
+
+} // namespace Bench
