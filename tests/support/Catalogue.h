@@ -1,7 +1,8 @@
 #pragma once
 
+#include <parameters/Kinds.h>
+
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <filesystem>
 #include <fstream>
@@ -9,42 +10,32 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Support {
 
-/// A kind of object as a catalogue and the tool's table of counts call it, and the bases of its schemas.
+/// A kind of object, or units, as the tool's table of counts calls them, and what is in the bases of their schemas.
 struct CatalogueKind {
-    const char* name;
+    std::string name;
     std::vector<std::string> bases;
 };
 
-inline const std::array catalogueKinds{
-    CatalogueKind{"units", {"norvex.unit:unit-1."}},
-    CatalogueKind{"enumerations", {"Enum"}},
-    CatalogueKind{"floating-point ranges", {"norvex.range:range.float64.bounded.static-1."}},
-    CatalogueKind{"integer ranges", {"norvex.range:range.int64.bounded.static-1."}},
-    CatalogueKind{"string ranges",
-                  {"norvex.range:range.string-1.", "norvex.range:range.string.set.static-1.",
-                   "norvex.range:range.string.regex-1."}},
-    CatalogueKind{"disciplines", {"norvex.spec:discipline-1."}},
-    CatalogueKind{"Boolean specs", {"norvex.spec:spec.bool-1."}},
-    CatalogueKind{"general specs", {"norvex.spec:spec-1."}},
-    CatalogueKind{"integer specs", {"norvex.spec:spec.int64-2."}},
-    CatalogueKind{"measurable specs", {"norvex.spec:spec.measurable-2."}},
-    CatalogueKind{"reference specs", {"norvex.spec:spec.reference-1."}},
-    CatalogueKind{"string specs", {"norvex.spec:spec.string-2."}},
-    CatalogueKind{"groups", {"norvex.parameter:group-1."}},
-    CatalogueKind{"enumeration parameters", {"norvex.parameter:parameter-2."}},
-    CatalogueKind{"Boolean parameters", {"norvex.parameter:parameter.bool-2."}},
-    CatalogueKind{"integer parameters", {"norvex.parameter:parameter.int64-3."}},
-    CatalogueKind{"measurable parameters", {"norvex.parameter:parameter.measurable-3."}},
-    CatalogueKind{"reference parameters",
-                  {"norvex.parameter:parameter.reference-2.", "norvex.parameter:parameter.reference.ranged-2."}},
-    CatalogueKind{"string parameters", {"norvex.parameter:parameter.string-3."}},
-    CatalogueKind{"domains", {"norvex.talmo.category:domain-1."}},
-    CatalogueKind{"categories", {"norvex.talmo.category:majorCategory-1.", "norvex.talmo.category:subCategory-1."}},
-};
+/// Returns the library's kinds and units.
+inline std::vector<CatalogueKind> makeCatalogueKinds() {
+    std::vector<CatalogueKind> kinds{{"units", {"norvex.unit:unit-1."}}};
+    Parameters::forEachKind([&](auto kind) {
+        CatalogueKind& made = kinds.emplace_back(CatalogueKind{std::string(kind.info.plural()), {}});
+        for (const std::string_view base : kind.info.bases()) {
+            const std::size_t version = base.find('-');
+            const bool hasVersion = version != std::string_view::npos;
+            made.bases.emplace_back(hasVersion ? base.substr(0, base.find('.', version) + 1) : base); // any minor one
+        }
+    });
+    return kinds;
+}
+
+inline const std::vector<CatalogueKind> catalogueKinds = makeCatalogueKinds();
 
 /// Returns the schema texts of a folder: each .json file, and each line of each .ndjson file, in the order of the
 /// paths.
