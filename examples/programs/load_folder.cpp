@@ -2,6 +2,7 @@
 
 #include "Files.h"
 
+#include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>
 
 #include <cstddef>
@@ -50,9 +51,11 @@ bool resolve(ParametersEngine& engine) {
 }
 
 std::size_t countParameters(const ParametersEngine& engine) {
-    return engine.getAllBoolParameters().size() + engine.getAllEnumerationParameters().size() +
-           engine.getAllIntParameters().size() + engine.getAllMeasurableParameters().size() +
-           engine.getAllReferenceParameters().size() + engine.getAllStringParameters().size();
+    //! [kinds]
+    std::size_t count = 0;
+    forEachKind(Kinds::Parameters{}, [&](auto kind) { count += kind.getAll(engine).size(); });
+    //! [kinds]
+    return count;
 }
 
 } // namespace

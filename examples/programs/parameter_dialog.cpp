@@ -4,6 +4,7 @@
 
 #include "Files.h"
 
+#include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>
 
 #include <algorithm>
@@ -11,6 +12,7 @@
 #include <functional>
 #include <iostream>
 #include <map>
+#include <optional>
 #include <regex>
 #include <sstream>
 #include <string>
@@ -19,13 +21,18 @@ using namespace Parameters;
 
 namespace {
 
-/// One row: how the parameter is shown, and what is wrong with a text that is entered ("" if nothing is).
+/// What may be entered for a parameter: a hint, and what is wrong with a text ("" if nothing is).
+struct Entry {
+    std::string hint;
+    std::function<std::string(const std::string&)> complaintAbout;
+};
+
+/// One row: how the parameter is shown, and what may be entered.
 struct Row {
     std::string group;
     std::string name;
-    std::string hint;
     bool readOnly;
-    std::function<std::string(const std::string&)> complaintAbout;
+    Entry entry;
 };
 
 //! [range]
@@ -80,39 +87,50 @@ std::string hintOf(const MeasurableSpec& spec) {
     return hint;
 }
 
-template <class Parameter, class Complaint>
-void add(std::map<std::string, Row>& rows, const Parameter& parameter, const std::string& hint, Complaint complaint) {
-    const ParameterCore core = parameter.getCore();
-    rows[core.getTypeId()] = {core.getGroup().getName(), core.getName(), hint, core.isReadOnly(), complaint};
+// One overload for each kind of parameter. Values are cheap to copy and never change, so that an entry keeps the range
+// that it needs.
+
+std::optional<Entry> entryOf(const IntParameter& parameter) {
+    return Entry{"whole number",
+                 [range = parameter.getRange()](const std::string& text) { return complaintAbout(range, text, ""); }};
 }
 
-/// Values are cheap to copy and never change, so that a row keeps the range that it needs. References are picked from
-/// the model, not entered, and have no row.
+std::optional<Entry> entryOf(const MeasurableParameter& parameter) {
+    const MeasurableSpec spec = parameter.getSpec();
+    return Entry{hintOf(spec), [spec, range = parameter.getRange()](const std::string& text) {
+                     return complaintAbout(range, text, suffixOf(spec.getStorageUnit()));
+                 }};
+}
+
+std::optional<Entry> entryOf(const StringParameter& parameter) {
+    return Entry{"text",
+                 [range = parameter.getRange()](const std::string& text) { return complaintAbout(range, text); }};
+}
+
+std::optional<Entry> entryOf(const EnumerationParameter& parameter) {
+    return Entry{"choice", [enumeration = parameter.getEnumeration()](const std::string& text) {
+                     return complaintAbout(enumeration, text);
+                 }};
+}
+
+std::optional<Entry> entryOf(const BoolParameter& parameter) {
+    return Entry{parameter.getSpec().getCore().getName(),
+                 [](const std::string& text) { return text == "yes" || text == "no" ? "" : "yes or no"; }};
+}
+
+/// References are picked from the model, not entered.
+std::optional<Entry> entryOf(const ReferenceParameter&) { return std::nullopt; }
+
 std::map<std::string, Row> rowsOf(const ParametersEngine& engine) {
     std::map<std::string, Row> rows;
-    for (const auto& [typeId, parameter] : engine.getAllIntParameters()) {
-        add(rows, parameter, "whole number",
-            [range = parameter.getRange()](const std::string& text) { return complaintAbout(range, text, ""); });
-    }
-    for (const auto& [typeId, parameter] : engine.getAllMeasurableParameters()) {
-        const MeasurableSpec spec = parameter.getSpec();
-        add(rows, parameter, hintOf(spec), [spec, range = parameter.getRange()](const std::string& text) {
-            return complaintAbout(range, text, suffixOf(spec.getStorageUnit()));
-        });
-    }
-    for (const auto& [typeId, parameter] : engine.getAllStringParameters()) {
-        add(rows, parameter, "text",
-            [range = parameter.getRange()](const std::string& text) { return complaintAbout(range, text); });
-    }
-    for (const auto& [typeId, parameter] : engine.getAllEnumerationParameters()) {
-        add(rows, parameter, "choice", [enumeration = parameter.getEnumeration()](const std::string& text) {
-            return complaintAbout(enumeration, text);
-        });
-    }
-    for (const auto& [typeId, parameter] : engine.getAllBoolParameters()) {
-        add(rows, parameter, parameter.getSpec().getCore().getName(),
-            [](const std::string& text) { return text == "yes" || text == "no" ? "" : "yes or no"; });
-    }
+    forEachKind(Kinds::Parameters{}, [&](auto kind) {
+        for (const auto& [typeId, parameter] : kind.getAll(engine)) {
+            const ParameterCore core = parameter.getCore();
+            if (const auto entry = entryOf(parameter)) {
+                rows[typeId] = {core.getGroup().getName(), core.getName(), core.isReadOnly(), *entry};
+            }
+        }
+    });
     return rows;
 }
 
@@ -127,7 +145,8 @@ void list(const std::map<std::string, Row>& rows) {
             heading = group;
             std::cout << heading << '\n';
         }
-        std::cout << "  " << row->name << " (" << row->hint << ")" << (row->readOnly ? ", read-only" : "") << '\n';
+        std::cout << "  " << row->name << " (" << row->entry.hint << ")" << (row->readOnly ? ", read-only" : "")
+                  << '\n';
     }
 }
 
@@ -138,7 +157,7 @@ int run(const ParametersEngine& engine, int argc, char** argv) {
         return 0;
     }
     const Row& row = rows.at(argv[2]);
-    const std::string complaint = row.readOnly ? "read-only" : row.complaintAbout(argv[3]);
+    const std::string complaint = row.readOnly ? "read-only" : row.entry.complaintAbout(argv[3]);
     std::cout << row.name << ": " << (complaint.empty() ? "accepted" : complaint) << '\n';
     return complaint.empty() ? 0 : 1;
 }

@@ -2,11 +2,11 @@
 
 #include "Files.h"
 
+#include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>
 
 #include <exception>
 #include <iostream>
-#include <map>
 #include <string>
 
 using namespace Parameters;
@@ -63,15 +63,12 @@ std::string valuesOf(const ReferenceParameter& parameter) {
 }
 
 template <class Parameter>
-void show(const std::string& kind, const std::map<std::string, Parameter>& parameters) {
-    for (const auto& [typeId, parameter] : parameters) {
-        std::cout << kind << " parameter " << typeId << '\n'
-                  << "  name    " << parameter.getCore().getName() << '\n'
-                  << "  group   " << parameter.getCore().getGroup().getName() << '\n'
-                  << "  spec    " << parameter.getSpec().getCore().getName() << '\n'
-                  << "  values  " << valuesOf(parameter) << '\n';
-        return;
-    }
+void show(KindInfo kind, const Parameter& parameter) {
+    std::cout << kind.word() << ' ' << parameter.getCore().getTypeId() << '\n'
+              << "  name    " << parameter.getCore().getName() << '\n'
+              << "  group   " << parameter.getCore().getGroup().getName() << '\n'
+              << "  spec    " << parameter.getSpec().getCore().getName() << '\n'
+              << "  values  " << valuesOf(parameter) << '\n';
 }
 
 } // namespace
@@ -84,12 +81,12 @@ int main(int argc, char** argv) {
     try {
         ParametersEngine engine;
         engine.registerSchemas(textsIn(argv[1])); // units go to the units engine by themselves
-        show("Boolean", engine.getAllBoolParameters());
-        show("integer", engine.getAllIntParameters());
-        show("string", engine.getAllStringParameters());
-        show("enumeration", engine.getAllEnumerationParameters());
-        show("reference", engine.getAllReferenceParameters());
-        show("measurable", engine.getAllMeasurableParameters());
+        forEachKind(Kinds::Parameters{}, [&](auto kind) {
+            const auto parameters = kind.getAll(engine);
+            if (!parameters.empty()) {
+                show(kind.info, parameters.begin()->second);
+            }
+        });
     } catch (const std::exception& fault) {
         std::cerr << fault.what() << '\n';
         return 1;
