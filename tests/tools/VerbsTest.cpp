@@ -1,3 +1,4 @@
+#include "catalogue/Sections.h"
 #include "support/RowNames.h"
 #include "tools/Tool.h"
 
@@ -561,18 +562,23 @@ TEST(Completion, OffersVerbsOptionsAndValues) {
     const std::string completion = OSTRA_SOURCE_DIR "/tools/ostra-params/shell/ostra-params.bash";
     const auto complete = [&](const std::string& words, const std::string& last) {
         const Folder folder;
-        const std::string script = "source '" + completion + "'; COMP_WORDS=(" + words + "); COMP_CWORD=" + last +
-                                   "; _ostra_params; echo \"${COMPREPLY[*]}\" > '" +
+        const std::string script = "source '" + completion + "'; COMP_WORDS=('" OSTRA_PARAMS_TOOL "' " + words +
+                                   "); COMP_CWORD=" + last + "; _ostra_params; echo \"${COMPREPLY[*]}\" > '" +
                                    (folder.path() / "reply").string() + "'";
         folder.write("script", script);
         EXPECT_EQ(std::system(("bash '" + (folder.path() / "script").string() + "'").c_str()), 0);
         return folder.read("reply");
     };
-    EXPECT_EQ(complete("ostra-params ch", "1"), "check\n");
-    EXPECT_EQ(complete("ostra-params check --f", "2"), "--format\n");
-    EXPECT_EQ(complete("ostra-params check --format s", "3"), "sarif\n");
-    EXPECT_EQ(complete("ostra-params list --kind bool-", "3"), "bool-spec bool-parameter\n");
-    EXPECT_EQ(complete("ostra-params list --kind unit,dom", "3"), "unit,domain\n");
+    EXPECT_EQ(complete("ch", "1"), "check\n");
+    EXPECT_EQ(complete("check --f", "2"), "--format\n");
+    EXPECT_EQ(complete("check --format s", "3"), "sarif\n");
+    EXPECT_EQ(complete("list --kind bool-", "3"), "bool-spec bool-parameter\n");
+    EXPECT_EQ(complete("list --kind unit,dom", "3"), "unit,domain\n");
+    std::string kinds;
+    for (const Tool::Section& section : Tool::sections()) {
+        kinds += (kinds.empty() ? "" : " ") + std::string(section.id);
+    }
+    EXPECT_EQ(complete("list --kind ''", "3"), kinds + "\n");
 }
 
 } // namespace

@@ -11,16 +11,15 @@ _ostra_params() {
         [diff]="--json"
         [report]="--output"
     )
-    local kinds="unit enumeration float-range int-range string-range discipline bool-spec general-spec int-spec
-        measurable-spec reference-spec string-spec group enumeration-parameter bool-parameter int-parameter
-        measurable-parameter reference-parameter string-parameter domain category"
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
         mapfile -t COMPREPLY < <(compgen -W "${!options[*]} --help --version" -- "$current")
     elif [[ $previous == --format ]]; then
         mapfile -t COMPREPLY < <(compgen -W "text json sarif" -- "$current")
     elif [[ $previous == --kind ]]; then
-        local last=${current##*,}
+        local last=${current##*,} kinds="" help
+        help=$("${COMP_WORDS[0]}" list --help 2>/dev/null) # which knows all kinds
+        [[ $help =~ "all of them:"(.*)"--name" ]] && kinds=${BASH_REMATCH[1]//,/ }
         mapfile -t COMPREPLY < <(compgen -P "${current%"$last"}" -W "$kinds" -- "$last")
     elif [[ $previous == --name ]]; then
         return
