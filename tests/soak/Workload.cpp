@@ -1,5 +1,7 @@
 #include "soak/Workload.h"
 
+#include <parameters/Kinds.h>
+
 #include <stdexcept>
 #include <utility>
 
@@ -7,7 +9,6 @@ namespace Soak {
 
 namespace {
 
-using Bench::Kind;
 using Bench::Schema;
 using Parameters::ParametersEngine;
 
@@ -32,10 +33,11 @@ void require(bool holds, const char* what) {
     }
 }
 
-/// Returns how many objects there are of the kinds that are most numerous and of one that is named by others.
+/// Returns how many objects there are.
 std::size_t sizeOf(const ParametersEngine& engine) {
-    return engine.getAllMeasurableParameters().size() + engine.getAllBoolParameters().size() +
-           engine.getAllStringRanges().size() + engine.getAllDisciplines().size();
+    std::size_t size = 0;
+    Parameters::forEachKind([&](auto kind) { size += kind.getAll(engine).size(); });
+    return size;
 }
 
 } // namespace
