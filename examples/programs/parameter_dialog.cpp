@@ -87,8 +87,13 @@ std::string hintOf(const MeasurableSpec& spec) {
     return hint;
 }
 
-// One overload for each kind of parameter. Values are cheap to copy and never change, so that an entry keeps the range
-// that it needs.
+/// References are picked from the model, not entered; and a kind that the library has added since has no row either.
+template <class Parameter>
+std::optional<Entry> entryOf(const Parameter&) {
+    return std::nullopt;
+}
+
+// Values are cheap to copy and never change, so that an entry keeps the range that it needs.
 
 std::optional<Entry> entryOf(const IntParameter& parameter) {
     return Entry{"whole number",
@@ -117,9 +122,6 @@ std::optional<Entry> entryOf(const BoolParameter& parameter) {
     return Entry{parameter.getSpec().getCore().getName(),
                  [](const std::string& text) { return text == "yes" || text == "no" ? "" : "yes or no"; }};
 }
-
-/// References are picked from the model, not entered.
-std::optional<Entry> entryOf(const ReferenceParameter&) { return std::nullopt; }
 
 std::map<std::string, Row> rowsOf(const ParametersEngine& engine) {
     std::map<std::string, Row> rows;

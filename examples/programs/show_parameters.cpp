@@ -41,6 +41,12 @@ std::string describe(const StringRange& range) {
     return values;
 }
 
+/// For what the library may add one day.
+template <class Parameter>
+std::string valuesOf(const Parameter&) {
+    return "as the spec says";
+}
+
 std::string valuesOf(const BoolParameter&) { return "true or false"; }
 std::string valuesOf(const IntParameter& parameter) { return describe(parameter.getRange()); }
 std::string valuesOf(const StringParameter& parameter) { return describe(parameter.getRange()); }

@@ -390,6 +390,8 @@ inline constexpr std::size_t indexOf = Internal::indexIn<Kind>(All{});
 
 /// Calls visit(kind) with an object of the struct of each kind of a list, such as Kinds::Parameters, in its order:
 /// @snippet load_folder.cpp kinds
+/// A minor version may add kinds. An overload set that is called for each kind compiles with them when it has a
+/// template for those that it does not know; without one, the compiler names what is missing.
 template <class... Ks, class Visitor>
 constexpr void forEachKind(Kinds::List<Ks...>, Visitor&& visit) {
     (static_cast<void>(visit(Ks{})), ...);
