@@ -1,13 +1,12 @@
-#include "KindOperations.h"
 #include "support/Messages.h"
 #include "support/RowNames.h"
+#include "support/Samples.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <set>
 #include <string>
 
@@ -28,8 +27,6 @@ struct Hostile {
     const char* name;
     std::string typeId;
 };
-
-void PrintTo(const Hostile& row, std::ostream* out) { *out << row.name; }
 
 const Hostile hostile[] = {
     {"Nul", "\0"s},
@@ -54,16 +51,17 @@ struct HostileTypeId : testing::TestWithParam<Hostile> {
 };
 
 TEST_P(HostileTypeId, IsFoundInEveryKind) {
-    for (const KindOperations& kind : everyKind) {
+    Parameters::forEachKind([&](auto kind) {
+        using Kind = decltype(kind);
         engine = ParametersEngine();
-        kind.add(engine, "x", "1");
-        kind.add(engine, typeId, "2");
-        EXPECT_EQ(kind.contentOf(engine, typeId), "2") << kind.name;
-        EXPECT_EQ(kind.contentOf(engine, "x"), "1") << kind.name;
-        EXPECT_EQ(kind.typeIds(engine).size(), 2U) << kind.name;
-        EXPECT_TRUE(engine.isRegistered(typeId)) << kind.name;
-        EXPECT_FALSE(engine.isRegistered(typeId + '\0')) << kind.name;
-    }
+        Support::addSample<Kind>(engine, "x", "1");
+        Support::addSample<Kind>(engine, typeId, "2");
+        EXPECT_EQ(Support::contentIn<Kind>(engine, typeId), "2") << kind.info.id();
+        EXPECT_EQ(Support::contentIn<Kind>(engine, "x"), "1") << kind.info.id();
+        EXPECT_EQ(Support::typeIdsIn<Kind>(engine).size(), 2U) << kind.info.id();
+        EXPECT_TRUE(engine.isRegistered(typeId)) << kind.info.id();
+        EXPECT_FALSE(engine.isRegistered(typeId + '\0')) << kind.info.id();
+    });
 }
 
 TEST_P(HostileTypeId, ResolvesFromATextThroughReferences) {

@@ -1,4 +1,4 @@
-#include "KindOperations.h"
+#include "support/KindTypes.h"
 #include "support/Messages.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
@@ -7,15 +7,15 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <memory>
-#include <ostream>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
 
+namespace Kinds = Parameters::Kinds;
 using namespace std::string_literals;
 using Parameters::BoolParameter;
 using Parameters::BoolSpec;
@@ -26,97 +26,119 @@ using Parameters::Taxon;
 using Parameters::UnrecognizedIdentifierException;
 using Support::messageOf;
 
-struct LookupOfEachKind : testing::TestWithParam<KindOperations> {
-    std::string messageOfLookingUpX() const {
-        return messageOf<UnrecognizedIdentifierException>([&] { GetParam().contentOf(engine, "x"); });
+template <class Kind>
+struct LookupOfEachKind : testing::Test {
+    void add(const std::string& typeId, const std::string& content = "1") {
+        Support::addSample<Kind>(engine, typeId, content);
+    }
+    std::string contentOf(const std::string& typeId) const { return Support::contentIn<Kind>(engine, typeId); }
+    std::vector<std::string> typeIds() const { return Support::typeIdsIn<Kind>(engine); }
+
+    void expectNoX(const std::string& context = "") const {
+        EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { Kind::get(engine, "x"); }),
+                  "Could not find " + std::string(Kind::info.word()) + " with typeid x.")
+            << context;
     }
 
     ParametersEngine engine;
 };
 
-TEST_P(LookupOfEachKind, ListsNothingInAnEmptyEngine) { EXPECT_TRUE(GetParam().typeIds(engine).empty()); }
+TYPED_TEST_SUITE(LookupOfEachKind, Support::TestedKinds<Kinds::All>, Support::NameOfKind);
 
-TEST_P(LookupOfEachKind, SaysWhatItDoesNotFindInAnEmptyEngine) {
-    EXPECT_EQ(messageOfLookingUpX(), GetParam().unknownX);
+TYPED_TEST(LookupOfEachKind, FindsNothingInAnEmptyEngine) {
+    EXPECT_TRUE(TypeParam::getAll(this->engine).empty());
+    this->expectNoX();
 }
 
-TEST_P(LookupOfEachKind, FindsWhatWasRegistered) {
-    GetParam().add(engine, "x", "1");
-    GetParam().add(engine, "y", "2");
-    EXPECT_EQ(GetParam().contentOf(engine, "x"), "1");
-    EXPECT_EQ(GetParam().contentOf(engine, "y"), "2");
+TYPED_TEST(LookupOfEachKind, FindsWhatWasRegistered) {
+    this->add("x", "1");
+    this->add("y", "2");
+    EXPECT_EQ(this->contentOf("x"), "1");
+    EXPECT_EQ(this->contentOf("y"), "2");
 }
 
-TEST_P(LookupOfEachKind, TakesTheWholeTypeId) {
-    GetParam().add(engine, "xx", "1");
-    GetParam().add(engine, "X", "2");
-    EXPECT_EQ(messageOfLookingUpX(), GetParam().unknownX);
+TYPED_TEST(LookupOfEachKind, TakesTheWholeTypeId) {
+    this->add("xx", "1");
+    this->add("X", "2");
+    this->expectNoX();
 }
 
-TEST_P(LookupOfEachKind, DoesNotFindObjectsOfOtherKinds) {
-    for (const KindOperations& other : everyKind) {
-        if (other.name == std::string(GetParam().name)) {
-            continue;
+TYPED_TEST(LookupOfEachKind, DoesNotFindObjectsOfOtherKinds) {
+    Parameters::forEachKind([&](auto other) {
+        if (other.info != TypeParam::info) {
+            this->engine = ParametersEngine();
+            Support::addSample<decltype(other)>(this->engine, "x");
+            this->expectNoX(std::string(other.info.id()));
+            EXPECT_TRUE(this->typeIds().empty()) << other.info.id();
         }
-        engine = ParametersEngine();
-        other.add(engine, "x", "1");
-        EXPECT_EQ(messageOfLookingUpX(), GetParam().unknownX) << other.name;
-        EXPECT_TRUE(GetParam().typeIds(engine).empty()) << other.name;
-    }
+    });
 }
 
-TEST_P(LookupOfEachKind, DoesNotFindWhatIsPending) {
-    engine.registerSchema(GetParam().text("x"));
-    EXPECT_TRUE(engine.isRegistered("x"));
-    EXPECT_EQ(messageOfLookingUpX(), GetParam().unknownX);
-    EXPECT_TRUE(GetParam().typeIds(engine).empty());
+TYPED_TEST(LookupOfEachKind, DoesNotFindWhatIsPending) {
+    this->engine.registerSchema(Support::sampleText<TypeParam>("x"));
+    EXPECT_TRUE(this->engine.isRegistered("x"));
+    this->expectNoX();
+    EXPECT_TRUE(this->typeIds().empty());
 }
 
-TEST_P(LookupOfEachKind, FindsWhatWasResolved) {
-    engine.registerSchema(GetParam().text("x", "1"));
-    engine.resolveSchemas();
-    EXPECT_EQ(GetParam().contentOf(engine, "x"), "1");
-    EXPECT_EQ(GetParam().typeIds(engine), std::vector<std::string>{"x"});
+TYPED_TEST(LookupOfEachKind, FindsWhatWasResolved) {
+    Support::stock(this->engine, Support::mainShapeOf<TypeParam>());
+    this->engine.registerSchema(Support::sampleText<TypeParam>("x", "1"));
+    this->engine.resolveSchemas();
+    EXPECT_EQ(this->contentOf("x"), "1");
+    EXPECT_EQ(this->typeIds(), std::vector<std::string>{"x"});
 }
 
-TEST_P(LookupOfEachKind, ListsByTheBytesOfTheTypeIds) {
+TYPED_TEST(LookupOfEachKind, ListsByTheBytesOfTheTypeIds) {
     for (const std::string& typeId : {"b"s, "\xff"s, "ab"s, "a"s, "a\0"s, " "s, "\x7f"s, "B"s, "a\0b"s}) {
-        GetParam().add(engine, typeId, "1");
+        this->add(typeId);
     }
-    EXPECT_EQ(GetParam().typeIds(engine),
+    EXPECT_EQ(this->typeIds(),
               (std::vector<std::string>{" "s, "B"s, "a"s, "a\0"s, "a\0b"s, "ab"s, "b"s, "\x7f"s, "\xff"s}));
 }
 
-TEST_P(LookupOfEachKind, ListsByBytesHoweverOftenItIsAskedWhileTheListGrows) {
+TYPED_TEST(LookupOfEachKind, ListsByBytesHoweverOftenItIsAskedWhileTheListGrows) {
     std::set<std::string> expected;
     for (unsigned i = 0; i < 200; ++i) {
         const std::string typeId = "x" + std::to_string(i * 73 % 200);
-        GetParam().add(engine, typeId, "1");
+        this->add(typeId);
         expected.insert(typeId);
         if (i % 7 < 3) { // one at a time, then several
-            ASSERT_EQ(GetParam().typeIds(engine), std::vector<std::string>(expected.begin(), expected.end()));
+            ASSERT_EQ(this->typeIds(), std::vector<std::string>(expected.begin(), expected.end()));
         }
     }
 }
 
-TEST_P(LookupOfEachKind, ListsObjectsOfCodeAndOfSchemasTogether) {
-    GetParam().add(engine, "b", "1");
-    engine.registerSchemas({{"c", GetParam().text("c", "3")}});
-    GetParam().add(engine, "a", "2");
-    EXPECT_EQ(GetParam().typeIds(engine), (std::vector<std::string>{"a", "b", "c"}));
-    EXPECT_EQ(GetParam().contentOf(engine, "c"), "3");
+TYPED_TEST(LookupOfEachKind, ListsObjectsOfCodeAndOfSchemasTogether) {
+    this->add("b", "1");
+    this->engine.registerSchemas({{"c", Support::sampleText<TypeParam>("c", "3")}});
+    this->add("a", "2");
+    EXPECT_EQ(this->typeIds(), (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_EQ(this->contentOf("c"), "3");
 }
 
-TEST_P(LookupOfEachKind, FindsEachOfManyObjects) {
+TYPED_TEST(LookupOfEachKind, FindsEachOfManyObjects) {
     for (int i = 0; i < 2000; ++i) {
-        GetParam().add(engine, "object " + std::to_string(i), std::to_string(i));
+        this->add("object " + std::to_string(i), std::to_string(i));
     }
     for (int i = 0; i < 2000; ++i) {
-        ASSERT_EQ(GetParam().contentOf(engine, "object " + std::to_string(i)), std::to_string(i));
+        ASSERT_EQ(this->contentOf("object " + std::to_string(i)), std::to_string(i));
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, LookupOfEachKind, testing::ValuesIn(everyKind), Support::nameOfRow);
+TYPED_TEST(LookupOfEachKind, FindsABaseOnlyWhereThereIsABuiltInObject) {
+    for (const std::string_view base : TypeParam::info.bases()) {
+        const std::string typeId(base);
+        if (TypeParam::info.builtInName().empty()) {
+            EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { TypeParam::get(this->engine, typeId); }),
+                      "Could not find " + std::string(TypeParam::info.word()) + " with typeid " + typeId + ".");
+        } else {
+            EXPECT_EQ(TypeParam::typeIdOf(TypeParam::get(this->engine, typeId)), typeId);
+            EXPECT_EQ(this->contentOf(typeId), TypeParam::info.builtInName());
+        }
+    }
+    EXPECT_TRUE(this->typeIds().empty());
+}
 
 TEST(Lookup, ListsHoldTheObjectsThemselves) {
     ParametersEngine engine;
@@ -159,54 +181,47 @@ TEST(Lookup, WhatWasHandedOutOutlivesTheEngine) {
 
 struct BuiltIn {
     const char* name;
-    const char* kind;
+    Parameters::KindInfo kind;
     std::string typeId;
     const char* displayName;
 };
 
-void PrintTo(const BuiltIn& row, std::ostream* out) { *out << row.name; }
-
 const BuiltIn builtIns[] = {
-    {"Discipline", "Discipline", "norvex.spec:discipline-1.0.0", "Common"},
-    {"DisciplineOfOtherVersion", "Discipline", "norvex.spec:discipline-1.12.3", "Common"},
-    {"DisciplinePrefix", "Discipline", "norvex.spec:discipline-1.", "Common"},
-    {"DisciplineInALongerText", "Discipline", "a norvex.spec:discipline-1.0.0 of ours", "Common"},
-    {"DisciplineAmongOthers", "Discipline", "norvex.parameter:group-1.0.0 norvex.spec:discipline-1.0.0", "Common"},
-    {"Group", "Group", "norvex.parameter:group-1.0.0", "Other"},
-    {"GroupOfOtherVersion", "Group", "norvex.parameter:group-1.9", "Other"},
-    {"GroupPrefix", "Group", "norvex.parameter:group-1.", "Other"},
-    {"GroupInALongerText", "Group", "xnorvex.parameter:group-1.x", "Other"},
-    {"BoolSpec", "BoolSpec", "norvex.spec:spec.bool-1.0.0", "Yes/No"},
-    {"BoolSpecOfOtherVersion", "BoolSpec", "norvex.spec:spec.bool-1.4.0", "Yes/No"},
-    {"BoolSpecPrefix", "BoolSpec", "norvex.spec:spec.bool-1.", "Yes/No"},
-    {"IntSpec", "IntSpec", "norvex.spec:spec.int64-2.0.0", "Integer"},
-    {"IntSpecOfOtherVersion", "IntSpec", "norvex.spec:spec.int64-2.4.0", "Integer"},
-    {"IntSpecPrefix", "IntSpec", "norvex.spec:spec.int64-2.", "Integer"},
-    {"ReferenceSpec", "ReferenceSpec", "norvex.spec:spec.reference-1.0.0", "Reference"},
-    {"ReferenceSpecOfOtherVersion", "ReferenceSpec", "our norvex.spec:spec.reference-1.4.0", "Reference"},
-    {"ReferenceSpecPrefix", "ReferenceSpec", "norvex.spec:spec.reference-1.", "Reference"},
-    {"StringSpec", "StringSpec", "norvex.spec:spec.string-2.0.0", "Text"},
-    {"StringSpecOfOtherVersion", "StringSpec", "our norvex.spec:spec.string-2.4.0", "Text"},
-    {"StringSpecPrefix", "StringSpec", "norvex.spec:spec.string-2.", "Text"},
-    {"BoolSpecInALongerText", "BoolSpec", "our\0norvex.spec:spec.bool-1.0.0\0own"s, "Yes/No"},
+    {"Discipline", Kinds::Discipline::info, "norvex.spec:discipline-1.0.0", "Common"},
+    {"DisciplineOfOtherVersion", Kinds::Discipline::info, "norvex.spec:discipline-1.12.3", "Common"},
+    {"DisciplinePrefix", Kinds::Discipline::info, "norvex.spec:discipline-1.", "Common"},
+    {"DisciplineInALongerText", Kinds::Discipline::info, "a norvex.spec:discipline-1.0.0 of ours", "Common"},
+    {"DisciplineAmongOthers", Kinds::Discipline::info, "norvex.parameter:group-1.0.0 norvex.spec:discipline-1.0.0",
+     "Common"},
+    {"Group", Kinds::Group::info, "norvex.parameter:group-1.0.0", "Other"},
+    {"GroupOfOtherVersion", Kinds::Group::info, "norvex.parameter:group-1.9", "Other"},
+    {"GroupPrefix", Kinds::Group::info, "norvex.parameter:group-1.", "Other"},
+    {"GroupInALongerText", Kinds::Group::info, "xnorvex.parameter:group-1.x", "Other"},
+    {"BoolSpec", Kinds::BoolSpec::info, "norvex.spec:spec.bool-1.0.0", "Yes/No"},
+    {"BoolSpecOfOtherVersion", Kinds::BoolSpec::info, "norvex.spec:spec.bool-1.4.0", "Yes/No"},
+    {"BoolSpecPrefix", Kinds::BoolSpec::info, "norvex.spec:spec.bool-1.", "Yes/No"},
+    {"IntSpec", Kinds::IntSpec::info, "norvex.spec:spec.int64-2.0.0", "Integer"},
+    {"IntSpecOfOtherVersion", Kinds::IntSpec::info, "norvex.spec:spec.int64-2.4.0", "Integer"},
+    {"IntSpecPrefix", Kinds::IntSpec::info, "norvex.spec:spec.int64-2.", "Integer"},
+    {"ReferenceSpec", Kinds::ReferenceSpec::info, "norvex.spec:spec.reference-1.0.0", "Reference"},
+    {"ReferenceSpecOfOtherVersion", Kinds::ReferenceSpec::info, "our norvex.spec:spec.reference-1.4.0", "Reference"},
+    {"ReferenceSpecPrefix", Kinds::ReferenceSpec::info, "norvex.spec:spec.reference-1.", "Reference"},
+    {"StringSpec", Kinds::StringSpec::info, "norvex.spec:spec.string-2.0.0", "Text"},
+    {"StringSpecOfOtherVersion", Kinds::StringSpec::info, "our norvex.spec:spec.string-2.4.0", "Text"},
+    {"StringSpecPrefix", Kinds::StringSpec::info, "norvex.spec:spec.string-2.", "Text"},
+    {"BoolSpecInALongerText", Kinds::BoolSpec::info, "our\0norvex.spec:spec.bool-1.0.0\0own"s, "Yes/No"},
 };
 
-struct BuiltInObject : testing::TestWithParam<BuiltIn> {
-    static const KindOperations& kind() {
-        return *std::find_if(everyKind.begin(), everyKind.end(),
-                             [](const KindOperations& row) { return row.name == std::string(GetParam().kind); });
-    }
+class BuiltInObject : public testing::TestWithParam<BuiltIn> {};
 
-    ParametersEngine engine;
-};
-
-TEST_P(BuiltInObject, AnswersForItsIdentifierWithItsName) {
-    EXPECT_EQ(kind().contentOf(engine, GetParam().typeId), GetParam().displayName);
-}
-
-TEST_P(BuiltInObject, IsNotListed) {
-    kind().contentOf(engine, GetParam().typeId);
-    EXPECT_TRUE(kind().typeIds(engine).empty());
+TEST_P(BuiltInObject, AnswersForItsIdentifierWithItsNameAndIsNotListed) {
+    const ParametersEngine engine;
+    Parameters::forEachKind([&](auto kind) {
+        if (kind.info == GetParam().kind) {
+            EXPECT_EQ(Support::contentIn<decltype(kind)>(engine, GetParam().typeId), GetParam().displayName);
+            EXPECT_TRUE(kind.getAll(engine).empty());
+        }
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(Lookup, BuiltInObject, testing::ValuesIn(builtIns), Support::nameOfRow);
@@ -260,41 +275,8 @@ const NotBuiltIn notBuiltIn[] = {
      "Could not find reference spec with typeid norvex.spec:spec.reference-2.0.0."},
     {"FamilyType", [](const ParametersEngine& e) { e.getReferenceSpec("norvex.talmo.spec:familyType-1.0.0"); },
      "Could not find reference spec with typeid norvex.talmo.spec:familyType-1.0.0."},
-    {"MeasurableSpec", [](const ParametersEngine& e) { e.getMeasurableSpec("norvex.spec:spec.measurable-2.0.0"); },
-     "Could not find measurable spec with typeid norvex.spec:spec.measurable-2.0.0."},
-    {"MeasurableParameter",
-     [](const ParametersEngine& e) { e.getMeasurableParameter("norvex.parameter:parameter.measurable-3.0.0"); },
-     "Could not find measurable parameter with typeid norvex.parameter:parameter.measurable-3.0.0."},
-    {"ReferenceParameter",
-     [](const ParametersEngine& e) { e.getReferenceParameter("norvex.parameter:parameter.reference-2.0.0"); },
-     "Could not find reference parameter with typeid norvex.parameter:parameter.reference-2.0.0."},
-    {"MajorCategory", [](const ParametersEngine& e) { e.getCategory("norvex.talmo.category:majorCategory-1.0.0"); },
-     "Could not find category with typeid norvex.talmo.category:majorCategory-1.0.0."},
     {"Unit", [](const ParametersEngine& e) { e.getMeasurableSpec("norvex.unit:unit-1.0.0"); },
      "Could not find measurable spec with typeid norvex.unit:unit-1.0.0."},
-    {"IntRange", [](const ParametersEngine& e) { e.getIntRange("norvex.range:range.int64.bounded.static-1.0.0"); },
-     "Could not find integer range with typeid norvex.range:range.int64.bounded.static-1.0.0."},
-    {"FloatRange",
-     [](const ParametersEngine& e) { e.getFloatRange("norvex.range:range.float64.bounded.static-1.0.0"); },
-     "Could not find floating-point range with typeid norvex.range:range.float64.bounded.static-1.0.0."},
-    {"StringRange", [](const ParametersEngine& e) { e.getStringRange("norvex.range:range.string-1.0.0"); },
-     "Could not find string range with typeid norvex.range:range.string-1.0.0."},
-    {"Enumeration", [](const ParametersEngine& e) { e.getEnumeration("Enum"); },
-     "Could not find enumeration with typeid Enum."},
-    {"IntParameter", [](const ParametersEngine& e) { e.getIntParameter("norvex.parameter:parameter.int64-3.0.0"); },
-     "Could not find integer parameter with typeid norvex.parameter:parameter.int64-3.0.0."},
-    {"StringParameter",
-     [](const ParametersEngine& e) { e.getStringParameter("norvex.parameter:parameter.string-3.0.0"); },
-     "Could not find string parameter with typeid norvex.parameter:parameter.string-3.0.0."},
-    {"EnumerationParameter",
-     [](const ParametersEngine& e) { e.getEnumerationParameter("norvex.parameter:parameter-2.0.0"); },
-     "Could not find enumeration parameter with typeid norvex.parameter:parameter-2.0.0."},
-    {"Domain", [](const ParametersEngine& e) { e.getDomain("norvex.talmo.category:domain-1.0.0"); },
-     "Could not find domain with typeid norvex.talmo.category:domain-1.0.0."},
-    {"GeneralSpec", [](const ParametersEngine& e) { e.getGeneralSpec("norvex.spec:spec-1.0.0"); },
-     "Could not find general spec with typeid norvex.spec:spec-1.0.0."},
-    {"BooleanParameter", [](const ParametersEngine& e) { e.getBoolParameter("norvex.parameter:parameter.bool-2.0.0"); },
-     "Could not find Boolean parameter with typeid norvex.parameter:parameter.bool-2.0.0."},
     {"EmptyTypeId", [](const ParametersEngine& e) { e.getDomain(""); }, "Could not find domain with typeid ."},
 };
 
@@ -311,8 +293,6 @@ struct Question {
     const char* name;
     std::string typeId;
 };
-
-void PrintTo(const Question& row, std::ostream* out) { *out << row.name; }
 
 const Question taken[] = {
     {"StringRange", "norvex.range:range.string-1.0.0"},

@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 
 namespace {
@@ -87,8 +86,6 @@ struct Fault {
     const char* message;
 };
 
-void PrintTo(const Fault& row, std::ostream* out) { *out << row.name; }
-
 const Fault faults[] = {
     {"UnknownGroup", boolParameterText("p", "x", "spec"), "Could not find group with typeid x."},
     {"PendingGroup", boolParameterText("p", "pending group", "spec"),
@@ -159,8 +156,6 @@ struct Typed {
     std::string text;
     ValueType type;
 };
-
-void PrintTo(const Typed& row, std::ostream* out) { *out << row.name; }
 
 const Typed typed[] = {
     {"BoolParameter", Support::namedText("p", parameterBase, "Name"), Parameters::Bool},

@@ -1,6 +1,7 @@
-#include "KindOperations.h"
+#include "support/KindTypes.h"
 #include "support/Messages.h"
 #include "support/Picture.h"
+#include "support/Refusal.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
@@ -8,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <set>
 #include <string>
 #include <utility>
@@ -16,6 +16,7 @@
 
 namespace {
 
+namespace Kinds = Parameters::Kinds;
 using Parameters::ParametersEngine;
 using Parameters::Taxon;
 using Parameters::ValidationException;
@@ -27,7 +28,10 @@ using Support::groupText;
 using Support::measurableSpecText;
 using Support::messageOf;
 using Support::namedText;
+using Support::nameTheLeast;
 using Support::pictureOf;
+using Support::Shape;
+using Support::typeIdsIn;
 
 using TypeIds = std::set<std::string>;
 using Missing = std::pair<TypeIds, TypeIds>;
@@ -117,78 +121,101 @@ TEST(MissingTypeIds, AreThoseOfOtherMajorVersions) {
               Missing({"norvex.spec:discipline-2.0.0"}, {}));
 }
 
-struct RegisterSchemaOfEachKind : testing::TestWithParam<KindOperations> {
+template <class Kind>
+struct RegisterSchemaOfEachKind : testing::Test {
+    RegisterSchemaOfEachKind() {
+        for (const Shape& shape : shapes) {
+            Support::stock(engine, shape);
+        }
+    }
+
+    /// Expects that a text of another base is read as one of the kind.
+    void expectRead(const Shape& shape, const std::string& base) {
+        ParametersEngine copy(engine);
+        copy.registerSchema(shape.textOfBase(base, "x", "1", nameTheLeast));
+        copy.resolveSchemas();
+        EXPECT_EQ(typeIdsIn<Kind>(copy), std::vector<std::string>{"x"}) << base;
+        const std::string inherited = R"("inherits":[")" + base + R"("])";
+        EXPECT_EQ(copy.getSchema("x").find(inherited), std::string::npos) << "is written with its full base";
+    }
+    void expectUnknown(const Shape& shape, const std::string& base) {
+        EXPECT_EQ(Support::refusalOf(engine, shape.textOfBase(base, "x", "1", nameTheLeast)),
+                  "Inheritance from an unrecognized base schema.")
+            << base;
+    }
+
+    const std::vector<Shape> shapes = Support::shapesOf<Kind>();
     ParametersEngine engine;
 };
 
-TEST_P(RegisterSchemaOfEachKind, MissesNothingForASchemaThatNamesNothing) {
-    EXPECT_EQ(engine.registerSchema(GetParam().text("x")), nothing);
-}
+TYPED_TEST_SUITE(RegisterSchemaOfEachKind, Support::TestedKinds<Kinds::All>, Support::NameOfKind);
 
-TEST_P(RegisterSchemaOfEachKind, RefusesATextTwice) {
-    const std::string text = GetParam().text("x");
-    engine.registerSchema(text);
-    EXPECT_EQ(messageOf<ValidationException>([&] { engine.registerSchema(text); }),
-              "Schema with typeid x is already registered.");
-    engine.resolveSchemas();
-    EXPECT_EQ(messageOf<ValidationException>([&] { engine.registerSchema(text); }),
-              "Schema with typeid x is already registered.");
-}
-
-TEST_P(RegisterSchemaOfEachKind, RefusesATypeIdOfAnyKind) {
-    for (const KindOperations& first : everyKind) {
-        engine = ParametersEngine();
-        engine.registerSchema(first.text("x", "1"));
-        EXPECT_EQ(messageOf<ValidationException>([&] { engine.registerSchema(GetParam().text("x", "2")); }),
-                  "Schema with typeid x is already registered.")
-            << first.name;
-        engine.resolveSchemas();
-        EXPECT_EQ(first.contentOf(engine, "x"), "1");
+TYPED_TEST(RegisterSchemaOfEachKind, MissesNothingThatIsThere) {
+    for (const Shape& shape : this->shapes) {
+        EXPECT_EQ(this->engine.registerSchema(shape.text(shape.name, "1", nameTheLeast)), nothing) << shape.base;
     }
 }
 
-TEST_P(RegisterSchemaOfEachKind, FilesNothingOfAMalformedSchema) {
-    const std::string before = pictureOf(engine, {"x"});
-    EXPECT_EQ(
-        messageOf<ValidationException>([&] { engine.registerSchema(Support::schemaText("x", GetParam().base, "")); }),
-        GetParam().bareX);
-    EXPECT_EQ(pictureOf(engine, {"x"}), before);
+TYPED_TEST(RegisterSchemaOfEachKind, RefusesATextTwice) {
+    for (const Shape& shape : this->shapes) {
+        const std::string text = shape.text(shape.name, "1", nameTheLeast);
+        const std::string message = "Schema with typeid " + shape.name + " is already registered.";
+        this->engine.registerSchema(text);
+        EXPECT_EQ(messageOf<ValidationException>([&] { this->engine.registerSchema(text); }), message);
+        this->engine.resolveSchemas();
+        EXPECT_EQ(messageOf<ValidationException>([&] { this->engine.registerSchema(text); }), message);
+    }
 }
 
-TEST_P(RegisterSchemaOfEachKind, TakesATypeIdThatWasRefusedBefore) {
-    messageOf<ValidationException>([&] { engine.registerSchema(Support::schemaText("x", GetParam().base, "")); });
-    engine.registerSchema(GetParam().text("x", "1"));
-    engine.resolveSchemas();
-    EXPECT_EQ(GetParam().contentOf(engine, "x"), "1");
+TYPED_TEST(RegisterSchemaOfEachKind, RefusesATypeIdOfAnyKind) {
+    Parameters::forEachKind([&](auto first) {
+        using First = decltype(first);
+        ParametersEngine fresh;
+        Support::stock(fresh, Support::mainShapeOf<First>());
+        fresh.registerSchema(Support::sampleText<First>("x", "1"));
+        EXPECT_EQ(
+            messageOf<ValidationException>([&] { fresh.registerSchema(Support::sampleText<TypeParam>("x", "2")); }),
+            "Schema with typeid x is already registered.")
+            << first.info.id();
+        fresh.resolveSchemas();
+        EXPECT_EQ(Support::contentIn<First>(fresh, "x"), "1");
+    });
 }
 
-/// What holds for the kinds whose base has a version: all but enumerations.
-struct RegisterSchemaOfAVersion : RegisterSchemaOfEachKind {
-    const std::string base = GetParam().base;
-};
-
-TEST_P(RegisterSchemaOfAVersion, ReadsItsBaseInOtherMinorVersions) {
-    engine.registerSchema(GetParam().textOf("x", base.substr(0, base.size() - 3) + "9.3", "1"));
-    engine.resolveSchemas();
-    EXPECT_EQ(GetParam().typeIds(engine), std::vector<std::string>{"x"});
+TYPED_TEST(RegisterSchemaOfEachKind, FilesNothingOfAMalformedSchema) {
+    const std::string base = Support::mainShapeOf<TypeParam>().base;
+    EXPECT_EQ(Support::refusalOf(this->engine, Support::schemaText("x", base, "")),
+              Support::Sample<TypeParam>::bareFault);
+    EXPECT_FALSE(this->engine.isRegistered("x"));
 }
 
-TEST_P(RegisterSchemaOfAVersion, ReadsItsBaseInsideALongerText) {
-    engine.registerSchema(GetParam().textOf("x", "our " + base + " of old", "1"));
-    engine.resolveSchemas();
-    EXPECT_EQ(GetParam().typeIds(engine), std::vector<std::string>{"x"});
+TYPED_TEST(RegisterSchemaOfEachKind, TakesATypeIdThatWasRefusedBefore) {
+    const std::string base = Support::mainShapeOf<TypeParam>().base;
+    messageOf<ValidationException>([&] { this->engine.registerSchema(Support::schemaText("x", base, "")); });
+    this->engine.registerSchema(Support::sampleText<TypeParam>("x", "1"));
+    this->engine.resolveSchemas();
+    EXPECT_EQ(Support::contentIn<TypeParam>(this->engine, "x"), "1");
 }
 
-TEST_P(RegisterSchemaOfAVersion, DoesNotReadAnotherMajorVersionOfItsBase) {
-    const std::string text = GetParam().textOf("x", base.substr(0, base.size() - 5) + "7.0.0", "1");
-    EXPECT_EQ(messageOf<ValidationException>([&] { engine.registerSchema(text); }),
-              "Inheritance from an unrecognized base schema.");
-    EXPECT_FALSE(engine.isRegistered("x"));
+TYPED_TEST(RegisterSchemaOfEachKind, ReadsOtherMinorVersionsOfItsBasesAlsoInsideALongerText) {
+    for (const Shape& shape : this->shapes) {
+        if (const std::string prefix = Support::versionPrefixOf(shape.base); prefix != shape.base) {
+            this->expectRead(shape, prefix + "9.3");
+            this->expectRead(shape, prefix);
+            this->expectRead(shape, "our " + shape.base + " of old");
+        }
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, RegisterSchemaOfEachKind, testing::ValuesIn(everyKind), Support::nameOfRow);
-INSTANTIATE_TEST_SUITE_P(Kinds, RegisterSchemaOfAVersion, testing::ValuesIn(kindsThat(&KindOperations::hasVersions)),
-                         Support::nameOfRow);
+TYPED_TEST(RegisterSchemaOfEachKind, DoesNotReadOtherMajorVersionsOfItsBases) {
+    for (const Shape& shape : this->shapes) {
+        for (const char* version : {"0", "4", "7", "10", "20", "21", "30"}) {
+            this->expectUnknown(shape, Support::ofMajorVersion(shape.base, version));
+        }
+        this->expectUnknown(shape, "x" + shape.base.substr(1));
+        this->expectUnknown(shape, shape.base.substr(0, shape.base.rfind('-')) + "-");
+    }
+}
 
 /// A base in which the bases of two kinds are found.
 struct TwoBases {
@@ -280,8 +307,6 @@ struct Fault {
     std::string text;
     const char* message;
 };
-
-void PrintTo(const Fault& row, std::ostream* out) { *out << row.name; }
 
 const Fault faults[] = {
     {"BaseOfNoKind", namedText("x", "some base", "Name"), "Inheritance from an unrecognized base schema."},

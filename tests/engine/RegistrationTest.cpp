@@ -1,6 +1,7 @@
-#include "KindOperations.h"
+#include "support/KindTypes.h"
 #include "support/Messages.h"
 #include "support/Picture.h"
+#include "support/Refusal.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
@@ -12,6 +13,7 @@
 
 namespace {
 
+namespace Kinds = Parameters::Kinds;
 using Parameters::BoolParameter;
 using Parameters::BoolSpec;
 using Parameters::GeneralSpec;
@@ -23,84 +25,87 @@ using Parameters::ValidationException;
 using Support::messageOf;
 using Support::pictureOf;
 
-struct RegistrationOfEachKind : testing::TestWithParam<KindOperations> {
-    std::string messageOfAdding(const std::string& typeId) {
-        return messageOf<ValidationException>([&] { GetParam().add(engine, typeId, "2"); });
+template <class Kind>
+struct RegistrationOfEachKind : testing::Test {
+    void add(const std::string& typeId, const std::string& content = "1") {
+        Support::addSample<Kind>(engine, typeId, content);
+    }
+    std::string contentOf(const std::string& typeId) const { return Support::contentIn<Kind>(engine, typeId); }
+
+    /// Returns the message with which an object is refused, without a trace.
+    std::string refusalOfAdding(const std::string& typeId) {
+        Support::stock(engine, Support::mainShapeOf<Kind>());
+        return Support::refusalBy(engine, [&] { add(typeId, "2"); });
     }
 
     ParametersEngine engine;
 };
 
-TEST_P(RegistrationOfEachKind, RefusesTheEmptyTypeId) {
-    EXPECT_EQ(messageOfAdding(""), "Typeid must not be empty.");
-    EXPECT_TRUE(GetParam().typeIds(engine).empty());
+TYPED_TEST_SUITE(RegistrationOfEachKind, Support::TestedKinds<Kinds::All>, Support::NameOfKind);
+
+TYPED_TEST(RegistrationOfEachKind, RefusesTheEmptyTypeId) {
+    EXPECT_EQ(this->refusalOfAdding(""), "Typeid must not be empty.");
 }
 
-TEST_P(RegistrationOfEachKind, RefusesATypeIdOfAnyKind) {
-    for (const KindOperations& first : everyKind) {
-        engine = ParametersEngine();
-        first.add(engine, "x", "1");
-        const std::string before = pictureOf(engine);
-        EXPECT_EQ(messageOfAdding("x"), "Schema with typeid x is already registered.") << first.name;
-        EXPECT_EQ(pictureOf(engine), before) << first.name;
-    }
+TYPED_TEST(RegistrationOfEachKind, RefusesATypeIdOfAnyKind) {
+    Parameters::forEachKind([&](auto first) {
+        this->engine = ParametersEngine();
+        Support::addSample<decltype(first)>(this->engine, "x");
+        EXPECT_EQ(this->refusalOfAdding("x"), "Schema with typeid x is already registered.") << first.info.id();
+    });
 }
 
-TEST_P(RegistrationOfEachKind, RefusesTheTypeIdOfAPendingSchemaOfAnyKind) {
-    for (const KindOperations& first : everyKind) {
-        engine = ParametersEngine();
-        engine.registerSchema(first.text("x", "1"));
-        EXPECT_EQ(messageOfAdding("x"), "Schema with typeid x is already registered.") << first.name;
-        engine.resolveSchemas();
-        EXPECT_EQ(first.contentOf(engine, "x"), "1") << first.name;
-    }
+TYPED_TEST(RegistrationOfEachKind, RefusesTheTypeIdOfAPendingSchemaOfAnyKind) {
+    Parameters::forEachKind([&](auto first) {
+        using First = decltype(first);
+        this->engine = ParametersEngine();
+        Support::stock(this->engine, Support::mainShapeOf<First>());
+        this->engine.registerSchema(Support::sampleText<First>("x", "1"));
+        EXPECT_EQ(this->refusalOfAdding("x"), "Schema with typeid x is already registered.") << first.info.id();
+        this->engine.resolveSchemas();
+        EXPECT_EQ(Support::contentIn<First>(this->engine, "x"), "1") << first.info.id();
+    });
 }
 
-TEST_P(RegistrationOfEachKind, RefusesTheTypeIdOfAUnit) {
-    engine.getUnitsEngine().registerSchema(Support::unitText("x"));
-    EXPECT_EQ(messageOfAdding("x"), "Schema with typeid x is already registered.");
-    engine.getUnitsEngine().resolveSchemas();
-    EXPECT_EQ(messageOfAdding("x"), "Schema with typeid x is already registered.");
-    EXPECT_TRUE(GetParam().typeIds(engine).empty());
+TYPED_TEST(RegistrationOfEachKind, RefusesTheTypeIdOfAUnit) {
+    this->engine.getUnitsEngine().registerSchema(Support::unitText("x"));
+    EXPECT_EQ(this->refusalOfAdding("x"), "Schema with typeid x is already registered.");
+    this->engine.getUnitsEngine().resolveSchemas();
+    EXPECT_EQ(this->refusalOfAdding("x"), "Schema with typeid x is already registered.");
 }
 
-TEST_P(RegistrationOfEachKind, RefusesBuiltInIdentifiers) {
-    EXPECT_EQ(messageOfAdding("norvex.spec:discipline-1.0.0"),
+TYPED_TEST(RegistrationOfEachKind, RefusesBuiltInIdentifiers) {
+    EXPECT_EQ(this->refusalOfAdding("norvex.spec:discipline-1.0.0"),
               "Schema with typeid norvex.spec:discipline-1.0.0 is already registered.");
-    EXPECT_EQ(messageOfAdding("my norvex.talmo.spec:familyType-1.3"),
+    EXPECT_EQ(this->refusalOfAdding("my norvex.talmo.spec:familyType-1.3"),
               "Schema with typeid my norvex.talmo.spec:familyType-1.3 is already registered.");
-    EXPECT_TRUE(GetParam().typeIds(engine).empty());
 }
 
-TEST_P(RegistrationOfEachKind, TakesBasesThatAreNoBuiltInObjects) {
-    GetParam().add(engine, "norvex.talmo.category:domain-1.0.0", "1");
-    EXPECT_EQ(GetParam().contentOf(engine, "norvex.talmo.category:domain-1.0.0"), "1");
+TYPED_TEST(RegistrationOfEachKind, TakesBasesThatAreNoBuiltInObjects) {
+    this->add("norvex.talmo.category:domain-1.0.0");
+    EXPECT_EQ(this->contentOf("norvex.talmo.category:domain-1.0.0"), "1");
 }
 
-TEST_P(RegistrationOfEachKind, RefusesASchemaOfTheSameTypeIdAfterwards) {
-    GetParam().add(engine, "x", "1");
-    EXPECT_EQ(messageOf<ValidationException>([&] { engine.registerSchema(Support::disciplineText("x")); }),
+TYPED_TEST(RegistrationOfEachKind, RefusesASchemaOfTheSameTypeIdAfterwards) {
+    this->add("x");
+    EXPECT_EQ(Support::refusalOf(this->engine, Support::disciplineText("x")),
               "Schema with typeid x is already registered.");
 }
 
-TEST_P(RegistrationOfEachKind, LeavesPendingSchemasPending) {
-    engine.registerSchema(Support::disciplineText("pending"));
-    GetParam().add(engine, "x", "1");
-    EXPECT_TRUE(engine.isRegistered("pending"));
-    EXPECT_EQ(messageOf<Parameters::UnrecognizedIdentifierException>([&] { engine.getDiscipline("pending"); }),
+TYPED_TEST(RegistrationOfEachKind, LeavesPendingSchemasPending) {
+    this->engine.registerSchema(Support::disciplineText("pending"));
+    this->add("x");
+    EXPECT_TRUE(this->engine.isRegistered("pending"));
+    EXPECT_EQ(messageOf<Parameters::UnrecognizedIdentifierException>([&] { this->engine.getDiscipline("pending"); }),
               "Could not find discipline with typeid pending.");
 }
 
-struct RegistrationByName : RegistrationOfEachKind {};
-
-TEST_P(RegistrationByName, TakesAnyName) {
-    GetParam().add(engine, "x", "");
-    EXPECT_EQ(GetParam().contentOf(engine, "x"), "");
+TYPED_TEST(RegistrationOfEachKind, TakesAnyName) {
+    if constexpr (Support::Sample<TypeParam>::hasName) {
+        this->add("x", "");
+        EXPECT_EQ(this->contentOf("x"), "");
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Kinds, RegistrationOfEachKind, testing::ValuesIn(everyKind), Support::nameOfRow);
-INSTANTIATE_TEST_SUITE_P(Kinds, RegistrationByName, testing::ValuesIn(kindsThat(&KindOperations::hasNames)),
-                         Support::nameOfRow);
 
 BoolParameter parameterIn(const Taxon& group, const BoolSpec& spec, const std::string& typeId = "p") {
     return {ParameterCore(typeId, "The parameter", group, "", "", false), spec};

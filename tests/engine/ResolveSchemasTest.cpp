@@ -1,9 +1,9 @@
-#include "KindOperations.h"
 #include "support/Messages.h"
 #include "support/Picture.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
+#include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>
 
 #include <gtest/gtest.h>
@@ -300,9 +300,7 @@ TEST_P(FaultyResolution, LeavesTheEngineAsItWas) {
     const std::string before = pictureOf(engine, typeIds);
     messageOfResolving(engine);
     EXPECT_EQ(pictureOf(engine, typeIds), before);
-    for (const KindOperations& kind : everyKind) {
-        EXPECT_TRUE(kind.typeIds(engine).empty()) << kind.name;
-    }
+    Parameters::forEachKind([&](auto kind) { EXPECT_TRUE(kind.getAll(engine).empty()) << kind.info.id(); });
 }
 
 TEST_P(FaultyResolution, FailsInTheSameWayAgain) {

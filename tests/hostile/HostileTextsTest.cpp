@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <ostream>
 #include <stdexcept>
 #include <string>
 
@@ -97,8 +96,6 @@ struct HostileInput {
     std::string (*text)();
     std::string message; // none when the text is accepted
 };
-
-void PrintTo(const HostileInput& input, std::ostream* out) { *out << input.name; }
 
 namespace {
 

@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -102,8 +101,6 @@ struct Unresolvable {
     const char* name;
     std::vector<std::string> texts;
     const char* message;
-
-    friend void PrintTo(const Unresolvable& row, std::ostream* out) { *out << row.name; }
 };
 
 const Unresolvable unresolvable[] = {
@@ -321,8 +318,6 @@ struct Unbindable {
     const char* name;
     Category category;
     const char* message;
-
-    friend void PrintTo(const Unbindable& row, std::ostream* out) { *out << row.name; }
 };
 
 const Taxon known("domain", "Mine");

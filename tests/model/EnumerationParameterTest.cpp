@@ -14,7 +14,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <ostream>
 #include <set>
 #include <string>
 #include <utility>
@@ -156,8 +155,6 @@ struct Accepted {
     const char* name;
     const char* spec;
     const char* value;
-
-    friend void PrintTo(const Accepted& row, std::ostream* out) { *out << row.name; }
 };
 
 const Accepted accepted[] = {

@@ -14,7 +14,6 @@
 
 #include <cstdint>
 #include <limits>
-#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -181,8 +180,6 @@ struct RefusedEnumeration {
     const char* typeId;
     Values values;
     const char* message;
-
-    friend void PrintTo(const RefusedEnumeration& row, std::ostream* out) { *out << row.name; }
 };
 
 const std::vector<RefusedEnumeration> refusedEnumerations = {

@@ -11,7 +11,6 @@
 
 #include <cmath>
 #include <limits>
-#include <ostream>
 #include <string>
 
 // What floating-point ranges do not share with integer ones; see NumericRangeTest.cpp.
@@ -45,8 +44,6 @@ struct Number {
     const char* json;
     double value;
     const char* written;
-
-    friend void PrintTo(const Number& number, std::ostream* out) { *out << number.name; }
 };
 
 const Number numbers[] = {

@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <ostream>
 #include <string>
 
 // What integer parameters do not share with string parameters; see RangedParameterTest.cpp.
@@ -52,8 +51,6 @@ struct Inline {
     bool fromTop;
     long long top;
     const char* written;
-
-    friend void PrintTo(const Inline& row, std::ostream* out) { *out << row.name; }
 };
 
 const Inline inlineValues[] = {
@@ -115,8 +112,6 @@ struct InlineFault {
     const char* name;
     const char* value;
     const char* message;
-
-    friend void PrintTo(const InlineFault& fault, std::ostream* out) { *out << fault.name; }
 };
 
 const char* const noFromBottom =

@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -345,8 +344,6 @@ struct WrittenRange {
     const char* name;
     FloatRange range;
     std::string text;
-
-    friend void PrintTo(const WrittenRange& row, std::ostream* out) { *out << row.name; }
 };
 
 const WrittenRange writtenRanges[] = {

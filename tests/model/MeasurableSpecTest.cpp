@@ -11,7 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <set>
 #include <string>
 #include <utility>
@@ -234,8 +233,6 @@ struct Missing {
     std::string discipline;
     const char* whenBound;
     const char* whenResolved;
-
-    friend void PrintTo(const Missing& row, std::ostream* out) { *out << row.name; }
 };
 
 const Missing missingReferences[] = {

@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 #include <tuple>
 #include <type_traits>
@@ -281,8 +280,6 @@ struct KindOfRange {
     const char* name;
     const char* base;
     const char* notANumber;
-
-    friend void PrintTo(const KindOfRange& kind, std::ostream* out) { *out << kind.name; }
 };
 
 const KindOfRange kindsOfRange[] = {
@@ -294,8 +291,6 @@ struct RangeFault {
     const char* name;
     const char* constants;
     const char* message; // null: that of a boundary that is no number
-
-    friend void PrintTo(const RangeFault& fault, std::ostream* out) { *out << fault.name; }
 };
 
 const RangeFault rangeFaults[] = {

@@ -11,7 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -80,8 +79,6 @@ struct ParameterKind {
     std::string base;
     ParameterCore (*get)(const ParametersEngine& engine, const std::string& typeId);
     void (*add)(ParametersEngine& engine, const ParameterCore& core);
-
-    friend void PrintTo(const ParameterKind& kind, std::ostream* out) { *out << kind.name; }
 };
 
 template <auto getter>

@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -30,8 +29,6 @@ struct RangeBase {
     const char* ofAnotherMinorVersion;
     void (*read)(const ParametersEngine& engine, const std::string& text);
     void (*addNamedRange)(ParametersEngine& engine);
-
-    friend void PrintTo(const RangeBase& base, std::ostream* out) { *out << base.name; }
 };
 
 void readInt(const ParametersEngine& engine, const std::string& text) { engine.readIntParameter(text); }
@@ -145,8 +142,6 @@ INSTANTIATE_TEST_SUITE_P(Kinds, RangeConstant,
 struct Accepted {
     const char* name;
     std::string constant;
-
-    friend void PrintTo(const Accepted& accepted, std::ostream* out) { *out << accepted.name; }
 };
 
 const Accepted accepted[] = {

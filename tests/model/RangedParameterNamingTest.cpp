@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 #include <tuple>
 
@@ -28,8 +27,6 @@ struct KindOfParameter {
     void (*add)(ParametersEngine& engine, const std::string& typeId, const NamingFault& names);
     void (*write)(const ParametersEngine& engine, const std::string& typeId, const NamingFault& names);
     void (*askForDependencies)(const ParametersEngine& engine, const std::string& typeId, const NamingFault& names);
-
-    friend void PrintTo(const KindOfParameter& kind, std::ostream* out) { *out << kind.name; }
 };
 
 template <class Parameter>
@@ -168,8 +165,6 @@ struct TypeIdFault {
     const char* name;
     const char* typeId;
     const char* message;
-
-    friend void PrintTo(const TypeIdFault& fault, std::ostream* out) { *out << fault.name; }
 };
 
 const TypeIdFault typeIdFaults[] = {

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <ostream>
 #include <set>
 #include <string>
 
@@ -205,8 +204,6 @@ struct Missing {
     Names names;
     const char* whenBound;
     const char* whenResolved;
-
-    friend void PrintTo(const Missing& row, std::ostream* out) { *out << row.name; }
 };
 
 const Missing missingReferences[] = {

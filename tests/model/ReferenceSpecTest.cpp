@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -179,8 +178,6 @@ struct Missing {
     const char* category;
     const char* whenBound;
     const char* whenResolved;
-
-    friend void PrintTo(const Missing& row, std::ostream* out) { *out << row.name; }
 };
 
 const Missing missingReferences[] = {

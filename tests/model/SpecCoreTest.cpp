@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <ostream>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -71,8 +70,6 @@ struct SpecKind {
     std::string base;
     SpecCore (*get)(const ParametersEngine& engine, const std::string& typeId);
     void (*add)(ParametersEngine& engine, const SpecCore& core);
-
-    friend void PrintTo(const SpecKind& kind, std::ostream* out) { *out << kind.name; }
 };
 
 template <auto getter>

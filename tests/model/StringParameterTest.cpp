@@ -12,7 +12,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -137,8 +136,6 @@ struct UnfitRange {
     const char* spec;
     StringRange range;
     const char* message;
-
-    friend void PrintTo(const UnfitRange& row, std::ostream* out) { *out << row.name; }
 };
 
 const UnfitRange unfitRanges[] = {
@@ -248,8 +245,6 @@ struct Written {
     const char* name;
     StringParameter parameter;
     std::string text;
-
-    friend void PrintTo(const Written& row, std::ostream* out) { *out << row.name; }
 };
 
 const Written writtenParameters[] = {

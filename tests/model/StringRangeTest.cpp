@@ -208,8 +208,6 @@ struct RefusedRange {
     const char* name;
     StringRange range;
     const char* message;
-
-    friend void PrintTo(const RefusedRange& row, std::ostream* out) { *out << row.name; }
 };
 
 const RefusedRange refusedRanges[] = {

@@ -11,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <ostream>
 #include <string>
 
 namespace {
@@ -80,8 +79,6 @@ struct TaxonomyKind {
     Taxon (ParametersEngine::*get)(const std::string&) const;
     std::map<std::string, Taxon> (ParametersEngine::*getAll)() const;
     void (ParametersEngine::*add)(const Taxon&);
-
-    friend void PrintTo(const TaxonomyKind& kind, std::ostream* out) { *out << kind.name; }
 };
 
 class TaxonOfEachKind : public testing::TestWithParam<TaxonomyKind> {

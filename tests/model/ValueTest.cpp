@@ -1,4 +1,6 @@
-#include "Values.h"
+#include "support/KindTypes.h"
+
+#include <parameters/Kinds.h>
 
 #include <gtest/gtest.h>
 
@@ -9,19 +11,66 @@
 
 namespace {
 
-using Values::Sample;
-using Values::typeIdOf;
+/// The cores, as kinds of their own as far as values go.
+struct SpecCores {
+    using Value = Parameters::SpecCore;
+    static constexpr const char* name = "SpecCore";
+    static std::string typeIdOf(const Value& core) { return core.getTypeId(); }
+};
+struct ParameterCores {
+    using Value = Parameters::ParameterCore;
+    static constexpr const char* name = "ParameterCore";
+    static std::string typeIdOf(const Value& core) { return core.getTypeId(); }
+};
+
+template <class... Ks>
+testing::Types<SpecCores, ParameterCores, Ks...> withCores(Parameters::Kinds::List<Ks...>);
+using AllValues = decltype(withCores(Parameters::Kinds::All{}));
+
+struct NameOfValue {
+    template <class Kind>
+    static std::string GetName(int place) { // NOLINT(readability-identifier-naming): GoogleTest calls it
+        if constexpr (requires { Kind::name; }) {
+            return Kind::name;
+        } else {
+            return Support::NameOfKind::GetName<Kind>(place);
+        }
+    }
+};
+
+} // namespace
+
+template <>
+struct Support::Sample<SpecCores> {
+    static Parameters::SpecCore make(const std::string& typeId, const std::string& content) {
+        return {typeId, content};
+    }
+    static std::string contentOf(const Parameters::SpecCore& core) { return core.getName(); }
+};
+
+template <>
+struct Support::Sample<ParameterCores> {
+    static Parameters::ParameterCore make(const std::string& typeId, const std::string& content) {
+        return {typeId, "Name", content, "", false};
+    }
+    static std::string contentOf(const Parameters::ParameterCore& core) { return core.getDescription(); }
+};
+
+namespace {
 
 /// What holds for every value class.
-template <class Value>
+template <class Kind>
 class EveryValue : public testing::Test {
 protected:
+    using Value = typename Kind::Value;
+
     static Value valueOf(const std::string& typeId, const std::string& content = "1") {
-        return Sample<Value>::make(typeId, content);
+        return Support::Sample<Kind>::make(typeId, content);
     }
     static void expectThat(const Value& value, const std::string& typeId, const std::string& content = "1") {
-        EXPECT_EQ(typeIdOf(value), typeId);
-        EXPECT_EQ(Sample<Value>::contentOf(value), content);
+        EXPECT_EQ(Kind::typeIdOf(value), typeId);
+        EXPECT_EQ(Support::Sample<Kind>::contentOf(value), content);
+        EXPECT_EQ(Support::describe(value), Support::describe(valueOf(typeId, content)));
     }
     static void expectEqual(const Value& value, const Value& other) {
         EXPECT_TRUE(value == other);
@@ -43,27 +92,32 @@ protected:
     }
 };
 
-TYPED_TEST_SUITE(EveryValue, Values::AllValues);
+TYPED_TEST_SUITE(EveryValue, AllValues, NameOfValue);
 
 TYPED_TEST(EveryValue, IsCopiedAndMovedWithoutFail) {
-    EXPECT_TRUE(std::is_nothrow_copy_constructible_v<TypeParam>);
-    EXPECT_TRUE(std::is_nothrow_copy_assignable_v<TypeParam>);
-    EXPECT_TRUE(std::is_nothrow_move_constructible_v<TypeParam>);
-    EXPECT_TRUE(std::is_nothrow_move_assignable_v<TypeParam>);
-    EXPECT_TRUE(std::is_nothrow_destructible_v<TypeParam>);
+    using Object = typename TypeParam::Value;
+    EXPECT_TRUE(std::is_nothrow_copy_constructible_v<Object>);
+    EXPECT_TRUE(std::is_nothrow_copy_assignable_v<Object>);
+    EXPECT_TRUE(std::is_nothrow_move_constructible_v<Object>);
+    EXPECT_TRUE(std::is_nothrow_move_assignable_v<Object>);
+    EXPECT_TRUE(std::is_nothrow_destructible_v<Object>);
 }
 
 TYPED_TEST(EveryValue, IsNeverEmpty) {
+    using Object = typename TypeParam::Value;
     // A string range made of nothing is the default range.
-    EXPECT_EQ(std::is_default_constructible_v<TypeParam>, (std::is_same_v<TypeParam, Parameters::StringRange>));
+    EXPECT_EQ(std::is_default_constructible_v<Object>, (std::is_same_v<Object, Parameters::StringRange>));
 }
 
-TYPED_TEST(EveryValue, IsMadeOnlyOnPurpose) { EXPECT_FALSE((std::is_convertible_v<std::string, TypeParam>)); }
+TYPED_TEST(EveryValue, IsMadeOnlyOnPurpose) {
+    EXPECT_FALSE((std::is_convertible_v<std::string, typename TypeParam::Value>));
+}
 
-TYPED_TEST(EveryValue, HasNoVirtualOperations) { EXPECT_FALSE(std::is_polymorphic_v<TypeParam>); }
+TYPED_TEST(EveryValue, HasNoVirtualOperations) { EXPECT_FALSE(std::is_polymorphic_v<typename TypeParam::Value>); }
 
 TYPED_TEST(EveryValue, IsComparedWithoutFail) {
-    const TypeParam value = this->valueOf("a");
+    using Object = typename TypeParam::Value;
+    const Object value = this->valueOf("a");
     EXPECT_TRUE(noexcept(value == value));
     EXPECT_TRUE(noexcept(value != value));
     EXPECT_TRUE(noexcept(value < value));
@@ -77,65 +131,74 @@ TYPED_TEST(EveryValue, AnswersWhatItWasMadeFrom) {
 }
 
 TYPED_TEST(EveryValue, CopyAnswersAfterTheOriginalIsGone) {
-    auto original = std::make_unique<TypeParam>(this->valueOf("a"));
-    const TypeParam copy(*original);
+    using Object = typename TypeParam::Value;
+    auto original = std::make_unique<Object>(this->valueOf("a"));
+    const Object copy(*original);
     original.reset();
     this->expectThat(copy, "a");
 }
 
 TYPED_TEST(EveryValue, StillAnswersAfterBeingMovedFrom) {
-    TypeParam value = this->valueOf("a");
-    const TypeParam moved(std::move(value));
+    using Object = typename TypeParam::Value;
+    Object value = this->valueOf("a");
+    const Object moved(std::move(value));
     this->expectThat(value, "a");
     this->expectThat(moved, "a");
 }
 
 TYPED_TEST(EveryValue, StillAnswersAfterBeingMovedByAssignment) {
-    TypeParam value = this->valueOf("a");
-    TypeParam target = this->valueOf("b");
+    using Object = typename TypeParam::Value;
+    Object value = this->valueOf("a");
+    Object target = this->valueOf("b");
     target = std::move(value);
     this->expectThat(value, "a");
     this->expectThat(target, "a");
 }
 
 TYPED_TEST(EveryValue, StillComparesAfterBeingMovedFrom) {
-    TypeParam value = this->valueOf("a");
-    const TypeParam moved(std::move(value));
+    using Object = typename TypeParam::Value;
+    Object value = this->valueOf("a");
+    const Object moved(std::move(value));
     EXPECT_TRUE(value == moved);
 }
 
 TYPED_TEST(EveryValue, AssignmentLeavesOtherCopiesAlone) {
-    TypeParam value = this->valueOf("a");
-    const TypeParam copy = value;
+    using Object = typename TypeParam::Value;
+    Object value = this->valueOf("a");
+    const Object copy = value;
     value = this->valueOf("b");
     this->expectThat(value, "b");
     this->expectThat(copy, "a");
 }
 
 TYPED_TEST(EveryValue, AssignmentTakesTheContentOfAnEqualValue) {
-    TypeParam value = this->valueOf("a");
+    using Object = typename TypeParam::Value;
+    Object value = this->valueOf("a");
     value = this->valueOf("a", "2");
     this->expectThat(value, "a", "2");
 }
 
 TYPED_TEST(EveryValue, SurvivesAssignmentToItself) {
-    TypeParam value = this->valueOf("a");
-    const TypeParam& same = value;
+    using Object = typename TypeParam::Value;
+    Object value = this->valueOf("a");
+    const Object& same = value;
     value = same;
     this->expectThat(value, "a");
 }
 
 TYPED_TEST(EveryValue, SurvivesBeingSwapped) {
-    TypeParam a = this->valueOf("a");
-    TypeParam b = this->valueOf("b");
+    using Object = typename TypeParam::Value;
+    Object a = this->valueOf("a");
+    Object b = this->valueOf("b");
     std::swap(a, b);
     this->expectThat(a, "b");
     this->expectThat(b, "a");
 }
 
 TYPED_TEST(EveryValue, IsEqualToItsCopy) {
-    const TypeParam value = this->valueOf("a");
-    const TypeParam copy = value;
+    using Object = typename TypeParam::Value;
+    const Object value = this->valueOf("a");
+    const Object copy = value;
     this->expectEqual(value, copy);
 }
 

@@ -13,7 +13,6 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -59,8 +58,6 @@ struct Refused {
     std::string text;
     const char* message;
 };
-
-void PrintTo(const Refused& row, std::ostream* stream) { *stream << row.name; }
 
 class RefusedText : public testing::TestWithParam<Refused> {};
 
@@ -142,8 +139,6 @@ struct Classified {
     bool real;
 };
 
-void PrintTo(const Classified& row, std::ostream* stream) { *stream << row.name; }
-
 class NumberType : public testing::TestWithParam<Classified> {};
 
 TEST_P(NumberType, IsThatOfTheDefaultFlags) {
@@ -185,8 +180,6 @@ struct ReadNumber {
     std::string text;
     double expected;
 };
-
-void PrintTo(const ReadNumber& row, std::ostream* stream) { *stream << row.name; }
 
 class ExtremeNumber : public testing::TestWithParam<ReadNumber> {};
 

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -55,8 +54,6 @@ struct Typed {
     bool integer;
     bool number;
 };
-
-void PrintTo(const Typed& row, std::ostream* stream) { *stream << row.name; }
 
 class TypeOf : public testing::TestWithParam<Typed> {};
 

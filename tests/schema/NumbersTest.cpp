@@ -12,7 +12,6 @@
 #include <cstdlib>
 #include <limits>
 #include <locale>
-#include <ostream>
 #include <random>
 #include <string>
 
@@ -100,8 +99,6 @@ struct Nearest {
     double expected;
 };
 
-void PrintTo(const Nearest& row, std::ostream* stream) { *stream << row.name; }
-
 class ToDoubleOf : public testing::TestWithParam<Nearest> {};
 
 TEST_P(ToDoubleOf, IsTheNearestDouble) {
@@ -152,8 +149,6 @@ struct TooBig {
     const char* name;
     std::string number;
 };
-
-void PrintTo(const TooBig& row, std::ostream* stream) { *stream << row.name; }
 
 class ToDoubleBeyondMax : public testing::TestWithParam<TooBig> {};
 

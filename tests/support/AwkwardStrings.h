@@ -1,6 +1,5 @@
 #pragma once
 
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -11,8 +10,6 @@ struct AwkwardString {
     const char* name;
     std::string bytes;
     std::string escaped;
-
-    friend void PrintTo(const AwkwardString& string, std::ostream* out) { *out << string.name; }
 };
 
 inline const std::vector<AwkwardString> awkwardStrings = {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <ostream>
 #include <string>
 
 namespace Support {
@@ -10,8 +9,6 @@ struct Fault {
     const char* name;
     std::string text;
     std::string message;
-
-    friend void PrintTo(const Fault& fault, std::ostream* out) { *out << fault.name; }
 };
 
 } // namespace Support

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 
 namespace Support {
@@ -16,8 +15,6 @@ struct NamingFault {
     const char* third; // what this kind of parameter names besides
     const char* whenBound;
     const char* whenResolved;
-
-    friend void PrintTo(const NamingFault& fault, std::ostream* out) { *out << fault.name; }
 };
 
 } // namespace Support

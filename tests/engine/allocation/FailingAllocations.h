@@ -11,7 +11,6 @@
 #include <functional>
 #include <new>
 #include <optional>
-#include <ostream>
 #include <set>
 #include <string>
 #include <utility>
@@ -25,8 +24,6 @@ using Answers = std::set<std::string>;
 struct Operation {
     std::string name;
     std::function<Answers(Parameters::ParametersEngine& engine)> apply;
-
-    friend void PrintTo(const Operation& operation, std::ostream* out) { *out << operation.name; }
 };
 
 inline Tally& operations = addTally("operations with memory that ends");

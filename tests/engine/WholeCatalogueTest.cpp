@@ -1,6 +1,7 @@
 #include "support/Catalogue.h"
 #include "support/RowNames.h"
 
+#include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>
 
 #include <gtest/gtest.h>
@@ -30,45 +31,19 @@ struct CatalogueFolder {
     const char* path; // null where there is none
 };
 
-template <class Visitor>
-void forEachStore(ParametersEngine& engine, Visitor&& visit) {
-    visit("units", engine.getUnitsEngine().getAllUnits());
-    visit("enumerations", engine.getAllEnumerations());
-    visit("floating-point ranges", engine.getAllFloatRanges());
-    visit("integer ranges", engine.getAllIntRanges());
-    visit("string ranges", engine.getAllStringRanges());
-    visit("disciplines", engine.getAllDisciplines());
-    visit("Boolean specs", engine.getAllBoolSpecs());
-    visit("general specs", engine.getAllGeneralSpecs());
-    visit("integer specs", engine.getAllIntSpecs());
-    visit("measurable specs", engine.getAllMeasurableSpecs());
-    visit("reference specs", engine.getAllReferenceSpecs());
-    visit("string specs", engine.getAllStringSpecs());
-    visit("groups", engine.getAllGroups());
-    visit("enumeration parameters", engine.getAllEnumerationParameters());
-    visit("Boolean parameters", engine.getAllBoolParameters());
-    visit("integer parameters", engine.getAllIntParameters());
-    visit("measurable parameters", engine.getAllMeasurableParameters());
-    visit("reference parameters", engine.getAllReferenceParameters());
-    visit("string parameters", engine.getAllStringParameters());
-    visit("domains", engine.getAllDomains());
-    visit("categories", engine.getAllCategories());
-}
-
+/// Returns how many objects there are of each kind, by the heads of their lists.
 std::map<std::string, std::size_t> countObjects(ParametersEngine& engine) {
-    std::map<std::string, std::size_t> counts;
-    forEachStore(engine, [&counts](const char* kind, const auto& objects) { counts[kind] = objects.size(); });
+    std::map<std::string, std::size_t> counts{{"units", engine.getUnitsEngine().getAllUnits().size()}};
+    Parameters::forEachKind([&](auto kind) { counts[std::string(kind.info.plural())] = kind.getAll(engine).size(); });
     return counts;
 }
 
 /// Returns the typeids of all objects but units.
-std::set<std::string> typeIdsIn(ParametersEngine& engine) {
+std::set<std::string> typeIdsIn(const ParametersEngine& engine) {
     std::set<std::string> typeIds;
-    forEachStore(engine, [&typeIds](const std::string& kind, const auto& objects) {
-        for (const auto& [typeId, object] : objects) {
-            if (kind != "units") {
-                typeIds.insert(typeId);
-            }
+    Parameters::forEachKind([&](auto kind) {
+        for (const auto& [typeId, object] : kind.getAll(engine)) {
+            typeIds.insert(typeId);
         }
     });
     return typeIds;
@@ -84,7 +59,7 @@ Texts exportsOf(ParametersEngine& engine) {
 
 bool isUnit(const std::string& text) { return baseOf(text).find("norvex.unit:unit-1.") != std::string::npos; }
 
-class Catalogue : public testing::TestWithParam<CatalogueFolder> {
+class WholeCatalogue : public testing::TestWithParam<CatalogueFolder> {
 protected:
     void SetUp() override {
         if (GetParam().path == nullptr) {
@@ -107,7 +82,7 @@ protected:
     ParametersEngine engine;
 };
 
-TEST_P(Catalogue, MakesAnObjectOfEachText) {
+TEST_P(WholeCatalogue, MakesAnObjectOfEachText) {
     load();
     const auto counts = countObjects(engine);
     EXPECT_EQ(counts, countByKind(texts));
@@ -118,13 +93,13 @@ TEST_P(Catalogue, MakesAnObjectOfEachText) {
     EXPECT_EQ(total, texts.size());
 }
 
-TEST_P(Catalogue, ShowsEveryKind) {
+TEST_P(WholeCatalogue, ShowsEveryKind) {
     for (const auto& [kind, count] : countByKind(texts)) {
         EXPECT_GT(count, 0U) << kind;
     }
 }
 
-TEST_P(Catalogue, ExportsToTextsThatLoadAgainAndExportToTheSame) {
+TEST_P(WholeCatalogue, ExportsToTextsThatLoadAgainAndExportToTheSame) {
     load();
     const Texts exports = exportsOf(engine);
     Texts batch = exports;
@@ -140,7 +115,7 @@ TEST_P(Catalogue, ExportsToTextsThatLoadAgainAndExportToTheSame) {
     EXPECT_EQ(exportsOf(fresh), exports);
 }
 
-TEST_P(Catalogue, LoadsTextByTextFromLastToFirst) {
+TEST_P(WholeCatalogue, LoadsTextByTextFromLastToFirst) {
     std::reverse(texts.begin(), texts.end());
     for (const std::string& text : texts) {
         if (isUnit(text)) {
@@ -156,7 +131,7 @@ TEST_P(Catalogue, LoadsTextByTextFromLastToFirst) {
     EXPECT_EQ(exportsOf(engine), exports);
 }
 
-TEST_P(Catalogue, NamesNothingThatIsNotRegistered) {
+TEST_P(WholeCatalogue, NamesNothingThatIsNotRegistered) {
     load();
     std::set<std::string> unknown;
     for (const std::string& typeId : typeIdsIn(engine)) {
@@ -173,7 +148,7 @@ TEST_P(Catalogue, NamesNothingThatIsNotRegistered) {
     EXPECT_EQ(unknown, std::set<std::string>{});
 }
 
-INSTANTIATE_TEST_SUITE_P(Folders, Catalogue,
+INSTANTIATE_TEST_SUITE_P(Folders, WholeCatalogue,
                          testing::Values(CatalogueFolder{"Examples", OSTRA_SOURCE_DIR "/examples/catalogue"},
                                          CatalogueFolder{"Large", std::getenv("OSTRA_CATALOGUE")}),
                          Support::nameOfRow);
