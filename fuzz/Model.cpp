@@ -1,127 +1,47 @@
 #include "Model.h"
 
-#include "support/SchemaTexts.h"
-
 #include <algorithm>
-#include <array>
+#include <cstddef>
+#include <string_view>
 
 namespace Fuzz {
 
 namespace {
 
-enum : std::size_t {
-    Enumeration,
-    FloatRange,
-    IntRange,
-    StringRange,
-    Discipline,
-    Domain,
-    Group,
-    MajorCategory,
-    SubCategory,
-    BoolSpec,
-    GeneralSpec,
-    IntSpec,
-    MeasurableSpec,
-    ReferenceSpec,
-    StringSpec,
-    EnumerationParameter,
-    BoolParameter,
-    IntParameter,
-    MeasurableParameter,
-    ReferenceParameter,
-    StringParameter,
-    Unit,
-};
+namespace Kinds = Parameters::Kinds;
 
-constexpr const char* name = R"({"id": "name", "value": "Name"})";
-constexpr const char* bounds = R"({"id": "fromBottom", "value": true}, {"id": "fromTop", "value": false},
-    {"id": "bottomBoundary", "value": -3})";
-constexpr const char* disciplinePrefix = "norvex.spec:discipline-1.";
-constexpr const char* groupPrefix = "norvex.parameter:group-1.";
-
-const Kind::Reference disciplineReference{Discipline, disciplinePrefix, "discipline", false};
-const Kind::Reference groupReference{Group, groupPrefix, "group", false};
-
-/// The version prefixes that no typeid may contain.
-constexpr std::array reserved{"norvex.range:range.string-1.",
-                              "norvex.range:range.string.set.static-1.",
-                              "norvex.range:range.string.regex-1.",
-                              "norvex.range:range.float64.bounded.static-1.",
-                              "norvex.range:range.int64.bounded.static-1.",
-                              "norvex.talmo.spec:familyType-1.",
-                              "norvex.spec:spec.bool-1.",
-                              "norvex.spec:spec.int64-2.",
-                              "norvex.spec:spec.reference-1.",
-                              "norvex.spec:spec.string-2.",
-                              disciplinePrefix,
-                              groupPrefix};
-
-bool isReserved(const std::string& typeId) {
-    return std::any_of(reserved.begin(), reserved.end(),
-                       [&](const char* prefix) { return typeId.find(prefix) != std::string::npos; });
+bool contains(const std::string& typeId, std::string_view base) {
+    return typeId.find(Support::versionPrefixOf(base)) != std::string::npos;
 }
 
-bool isCategory(std::size_t kind) { return kind == MajorCategory || kind == SubCategory; }
+/// Whether a typeid is one of the kind that needs no object.
+bool isReserved(const std::string& typeId, Parameters::KindInfo kind) {
+    return (kind.isRange() || !kind.builtInName().empty()) &&
+           std::any_of(kind.bases().begin(), kind.bases().end(),
+                       [&](std::string_view base) { return contains(typeId, base); });
+}
+
+/// Whether no object can have a typeid.
+bool isReserved(const std::string& typeId) {
+    bool reserved = contains(typeId, Kinds::ReferenceSpec::familyType);
+    Parameters::forEachKind([&](auto kind) { reserved = reserved || isReserved(typeId, kind.info); });
+    return reserved;
+}
+
+std::vector<Support::Shape> allShapes() {
+    std::vector<Support::Shape> all = Support::everyShape();
+    all.push_back(Support::unitShape());
+    return all;
+}
 
 } // namespace
 
-const std::size_t unitKind = Unit;
-
-const std::vector<Kind> kinds{
-    {"Enum", name, {}, R"(, "properties": [{"id": "on", "value": 1}, {"id": "off", "value": 0}])"},
-    {"norvex.range:range.float64.bounded.static-1.0.0", bounds, {}},
-    {"norvex.range:range.int64.bounded.static-1.0.0", bounds, {}},
-    {"norvex.range:range.string.regex-1.0.0", R"({"id": "regex", "value": "[a-z]*"})", {}},
-    {"norvex.spec:discipline-1.0.0", name, {}},
-    {"norvex.talmo.category:domain-1.0.0", name, {}},
-    {"norvex.parameter:group-1.0.0", name, {}},
-    {"norvex.talmo.category:majorCategory-1.0.0", name, {{Domain, nullptr, "domain", true}}},
-    {"norvex.talmo.category:subCategory-1.0.0", name, {{MajorCategory, nullptr, "parent", true}}},
-    {"norvex.spec:spec.bool-1.0.0", name, {disciplineReference}},
-    {"norvex.spec:spec-1.0.0", name, {disciplineReference}},
-    {"norvex.spec:spec.int64-2.0.0", name, {disciplineReference}},
-    {"norvex.spec:spec.measurable-2.0.0", name, {disciplineReference, {Unit, nullptr, "storageUnit", true}}},
-    {"norvex.spec:spec.reference-1.0.0", name, {disciplineReference, {SubCategory, nullptr, "category", false}}},
-    {"norvex.spec:spec.string-2.0.0", name, {disciplineReference}},
-    {"norvex.parameter:parameter-2.0.0",
-     name,
-     {{Enumeration, nullptr, nullptr, true}, groupReference, {GeneralSpec, nullptr, "spec", true}},
-     R"(, "properties": [{"id": "value", "typedValue": {"typeid": %}}])"},
-    {"norvex.parameter:parameter.bool-2.0.0",
-     name,
-     {groupReference, {BoolSpec, "norvex.spec:spec.bool-1.", "spec", false}}},
-    {"norvex.parameter:parameter.int64-3.0.0",
-     name,
-     {groupReference, {IntSpec, "norvex.spec:spec.int64-2.", "spec", false}, {IntRange, nullptr, "range", false}}},
-    {"norvex.parameter:parameter.measurable-3.0.0",
-     name,
-     {groupReference, {MeasurableSpec, nullptr, "spec", true}, {FloatRange, nullptr, "range", false}}},
-    {"norvex.parameter:parameter.reference-2.0.0",
-     name,
-     {groupReference, {ReferenceSpec, "norvex.spec:spec.reference-1.", "spec", false}}},
-    {"norvex.parameter:parameter.string-3.0.0",
-     name,
-     {groupReference,
-      {StringSpec, "norvex.spec:spec.string-2.", "spec", false},
-      {StringRange, nullptr, "range", false}}},
-    {"norvex.unit:unit-1.0.0", name, {}},
-};
+const std::vector<Support::Shape> shapes = allShapes();
 
 std::string Schema::text() const {
-    const Kind& own = kinds[kind];
-    std::string constants = own.before;
-    for (std::size_t i = 0; i < named.size(); ++i) {
-        if (own.references[i].constant != nullptr && !named[i].empty()) {
-            constants += ", " + Support::typedConstant(own.references[i].constant, named[i]);
-        }
-    }
-    std::string text = Support::schemaText(typeId, own.base, constants);
-    std::string after = own.after;
-    if (const std::size_t place = after.find('%'); place != std::string::npos) {
-        after.replace(place, 1, Support::quoted(named[0]));
-    }
-    return text.insert(text.size() - 1, after);
+    return shape->text(typeId, "1", [this](const Support::Reference& reference) {
+        return named.at(static_cast<std::size_t>(&reference - shape->form.references.data()));
+    });
 }
 
 bool Model::isTaken(const std::string& typeId) const { return known_.count(typeId) == 1 || isReserved(typeId); }
@@ -130,7 +50,7 @@ bool Model::accepts(const Schema& schema) const {
     if (schema.typeId.empty() || isTaken(schema.typeId)) {
         return false;
     }
-    const auto& references = kinds[schema.kind].references;
+    const auto& references = schema.shape->form.references;
     for (std::size_t i = 0; i < references.size(); ++i) {
         if (references[i].required && schema.named[i].empty()) {
             return false;
@@ -161,40 +81,38 @@ void Model::resolve(const std::string& typeId) { known_.at(typeId).resolved = tr
 
 void Model::resolveUnits() {
     for (auto& [typeId, known] : known_) {
-        known.resolved = known.resolved || known.schema.kind == Unit;
+        known.resolved = known.resolved || known.schema.isUnit();
     }
 }
 
 bool Model::isPending(const std::string& typeId) const {
     const auto found = known_.find(typeId);
-    return found != known_.end() && !found->second.resolved && found->second.schema.kind != Unit;
+    return found != known_.end() && !found->second.resolved && !found->second.schema.isUnit();
 }
 
 bool Model::discard(const std::string& typeId) { return isPending(typeId) && known_.erase(typeId) == 1; }
 
 /// Whether what a reference names is such an object, or will be.
-bool Model::names(const Known& known, const Kind::Reference& reference, const std::string& typeId) const {
-    if (typeId.empty() || (reference.builtIn != nullptr && typeId.find(reference.builtIn) != std::string::npos)) {
+bool Model::names(const Support::Reference& reference, const std::string& typeId) const {
+    if (typeId.empty() || (reference.mayBeBuiltIn() && isReserved(typeId, *reference.kind))) {
         return true;
     }
     const auto found = known_.find(typeId);
     if (found == known_.end()) {
         return false;
     }
-    const std::size_t kind = found->second.schema.kind;
-    // A subcategory's parent is a major category; a spec's category may be either.
-    const bool fits = kind == reference.kind ||
-                      (known.schema.kind == ReferenceSpec && isCategory(reference.kind) && isCategory(kind));
-    return fits && isBuildable(found->second);
+    const Support::Shape& shape = *found->second.schema.shape;
+    return shape.kind == reference.kind && (reference.base.empty() || reference.base == shape.base) &&
+           isBuildable(found->second);
 }
 
 bool Model::isBuildable(const Known& known) const {
     if (known.resolved) {
         return true;
     }
-    const auto& references = kinds[known.schema.kind].references;
+    const auto& references = known.schema.shape->form.references;
     for (std::size_t i = 0; i < references.size(); ++i) {
-        if (!names(known, references[i], known.schema.named[i])) {
+        if (!names(references[i], known.schema.named[i])) {
             return false;
         }
     }
@@ -214,7 +132,7 @@ std::set<std::string> Model::unresolvable() const {
 std::set<std::string> Model::objects() const {
     std::set<std::string> typeIds;
     for (const auto& [typeId, known] : known_) {
-        if (known.resolved && known.schema.kind != Unit) {
+        if (known.resolved && !known.schema.isUnit()) {
             typeIds.insert(typeId);
         }
     }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstddef>
+#include "support/Samples.h"
+
 #include <map>
 #include <set>
 #include <string>
@@ -8,34 +9,18 @@
 
 namespace Fuzz {
 
-/// A kind of schema, and what its schemas name.
-struct Kind {
-    /// A constant that names an object.
-    struct Reference {
-        std::size_t kind;    // of what is named, as its place in the list of kinds
-        const char* builtIn; // the prefix of typeids that need no object; null where there is none
-        const char* constant;
-        bool required;
-    };
+/// Every shape that a schema may have, units last.
+extern const std::vector<Support::Shape> shapes;
 
-    const char* base;
-    const char* before; // JSON among the constants
-    std::vector<Reference> references;
-    const char* after = ""; // JSON behind the constants; a % stands for the first typeid that is named
-};
-
-/// Every kind, units last.
-extern const std::vector<Kind> kinds;
-extern const std::size_t unitKind;
-
-/// A schema that is known to be well formed, and what it names: one typeid for each reference of its kind, empty where
+/// A schema that is known to be well formed, and what it names: one typeid for each reference of its shape, empty where
 /// the constant is left out.
 struct Schema {
-    std::size_t kind;
+    const Support::Shape* shape;
     std::string typeId;
     std::vector<std::string> named;
 
     std::string text() const;
+    bool isUnit() const { return !shape->kind; }
 };
 
 /// What an engine must hold after each operation, kept as simply as can be.
@@ -66,7 +51,7 @@ private:
     };
 
     bool isBuildable(const Known& known) const;
-    bool names(const Known& known, const Kind::Reference& reference, const std::string& typeId) const;
+    bool names(const Support::Reference& reference, const std::string& typeId) const;
 
     std::map<std::string, Known> known_;
 };

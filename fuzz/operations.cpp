@@ -1,11 +1,13 @@
 #include "Fuzz.h"
 #include "Model.h"
 
+#include <algorithm>
 #include <array>
 #include <map>
-#include <optional>
+#include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 // Operations on an engine, decoded from bytes, beside a simple model that says what each must do.
 
@@ -72,6 +74,8 @@ private:
     void registerUnit(const Schema& schema);
     void registerBatch(Bytes& bytes);
     void registerObject(Bytes& bytes);
+    template <class Kind>
+    void registerObject(const std::string& typeId);
     void resolve();
 
     ParametersEngine engine_;
@@ -79,16 +83,16 @@ private:
 };
 
 Schema Pair::schemaFrom(Bytes& bytes) const {
-    Schema schema{bytes.below(Fuzz::kinds.size()), typeIds[bytes.below(typeIds.size())], {}};
-    for (const auto& reference : Fuzz::kinds[schema.kind].references) {
-        static_cast<void>(reference);
+    const Support::Shape& shape = Fuzz::shapes[bytes.below(Fuzz::shapes.size())];
+    Schema schema{&shape, typeIds[bytes.below(typeIds.size())], {}};
+    while (schema.named.size() < shape.form.references.size()) {
         schema.named.push_back(typeIds[bytes.below(typeIds.size())]);
     }
     return schema;
 }
 
 void Pair::registerText(const Schema& schema) {
-    if (schema.kind == Fuzz::unitKind) {
+    if (schema.isUnit()) {
         registerUnit(schema);
         return;
     }
@@ -140,15 +144,27 @@ void Pair::registerBatch(Bytes& bytes) {
 
 void Pair::registerObject(Bytes& bytes) {
     const std::string& typeId = typeIds[bytes.below(typeIds.size())];
-    const std::size_t kind = 4 + bytes.below(3);
-    const Parameters::Taxon taxon(typeId, "Name");
-    const std::string refusal = Fuzz::refusalOf([&] {
-        kind == 4   ? engine_.registerDiscipline(taxon)
-        : kind == 5 ? engine_.registerDomain(taxon)
-                    : engine_.registerGroup(taxon);
+    const std::size_t place = bytes.below(Parameters::Kinds::All::size);
+    Parameters::forEachKind([&](auto kind) {
+        if (Parameters::Kinds::indexOf<decltype(kind)> == place) {
+            registerObject<decltype(kind)>(typeId);
+        }
     });
-    const Schema schema{kind, typeId, {}};
-    require(refusal.empty() == model_.accepts(schema), "an object is accepted when it is new: " + refusal);
+}
+
+/// An object names no more than it must; nothing that it must name is there.
+template <class Kind>
+void Pair::registerObject(const std::string& typeId) {
+    const auto shape = std::find_if(Fuzz::shapes.begin(), Fuzz::shapes.end(), [](const Support::Shape& one) {
+        return one.base == Support::mainShapeOf<Kind>().base;
+    });
+    const auto& references = shape->form.references;
+    const bool namesNothing = std::none_of(references.begin(), references.end(),
+                                           [](const Support::Reference& reference) { return reference.required; });
+    const Schema schema{&*shape, typeId, std::vector<std::string>(references.size())};
+    const std::string refusal = Fuzz::refusalOf([&] { Kind::add(engine_, Support::Sample<Kind>::make(typeId, "1")); });
+    require(refusal.empty() == (namesNothing && model_.accepts(schema)),
+            "an object is accepted when it is new: " + refusal);
     if (refusal.empty()) {
         model_.add(schema);
         model_.resolve(typeId);

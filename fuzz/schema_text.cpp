@@ -1,6 +1,8 @@
 #include "Fuzz.h"
 #include "support/Catalogue.h"
 
+#include <parameters/Kinds.h>
+
 #include <map>
 #include <string>
 
@@ -33,11 +35,8 @@ void exportObject(ParametersEngine& engine, const std::string& typeId) {
 /// Reads the text in the other ways that there are; what registration refuses, they refuse.
 void readAsParameter(const ParametersEngine& engine, const std::string& text) {
     Fuzz::refusalOf([&] { engine.readValueType(text); });
-    Fuzz::refusalOf([&] { engine.readBoolParameter(text); });
-    Fuzz::refusalOf([&] { engine.readIntParameter(text); });
-    Fuzz::refusalOf([&] { engine.readMeasurableParameter(text); });
-    Fuzz::refusalOf([&] { engine.readReferenceParameter(text); });
-    Fuzz::refusalOf([&] { engine.readStringParameter(text); });
+    Parameters::forEachKind(Parameters::Kinds::Readable{},
+                            [&](auto kind) { Fuzz::refusalOf([&] { kind.read(engine, text); }); });
 }
 
 void registerAndResolve(ParametersEngine engine, const std::string& text) {

@@ -94,7 +94,7 @@ struct Sample {
 
 /// The typeid of what the samples name where they must name an object of a kind or, where there is none, a unit.
 inline std::string sampleIdOf(const std::optional<Parameters::KindInfo>& kind) {
-    return "the " + std::string(kind ? kind->id() : "unit") + " of the samples";
+    return std::string(kind ? kind->id() : "unit").append(" of the samples");
 }
 
 inline std::string nameConstant(const std::string& content) { return constant("name", quoted(content)); }
@@ -221,8 +221,8 @@ struct Sample<Kinds::StringRange> : NamelessSample {
     }
     static std::vector<Form> forms() {
         return {{[](const std::string&) { return std::string(); }},
-                {[](const std::string& content) {
-                    return constant("allowedValues", "[" + quoted(content) + ", " + quoted("not " + content) + "]");
+                {[](const std::string&) {
+                    return constant("allowedValues", R"(["one value that is allowed", "another one"])");
                 }},
                 {[](const std::string& content) { return constant("regex", quoted(content)); }}};
     }
