@@ -1,5 +1,4 @@
 #include "support/KindTypes.h"
-#include "support/Messages.h"
 #include "support/Refusal.h"
 #include "support/Sentences.h"
 

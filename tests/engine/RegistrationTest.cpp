@@ -141,12 +141,6 @@ struct Refusal {
 };
 
 const Refusal refusals[] = {
-    {"BoolSpecOfAnUnknownDiscipline", [](ParametersEngine& e) { e.registerBoolSpec(boolSpecOf("x")); },
-     "Could not find discipline with typeid x."},
-    {"BoolSpecOfAPendingDiscipline", [](ParametersEngine& e) { e.registerBoolSpec(boolSpecOf("pending discipline")); },
-     "Could not find discipline with typeid pending discipline."},
-    {"BoolSpecOfAGroup", [](ParametersEngine& e) { e.registerBoolSpec(boolSpecOf("group")); },
-     "Could not find discipline with typeid group."},
     {"BoolSpecOfTheBuiltInGroup",
      [](ParametersEngine& e) { e.registerBoolSpec(boolSpecOf("norvex.parameter:group-1.0.0")); },
      "Could not find discipline with typeid norvex.parameter:group-1.0.0."},
@@ -154,36 +148,11 @@ const Refusal refusals[] = {
      "Could not find discipline with typeid s."},
     {"BoolSpecOfTheEmptyTypeId", [](ParametersEngine& e) { e.registerBoolSpec(boolSpecOf("")); },
      "Could not find discipline with typeid ."},
-    {"GeneralSpecOfAnUnknownDiscipline",
-     [](ParametersEngine& e) { e.registerGeneralSpec(GeneralSpec(SpecCore("s", "Spec", Taxon("x", "")))); },
-     "Could not find discipline with typeid x."},
-    {"ParameterInAnUnknownGroup",
-     [](ParametersEngine& e) { e.registerBoolParameter(parameterIn(Taxon("x", ""), builtInSpec)); },
-     "Could not find group with typeid x."},
-    {"ParameterInAPendingGroup",
-     [](ParametersEngine& e) { e.registerBoolParameter(parameterIn(Taxon("pending group", ""), builtInSpec)); },
-     "Could not find group with typeid pending group."},
-    {"ParameterInADomain",
-     [](ParametersEngine& e) { e.registerBoolParameter(parameterIn(Taxon("domain", ""), builtInSpec)); },
-     "Could not find group with typeid domain."},
     {"ParameterInTheBuiltInDiscipline",
      [](ParametersEngine& e) {
          e.registerBoolParameter(parameterIn(Taxon("norvex.spec:discipline-1.0.0", ""), builtInSpec));
      },
      "Could not find group with typeid norvex.spec:discipline-1.0.0."},
-    {"ParameterOfAnUnknownSpec",
-     [](ParametersEngine& e) { e.registerBoolParameter(parameterIn(builtInGroup, BoolSpec(SpecCore("x", "")))); },
-     "Could not find Boolean spec with typeid x."},
-    {"ParameterOfAPendingSpec",
-     [](ParametersEngine& e) {
-         e.registerBoolParameter(parameterIn(builtInGroup, BoolSpec(SpecCore("pending spec", ""))));
-     },
-     "Could not find Boolean spec with typeid pending spec."},
-    {"ParameterOfAGeneralSpec",
-     [](ParametersEngine& e) {
-         e.registerBoolParameter(parameterIn(builtInGroup, BoolSpec(SpecCore("general spec", ""))));
-     },
-     "Could not find Boolean spec with typeid general spec."},
     {"ParameterOfTheBuiltInIntegerSpec",
      [](ParametersEngine& e) {
          e.registerBoolParameter(parameterIn(builtInGroup, BoolSpec(SpecCore("norvex.spec:spec.int64-2.0.0", ""))));

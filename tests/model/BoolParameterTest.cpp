@@ -10,7 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
 #include <string>
 #include <vector>
 
@@ -22,7 +21,6 @@ using Parameters::ParameterCore;
 using Parameters::ParametersEngine;
 using Parameters::SpecCore;
 using Parameters::Taxon;
-using Parameters::UnrecognizedIdentifierException;
 using Parameters::ValidationException;
 using Support::boolParameterText;
 using Support::constant;
@@ -98,112 +96,16 @@ TEST(BoolParameter, HasTheSpecYesNoByDefault) {
     EXPECT_EQ(spec.getDiscipline().getName(), "Common");
 }
 
-TEST(BoolParameter, NeedsNoSpecOfTheBuiltInMajorVersion) {
-    const SpecCore spec =
-        engineOf({textNaming("norvex.spec:spec.bool-1.4.0")}).getBoolParameter("gate").getSpec().getCore();
-    EXPECT_EQ(spec.getTypeId(), "norvex.spec:spec.bool-1.4.0");
-    EXPECT_EQ(spec.getName(), "Yes/No");
-    EXPECT_EQ(spec.getDiscipline().getTypeId(), "norvex.spec:discipline-1.0.0");
-    EXPECT_EQ(spec.getDiscipline().getName(), "Common");
-}
-
-TEST(BoolParameter, NeedsNoSpecWhoseTypeIdContainsTheBuiltInOne) {
-    const SpecCore spec =
-        engineOf({textNaming("my norvex.spec:spec.bool-1.x")}).getBoolParameter("gate").getSpec().getCore();
-    EXPECT_EQ(spec.getTypeId(), "my norvex.spec:spec.bool-1.x");
-    EXPECT_EQ(spec.getName(), "Yes/No");
-}
-
-TEST(BoolParameter, HasTheSpecRegisteredBefore) {
-    ParametersEngine engine;
-    engine.registerBoolSpec(BoolSpec(SpecCore("open", "Open/Closed")));
-    engine.registerSchema(textNaming("open"));
-    engine.resolveSchemas();
-    EXPECT_EQ(engine.getBoolParameter("gate").getSpec().getCore().getTypeId(), "open");
-    EXPECT_EQ(engine.getBoolParameter("gate").getSpec().getCore().getName(), "Open/Closed");
-}
-
-TEST(BoolParameter, HasTheSpecResolvedWithIt) {
-    const ParametersEngine engine = engineOf({textNaming("open"), openSpec});
-    EXPECT_EQ(engine.getBoolParameter("gate").getSpec().getCore().getName(), "Open/Closed");
-}
-
-TEST(BoolParameter, FailsToResolveWithoutItsSpec) {
-    EXPECT_EQ(failureOf({textNaming("open")}),
-              "Dependency open in schema gate is missing or does not represent an object of the expected type.");
-}
-
-TEST(BoolParameter, FailsToResolveWithASpecOfAnotherMajorVersion) {
-    EXPECT_EQ(failureOf({textNaming("norvex.spec:spec.bool-2.0.0")}),
-              "Dependency norvex.spec:spec.bool-2.0.0 in schema gate is missing or does not represent an object of "
-              "the expected type.");
-}
-
-TEST(BoolParameter, FailsToResolveWithTheIntegerSpec) {
-    EXPECT_EQ(failureOf({textNaming("norvex.spec:spec.int64-2.0.0")}),
-              "Dependency norvex.spec:spec.int64-2.0.0 in schema gate is missing or does not represent an object of "
-              "the expected type.");
-}
-
-TEST(BoolParameter, FailsToResolveWithAGeneralSpec) {
-    EXPECT_EQ(failureOf({textNaming("open"), namedText("open", "norvex.spec:spec-1.0.0", "N")}),
-              "Dependency open in schema gate is missing or does not represent an object of the expected type.");
-}
-
-TEST(BoolParameter, FailsToResolveWithAGroupAsItsSpec) {
-    EXPECT_EQ(failureOf({textNaming("open"), groupText("open")}),
-              "Dependency open in schema gate is missing or does not represent an object of the expected type.");
-}
-
-TEST(BoolParameter, FailsToResolveForItsGroupBeforeItsSpec) {
+TEST(BoolParameter, FailsForItsGroupBeforeItsSpec) {
     EXPECT_EQ(failureOf({boolParameterText("gate", "safety", "open")}),
               "Dependency safety in schema gate is missing or does not represent an object of the expected type.");
-}
-
-TEST(BoolParameter, FailsToResolveForItsSpecWhenItsGroupIsThere) {
     EXPECT_EQ(failureOf({boolParameterText("gate", "safety", "open"), groupText("safety")}),
               "Dependency open in schema gate is missing or does not represent an object of the expected type.");
-}
-
-TEST(BoolParameter, IsRefusedWithoutItsSpec) {
-    EXPECT_EQ(refusalOfObject(gateOf("open")), "Could not find Boolean spec with typeid open.");
-}
-
-TEST(BoolParameter, IsRefusedWithASpecThatIsOnlyPending) {
-    ParametersEngine engine;
-    engine.registerSchema(openSpec);
-    EXPECT_EQ(refusalOfObject(gateOf("open"), engine), "Could not find Boolean spec with typeid open.");
-}
-
-TEST(BoolParameter, IsRefusedWithASpecOfAnotherMajorVersion) {
-    EXPECT_EQ(refusalOfObject(gateOf("norvex.spec:spec.bool-2.0.0")),
-              "Could not find Boolean spec with typeid norvex.spec:spec.bool-2.0.0.");
-}
-
-TEST(BoolParameter, IsRefusedWithAGeneralSpecAsItsSpec) {
-    EXPECT_EQ(refusalOfObject(gateOf("open"), engineOf({namedText("open", "norvex.spec:spec-1.0.0", "N")})),
-              "Could not find Boolean spec with typeid open.");
-}
-
-TEST(BoolParameter, IsRefusedForItsGroupBeforeItsSpec) {
     EXPECT_EQ(refusalOfObject(gateOf("open", "safety")), "Could not find group with typeid safety.");
-}
-
-TEST(BoolParameter, IsRefusedForItsSpecWhenItsGroupIsThere) {
     EXPECT_EQ(refusalOfObject(gateOf("open", "safety"), engineOf({groupText("safety")})),
               "Could not find Boolean spec with typeid open.");
-}
-
-TEST(BoolParameter, IsRefusedForItsTypeIdBeforeItsGroupAndSpec) {
     EXPECT_EQ(refusalOfObject(gateOf("open", "safety"), engineOf({groupText("gate")})),
               "Schema with typeid gate is already registered.");
-}
-
-TEST(BoolParameter, IsNotRegisteredWhenItIsRefused) {
-    ParametersEngine engine;
-    EXPECT_THROW(engine.registerBoolParameter(gateOf("open")), ValidationException);
-    EXPECT_FALSE(engine.isRegistered("gate"));
-    EXPECT_TRUE(engine.getAllBoolParameters().empty());
 }
 
 TEST(BoolParameter, GetsTheRegisteredSpecForTheOneItWasGiven) {
@@ -281,25 +183,6 @@ TEST(BoolParameter, SurvivesTheRoundTripWithASpecOfAnyBytes) {
     EXPECT_EQ(rewritten(engine, "gate", text), text);
 }
 
-TEST(BoolParameter, NamesItsGroupAndItsSpecAsItsDependencies) {
-    EXPECT_EQ(engineOf({schemaText("gate", base, nameOnly)}).getDependencies("gate"),
-              (std::set<std::string>{"norvex.parameter:group-1.0.0", "norvex.spec:spec.bool-1.0.0"}));
-    EXPECT_EQ(
-        engineOf({boolParameterText("gate", "safety", "open"), groupText("safety"), openSpec}).getDependencies("gate"),
-        (std::set<std::string>{"safety", "open"}));
-}
-
-TEST(BoolParameter, IsMissedByItsKind) {
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([] { ParametersEngine().getBoolParameter("x"); }),
-              "Could not find Boolean parameter with typeid x.");
-}
-
-TEST(BoolParameter, HasNoBuiltInObject) {
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>(
-                  [] { ParametersEngine().getBoolParameter("norvex.parameter:parameter.bool-2.0.0"); }),
-              "Could not find Boolean parameter with typeid norvex.parameter:parameter.bool-2.0.0.");
-}
-
 TEST(BoolParameter, IsReadFromAPlainValueAsItsSpec) {
     const std::string text = schemaText("gate", base, nameOnly + ", " + constant("spec", R"({"typeid": "open"})"));
     EXPECT_EQ(engineOf({openSpec, text}).getBoolParameter("gate").getSpec().getCore().getName(), "Open/Closed");
@@ -330,42 +213,5 @@ TEST_P(RefusedSpecOfBoolParameter, FailsWithTheFirstFault) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Spec, RefusedSpecOfBoolParameter, testing::ValuesIn(specFaults), Support::nameOfRow);
-
-/// The same through readBoolParameter, which looks among registered objects only.
-class ReadBoolParameter : public testing::Test {
-protected:
-    std::string failureOfReading(const std::string& text) const {
-        return messageOf<ValidationException>([&] { engine_.readBoolParameter(text); });
-    }
-
-    ParametersEngine engine_;
-};
-
-TEST_F(ReadBoolParameter, FindsWhatIsRegistered) {
-    engine_ = engineOf({groupText("safety", "Dam Safety"), openSpec});
-    const BoolParameter parameter = engine_.readBoolParameter(boolParameterText("gate", "safety", "open"));
-    EXPECT_EQ(parameter.getCore().getGroup().getName(), "Dam Safety");
-    EXPECT_EQ(parameter.getSpec().getCore().getName(), "Open/Closed");
-}
-
-TEST_F(ReadBoolParameter, MissesItsGroupBeforeItsSpec) {
-    EXPECT_EQ(failureOfReading(boolParameterText("gate", "safety", "open")),
-              "Could not find group with typeid safety.");
-}
-
-TEST_F(ReadBoolParameter, MissesItsSpec) {
-    EXPECT_EQ(failureOfReading(textNaming("open")), "Could not find Boolean spec with typeid open.");
-}
-
-TEST_F(ReadBoolParameter, MissesASpecThatIsOnlyPending) {
-    engine_.registerSchema(openSpec);
-    EXPECT_EQ(failureOfReading(textNaming("open")), "Could not find Boolean spec with typeid open.");
-}
-
-TEST_F(ReadBoolParameter, KeepsTheTypeIdOfABuiltInSpec) {
-    const SpecCore spec = engine_.readBoolParameter(textNaming("norvex.spec:spec.bool-1.4.0")).getSpec().getCore();
-    EXPECT_EQ(spec.getTypeId(), "norvex.spec:spec.bool-1.4.0");
-    EXPECT_EQ(spec.getName(), "Yes/No");
-}
 
 } // namespace

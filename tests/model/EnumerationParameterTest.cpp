@@ -3,7 +3,6 @@
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
 #include "support/Fault.h"
-#include "support/Messages.h"
 #include "support/NamingFault.h"
 #include "support/Refusal.h"
 #include "support/RowNames.h"
@@ -14,7 +13,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -81,13 +79,6 @@ ParametersEngine stocked() {
     return engine;
 }
 
-EnumerationParameter resolved(const std::string& text) {
-    ParametersEngine engine = stocked();
-    engine.registerSchema(text);
-    engine.resolveSchemas();
-    return engine.getEnumerationParameter("p");
-}
-
 std::string writtenBy(const EnumerationParameter& parameter) {
     ParametersEngine engine = stocked();
     engine.registerEnumerationParameter(parameter);
@@ -102,39 +93,6 @@ TEST(EnumerationParameter, KeepsWhatItIsMadeWith) {
     EXPECT_EQ(parameter.getSpec().getCore().getName(), "Spec");
     EXPECT_EQ(parameter.getEnumeration().getTypeId(), "e");
     EXPECT_EQ(parameter.getEnumeration().getValues(), (Values{{"b", 2}, {"a", 1}}));
-}
-
-TEST(EnumerationParameter, HasDefaultsForAllThatItMayLeaveOut) {
-    const EnumerationParameter parameter = resolved(textOf(namesS, namesE));
-    EXPECT_EQ(parameter.getCore().getName(), "Name");
-    EXPECT_EQ(parameter.getCore().getDescription(), "");
-    EXPECT_EQ(parameter.getCore().getSampleText(), "");
-    EXPECT_EQ(parameter.getCore().getGroup().getTypeId(), "norvex.parameter:group-1.0.0");
-    EXPECT_EQ(parameter.getCore().getGroup().getName(), "Other");
-    EXPECT_FALSE(parameter.getCore().isReadOnly());
-    EXPECT_EQ(parameter.getSpec().getCore().getName(), "The spec");
-    EXPECT_EQ(parameter.getEnumeration().getValues(), (Values{{"b", 2}, {"a", 1}}));
-}
-
-TEST(EnumerationParameter, TakesAllItsConstants) {
-    const EnumerationParameter parameter =
-        resolved(textOf(R"({"id": "spec", "typedValue": {"typeid": "s"}}, {"id": "readOnly", "value": true},
-                  {"id": "group", "typedValue": {"typeid": "g"}}, {"id": "sampleText", "value": "a"},
-                  {"id": "description", "value": "About it"})",
-                        R"({"id": "other", "value": 5}, {"id": "value", "typedValue": {"typeid": "e"}})"));
-    EXPECT_EQ(parameter.getCore().getDescription(), "About it");
-    EXPECT_EQ(parameter.getCore().getSampleText(), "a");
-    EXPECT_EQ(parameter.getCore().getGroup().getName(), "The group");
-    EXPECT_TRUE(parameter.getCore().isReadOnly());
-}
-
-TEST(EnumerationParameter, InheritsAnyMinorVersionOfItsBaseAlone) {
-    ParametersEngine engine = stocked();
-    engine.registerSchema(fullText(nameOnly + ", " + namesS, namesE, "my norvex.parameter:parameter-2.7.1"));
-    engine.resolveSchemas();
-    EXPECT_EQ(engine.getSchema("p"), writtenMinimal);
-    EXPECT_EQ(refusalOf(fullText(nameOnly, "", "norvex.parameter:parameter-3.0.0")),
-              "Inheritance from an unrecognized base schema.");
 }
 
 TEST(EnumerationParameter, IsWhatABaseOfBooleanParametersTooMakes) {
@@ -259,22 +217,10 @@ INSTANTIATE_TEST_SUITE_P(EnumerationParameter, EnumerationParameterFault, testin
                          Support::nameOfRow);
 
 const NamingFault namingFaults[] = {
-    {"Group", "x", "s", "e", "Could not find group with typeid x.",
-     "Dependency x in schema p is missing or does not represent an object of the expected type."},
-    {"Spec", "g", "x", "e", "Could not find general spec with typeid x.",
-     "Dependency x in schema p is missing or does not represent an object of the expected type."},
-    {"Enumeration", "g", "s", "x", "Could not find enumeration with typeid x.",
-     "Dependency x in schema p is missing or does not represent an object of the expected type."},
     {"GroupBeforeSpecAndEnumeration", "x", "y", "z", "Could not find group with typeid x.",
      "Dependency x in schema p is missing or does not represent an object of the expected type."},
     {"EnumerationOrSpecFirst", "g", "y", "z", "Could not find enumeration with typeid z.",
      "Dependency y in schema p is missing or does not represent an object of the expected type."},
-    {"GroupOfAnotherKind", "discipline", "s", "e", "Could not find group with typeid discipline.",
-     "Dependency discipline in schema p is missing or does not represent an object of the expected type."},
-    {"SpecOfAnotherKind", "g", "boolSpec", "e", "Could not find general spec with typeid boolSpec.",
-     "Dependency boolSpec in schema p is missing or does not represent an object of the expected type."},
-    {"EnumerationOfAnotherKind", "g", "s", "intRange", "Could not find enumeration with typeid intRange.",
-     "Dependency intRange in schema p is missing or does not represent an object of the expected type."},
     {"SpecWithoutABuiltInObject", "g", "norvex.spec:spec-1.0.0", "e",
      "Could not find general spec with typeid norvex.spec:spec-1.0.0.",
      "Dependency norvex.spec:spec-1.0.0 in schema p is missing or does not represent an object of the expected type."},
@@ -301,17 +247,6 @@ TEST_P(EnumerationParameterNaming, FailsRegistration) {
 
 INSTANTIATE_TEST_SUITE_P(EnumerationParameter, EnumerationParameterNaming, testing::ValuesIn(namingFaults),
                          Support::nameOfRow);
-
-TEST(EnumerationParameter, IsNotBoundToWhatIsOnlyPending) {
-    ParametersEngine engine;
-    engine.registerSchema(R"({"typeid": "e", "inherits": ["Enum"], "properties": [{"id": "a", "value": 1}]})");
-    engine.registerGeneralSpec(specOf("s"));
-    EXPECT_EQ(refusalBy(engine,
-                        [&] {
-                            engine.registerEnumerationParameter({coreOf("p"), specOf("s"), enumerationOf("e")});
-                        }),
-              "Could not find enumeration with typeid e.");
-}
 
 TEST(EnumerationParameter, HasItsTypeIdCheckedFirst) {
     ParametersEngine engine = stocked();
@@ -346,25 +281,6 @@ TEST(EnumerationParameter, IsBoundToTheRegisteredObjectsInPlaceOfItsOwn) {
     EXPECT_EQ(parameter.getSpec().getCore().getName(), "The spec");
     EXPECT_EQ(parameter.getEnumeration().getValues(), (Values{{"b", 2}, {"a", 1}}));
     EXPECT_EQ(engine.getAllEnumerationParameters().at("p").getEnumeration().getValues(), (Values{{"b", 2}, {"a", 1}}));
-}
-
-TEST(EnumerationParameter, ReportsWhatItNamesAndIsNotThere) {
-    ParametersEngine engine;
-    const auto missing = engine.registerSchema(textOf(namesS + ", " + typedConstant("group", "g"), namesE));
-    EXPECT_EQ(missing.first, (std::set<std::string>{"e", "g", "s"}));
-    EXPECT_TRUE(missing.second.empty());
-}
-
-TEST(EnumerationParameter, DoesNotReportWhatIsThere) {
-    EXPECT_TRUE(stocked().registerSchema(textOf(namesS, namesE)).first.empty());
-}
-
-TEST(EnumerationParameter, DependsOnGroupSpecAndEnumeration) {
-    ParametersEngine engine = stocked();
-    engine.registerEnumerationParameter({coreOf("p", "g"), specOf("s"), enumerationOf("e")});
-    EXPECT_EQ(engine.getDependencies("p"), (std::set<std::string>{"e", "g", "s"}));
-    EXPECT_EQ(engineOf({textOf(namesS, namesE)}, stocked()).getDependencies("p"),
-              (std::set<std::string>{"e", "norvex.parameter:group-1.0.0", "s"}));
 }
 
 TEST(EnumerationParameter, IsWrittenWithAllItsConstantsInOrder) {

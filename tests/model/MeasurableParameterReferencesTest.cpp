@@ -135,38 +135,13 @@ TEST(MeasurableParameterBinding, KeepsABaseRangeAsItWasGiven) {
     }
 }
 
-TEST(MeasurableParameterBinding, TakesTheGroupOtherForTypeIdsThatContainTheBuiltInOne) {
-    ParametersEngine engine = plant();
-    engine.registerMeasurableParameter(objectOf("norvex.parameter:group-1.3.0", "spec", "range"));
-    EXPECT_EQ(engine.getMeasurableParameter("p").getCore().getGroup().getTypeId(), "norvex.parameter:group-1.3.0");
-    EXPECT_EQ(engine.getMeasurableParameter("p").getCore().getGroup().getName(), "Other");
-}
-
 const NamingFault namingFaults[] = {
-    {"Spec", "group", "x", "range", "Could not find measurable spec with typeid x.",
-     "Dependency x in schema p is missing or does not represent an object of the expected type."},
-    {"BaseAsSpec", "group", "norvex.spec:spec.measurable-2.0.0", "range",
-     "Could not find measurable spec with typeid norvex.spec:spec.measurable-2.0.0.",
-     "Dependency norvex.spec:spec.measurable-2.0.0 in schema p is missing or does not represent an object of the "
-     "expected type."},
-    {"UnitAsSpec", "group", "m", "range", "Could not find measurable spec with typeid m.",
+    {"Unit", "group", "m", "range", "Could not find measurable spec with typeid m.",
      "Dependency m in schema p is missing or does not represent an object of the expected type."},
-    {"RangeAsSpec", "group", "range", "range", "Could not find measurable spec with typeid range.",
-     "Dependency range in schema p is missing or does not represent an object of the expected type."},
-    {"Range", "group", "spec", "x", "Could not find floating-point range with typeid x.",
-     "Dependency x in schema p is missing or does not represent an object of the expected type."},
-    {"IntegerRange", "group", "spec", "int range", "Could not find floating-point range with typeid int range.",
-     "Dependency int range in schema p is missing or does not represent an object of the expected type."},
     {"IntegerBaseAsRange", "group", "spec", "norvex.range:range.int64.bounded.static-1.0.0",
      "Could not find floating-point range with typeid norvex.range:range.int64.bounded.static-1.0.0.",
      "Dependency norvex.range:range.int64.bounded.static-1.0.0 in schema p is missing or does not represent an object "
      "of the expected type."},
-    {"BaseOfAnotherMajorVersionAsRange", "group", "spec", "norvex.range:range.float64.bounded.static-2.0.0",
-     "Could not find floating-point range with typeid norvex.range:range.float64.bounded.static-2.0.0.",
-     "Dependency norvex.range:range.float64.bounded.static-2.0.0 in schema p is missing or does not represent an "
-     "object of the expected type."},
-    {"Group", "x", "spec", "range", "Could not find group with typeid x.",
-     "Dependency x in schema p is missing or does not represent an object of the expected type."},
     {"SpecAndRange", "group", "y", "x", "Could not find measurable spec with typeid y.",
      "Dependency y in schema p is missing or does not represent an object of the expected type."},
     {"GroupAndSpec", "y", "x", "range", "Could not find group with typeid y.",
@@ -207,17 +182,6 @@ TEST_P(MeasurableParameterThatNamesInVain, HasNoDependencies) {
 INSTANTIATE_TEST_SUITE_P(References, MeasurableParameterThatNamesInVain, testing::ValuesIn(namingFaults),
                          Support::nameOfRow);
 
-TEST(MeasurableParameterBinding, MissesWhatIsOnlyPending) {
-    ParametersEngine engine = plant();
-    engine.registerSchema(measurableSpecText("pending spec", "m"));
-    engine.registerSchema(rangeText("pending range"));
-    const auto refusal = [&](const std::string& spec, const std::string& range) {
-        return refusalBy(engine, [&] { engine.registerMeasurableParameter(objectOf(other, spec, range)); });
-    };
-    EXPECT_EQ(refusal("pending spec", "range"), "Could not find measurable spec with typeid pending spec.");
-    EXPECT_EQ(refusal("spec", "pending range"), "Could not find floating-point range with typeid pending range.");
-}
-
 TEST(MeasurableParameterBinding, RefusesATypeIdBeforeAllElse) {
     ParametersEngine engine = engineOf({groupText("p")});
     const MeasurableParameter taken = objectOf("x", "y", "z");
@@ -231,27 +195,6 @@ TEST(MeasurableParameterBinding, RefusesATypeIdBeforeAllElse) {
               "Schema with typeid p is already registered.");
     EXPECT_EQ(refusalBy(engine, [&] { engine.registerMeasurableParameter(unnamed); }), "Typeid must not be empty.");
     EXPECT_EQ(refusalBy(engine, [&] { engine.getDependencies(unnamed); }), "Typeid must not be empty.");
-}
-
-TEST(MeasurableParameterBinding, ReadsNoParameterOfAnotherKind) {
-    const std::string text = schemaText("p", "norvex.parameter:parameter.int64-3.0.0", constant("name", R"("Name")"));
-    EXPECT_EQ(messageOf<ValidationException>([&] { plant().readMeasurableParameter(text); }),
-              "Inheritance from an incorrect base schema.");
-}
-
-TEST(MeasurableParameterRegistration, ReportsWhatIsMissing) {
-    const auto missing = ParametersEngine().registerSchema(textOf("group", "spec", "range"));
-    EXPECT_EQ(missing.first, (TypeIds{"group", "range", "spec"}));
-    EXPECT_EQ(missing.second, TypeIds{});
-    EXPECT_EQ(plant().registerSchema(textOf("group", "spec", "range")).first, TypeIds{});
-    EXPECT_EQ(ParametersEngine().registerSchema(textOf(other, "spec")).first, TypeIds{"spec"});
-}
-
-TEST(MeasurableParameterDependencies, AreGroupSpecAndANamedRange) {
-    EXPECT_EQ(engineOf({textOf("group", "spec", "range")}, plant()).getDependencies("p"),
-              (TypeIds{"group", "range", "spec"}));
-    EXPECT_EQ(engineOf({textOf("group", "spec")}, plant()).getDependencies("p"), (TypeIds{"group", "spec"}));
-    EXPECT_EQ(engineOf({textOf(other, "spec")}, plant()).getDependencies("p"), (TypeIds{other, "spec"}));
 }
 
 TEST(MeasurableParameterDependencies, AreTheSameByObject) {

@@ -27,7 +27,6 @@ using Parameters::ParameterCore;
 using Parameters::ParametersEngine;
 using Parameters::SpecCore;
 using Parameters::Taxon;
-using Parameters::UnrecognizedIdentifierException;
 using Parameters::ValidationException;
 using Support::engineOf;
 using Support::engineWithUnits;
@@ -36,7 +35,6 @@ using Support::groupText;
 using Support::measurableSpecText;
 using Support::messageOf;
 using Support::refusalBy;
-using Support::refusalOf;
 using Support::rewritten;
 using Support::schemaText;
 using Support::typedConstant;
@@ -127,15 +125,6 @@ TEST(MeasurableParameter, IsReadFromItsSchema) {
     EXPECT_EQ(parameter.getRange().getTopBoundary(), 100);
 }
 
-TEST(MeasurableParameter, HasTheDefaultsOfItsCore) {
-    const ParameterCore core = readFrom("").getCore();
-    EXPECT_EQ(core.getDescription(), "");
-    EXPECT_EQ(core.getSampleText(), "");
-    EXPECT_EQ(core.getGroup().getTypeId(), "norvex.parameter:group-1.0.0");
-    EXPECT_EQ(core.getGroup().getName(), "Other");
-    EXPECT_FALSE(core.isReadOnly());
-}
-
 TEST(MeasurableParameter, HasNoBoundsByDefault) {
     const FloatRange range = readFrom("").getRange();
     EXPECT_EQ(range.getTypeId(), "norvex.range:range.float64.bounded.static-1.0.0");
@@ -191,25 +180,6 @@ TEST(MeasurableParameter, TakesConstantsAsPlainValuesToo) {
     EXPECT_EQ(parameter.getRange().getTypeId(), "percent");
 }
 
-TEST(MeasurableParameter, IsReadFromOtherMinorVersionsOfItsBase) {
-    for (const char* version :
-         {"norvex.parameter:parameter.measurable-3.7.2", "my norvex.parameter:parameter.measurable-3.x"}) {
-        EXPECT_EQ(engineOf({schemaText("level", version, nameAndSpec)}, plant())
-                      .getMeasurableParameter("level")
-                      .getCore()
-                      .getName(),
-                  "Level");
-    }
-}
-
-TEST(MeasurableParameter, IsNotReadFromOtherMajorVersionsOfItsBase) {
-    for (const char* version :
-         {"norvex.parameter:parameter.measurable-2.0.0", "norvex.parameter:parameter.measurable-30.0.0"}) {
-        EXPECT_EQ(refusalOf(schemaText("level", version, nameAndSpec)),
-                  "Inheritance from an unrecognized base schema.");
-    }
-}
-
 const std::string noSpec = R"({"id": "name", "value": "Level"})";
 const char* const noTypeId = "Schema level must specify a typeid string attribute in its range constant typedValue.";
 const char* const noObject = "Inline value override in range constant typedValue must be an object.";
@@ -221,19 +191,6 @@ const char* const noFlagFromTop =
     "Inline value override in range constant typedValue must specify a Boolean value for constant fromTop.";
 
 const std::vector<Fault> constantFaults = {
-    {"NoName", typedConstant("spec", "length"), "Schema level has an undefined name constant."},
-    {"EmptyName", R"({"id": "name", "value": ""}, )" + typedConstant("spec", "length"), "Expected a non-empty string."},
-    {"NumberAsDescription", nameAndSpec + R"(, {"id": "description", "value": 5})", "Expected a string."},
-    {"NumberAsSampleText", nameAndSpec + R"(, {"id": "sampleText", "value": 5})", "Expected a string."},
-    {"StringAsGroup", nameAndSpec + R"(, {"id": "group", "typedValue": "g"})", "A typedValue must be an object."},
-    {"NumberAsReadOnly", nameAndSpec + R"(, {"id": "readOnly", "value": 1})", "Expected a Boolean value."},
-    {"NameBeforeDescription", R"({"id": "description", "value": 5})", "Schema level has an undefined name constant."},
-    {"DescriptionBeforeSampleText", noSpec + R"(, {"id": "description", "value": 5}, {"id": "sampleText"})",
-     "Expected a string."},
-    {"SampleTextBeforeGroup", noSpec + R"(, {"id": "group", "value": 5}, {"id": "sampleText", "value": 5})",
-     "Expected a string."},
-    {"GroupBeforeReadOnly", noSpec + R"(, {"id": "readOnly", "value": 5}, {"id": "group", "value": 5})",
-     "A typedValue must be an object."},
     {"ReadOnlyBeforeNoSpec", noSpec + R"(, {"id": "readOnly", "value": 5})", "Expected a Boolean value."},
     {"NoSpec", noSpec, "Schema level has an undefined spec constant."},
     {"NoSpecBeforeRange", noSpec + ", " + rangeConstant("{}"), "Schema level has an undefined spec constant."},
@@ -315,11 +272,6 @@ TEST(MeasurableParameter, HasTheValueTypeMeasurableWhateverItNames) {
     EXPECT_EQ(ParametersEngine().readValueType(textOf("")), Parameters::Measurable);
     EXPECT_EQ(ParametersEngine().readValueType(textOf(inlineRange(R"({"fromBottom": true, "fromTop": false})"))),
               Parameters::Measurable);
-}
-
-TEST(MeasurableParameter, IsMissedByItsKind) {
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([] { ParametersEngine().getMeasurableParameter("x"); }),
-              "Could not find measurable parameter with typeid x.");
 }
 
 std::string written(const std::string& more) {

@@ -22,7 +22,6 @@ using Parameters::MeasurableSpec;
 using Parameters::ParametersEngine;
 using Parameters::SpecCore;
 using Parameters::Taxon;
-using Parameters::UnrecognizedIdentifierException;
 using Parameters::ValidationException;
 using Support::constant;
 using Support::disciplineText;
@@ -126,18 +125,6 @@ TEST(MeasurableSpec, HasNoApplicableUnitsByDefault) {
     EXPECT_EQ(spec.getStorageUnit().getTypeId(), "m");
 }
 
-TEST(MeasurableSpec, HasTheCommonDisciplineByDefault) {
-    const SpecCore core = readFrom(schemaText("level", base, nameOnly + ", " + storedInMetres)).getCore();
-    EXPECT_EQ(core.getDiscipline().getTypeId(), "norvex.spec:discipline-1.0.0");
-    EXPECT_EQ(core.getDiscipline().getName(), "Common");
-}
-
-TEST(MeasurableSpec, NeedsNoDisciplineOfTheBuiltInMajorVersion) {
-    const SpecCore core = readFrom(measurableSpecText("level", "m", {}, "norvex.spec:discipline-1.3.0")).getCore();
-    EXPECT_EQ(core.getDiscipline().getTypeId(), "norvex.spec:discipline-1.3.0");
-    EXPECT_EQ(core.getDiscipline().getName(), "Common");
-}
-
 TEST(MeasurableSpec, NeedsNotBeStoredInAnApplicableUnit) {
     const MeasurableSpec spec = readFrom(measurableSpecText("level", "m", {"mm"}));
     EXPECT_EQ(typeIdsOf(spec.getApplicableUnits()), std::vector<std::string>{"mm"});
@@ -151,29 +138,7 @@ TEST(MeasurableSpec, TakesItsUnitsAsPlainValuesToo) {
     EXPECT_EQ(spec.getApplicableUnits().size(), 1U);
 }
 
-TEST(MeasurableSpec, IsReadFromOtherMinorVersionsOfItsBase) {
-    for (const char* version : {"norvex.spec:spec.measurable-2.7.3", "my norvex.spec:spec.measurable-2.x"}) {
-        EXPECT_EQ(readFrom(schemaText("level", version, nameOnly + ", " + storedInMetres)).getCore().getName(),
-                  "Level");
-    }
-}
-
-TEST(MeasurableSpec, IsNotReadFromOtherMajorVersionsOfItsBase) {
-    for (const char* version : {"norvex.spec:spec.measurable-1.0.0", "norvex.spec:spec.measurable-20.0.0"}) {
-        EXPECT_EQ(refusalOf(schemaText("level", version, nameOnly + ", " + storedInMetres)),
-                  "Inheritance from an unrecognized base schema.");
-    }
-}
-
-TEST(MeasurableSpec, IsOfNoValueType) {
-    EXPECT_EQ(ParametersEngine().readValueType(measurableSpecText("level", "m")), Parameters::None);
-}
-
 const std::vector<Fault> constantFaults = {
-    {"NoName", storedInMetres, "Schema level has an undefined name constant."},
-    {"EmptyName", storedInMetres + R"(, {"id": "name", "value": ""})", "Expected a non-empty string."},
-    {"StringAsDiscipline", nameOnly + ", " + storedInMetres + R"(, {"id": "discipline", "typedValue": "civil"})",
-     "A typedValue must be an object."},
     {"NoStorageUnit", nameOnly, "Schema level has an undefined storageUnit constant."},
     {"StringAsStorageUnit", nameOnly + R"(, {"id": "storageUnit", "typedValue": "m"})",
      "A typedValue must be an object."},
@@ -279,25 +244,6 @@ const Missing missingReferences[] = {
      "Could not find unit with typeid norvex.spec:discipline-1.0.0.",
      "Typeid norvex.spec:discipline-1.0.0 for storageUnit constant in measurable spec schema level does not belong to "
      "a unit."},
-    {"Discipline",
-     "m",
-     {},
-     "x",
-     "Could not find discipline with typeid x.",
-     "Dependency x in schema level is missing or does not represent an object of the expected type."},
-    {"UnitAsDiscipline",
-     "m",
-     {},
-     "s",
-     "Could not find discipline with typeid s.",
-     "Dependency s in schema level is missing or does not represent an object of the expected type."},
-    {"DisciplineOfAnotherMajorVersion",
-     "m",
-     {},
-     "norvex.spec:discipline-2.0.0",
-     "Could not find discipline with typeid norvex.spec:discipline-2.0.0.",
-     "Dependency norvex.spec:discipline-2.0.0 in schema level is missing or does not represent an object of the "
-     "expected type."},
     {"DisciplineAndStorageUnit",
      "x",
      {},
@@ -391,12 +337,6 @@ TEST(MeasurableSpecBinding, DoesNotFindUnitsThatAreRegisteredAndNotResolved) {
     EXPECT_NO_THROW(engine.registerMeasurableSpec(levelOf("pending")));
 }
 
-TEST(MeasurableSpecBinding, KeepsItsDisciplineAsItWasGiven) {
-    ParametersEngine engine = plant();
-    engine.registerMeasurableSpec(levelOf("m", {}, "civil"));
-    EXPECT_EQ(engine.getMeasurableSpec("level").getCore().getDiscipline().getName(), "Mine");
-}
-
 TEST(MeasurableSpecBinding, RefusesATypeIdBeforeAllElse) {
     ParametersEngine engine = plant();
     for (const auto& [typeId, message] : {std::pair("", "Typeid must not be empty."),
@@ -433,13 +373,6 @@ TEST(MeasurableSpecDependencies, AreTheDisciplineAndAllUnits) {
     ParametersEngine engine = plant();
     engine.registerMeasurableSpec(levelOf("m", {"s"}));
     EXPECT_EQ(engine.getDependencies("level"), (TypeIds{"m", "norvex.spec:discipline-1.0.0", "s"}));
-}
-
-TEST(MeasurableSpec, IsMissedByItsKind) {
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([] { ParametersEngine().getMeasurableSpec("x"); }),
-              "Could not find measurable spec with typeid x.");
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([] { ParametersEngine().getMeasurableSpec(base); }),
-              "Could not find measurable spec with typeid norvex.spec:spec.measurable-2.0.0.");
 }
 
 const std::string written = R"({"typeid":"level","inherits":["norvex.spec:spec.measurable-2.0.0"],"constants":[)"

@@ -1,5 +1,4 @@
 #include "support/Fault.h"
-#include "support/Messages.h"
 #include "support/Refusal.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"

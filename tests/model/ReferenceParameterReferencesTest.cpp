@@ -90,13 +90,6 @@ ReferenceParameter registered(const ReferenceParameter& parameter) {
 std::string specIdOf(const ReferenceParameter& parameter) { return parameter.getSpec().getCore().getTypeId(); }
 std::string specNameOf(const ReferenceParameter& parameter) { return parameter.getSpec().getCore().getName(); }
 
-TEST(ReferenceParameterResolution, FindsGroupAndSpecRegisteredBefore) {
-    const ReferenceParameter parameter = resolved({"group", "spec", {}});
-    EXPECT_EQ(parameter.getCore().getGroup().getName(), "Operation");
-    EXPECT_EQ(specNameOf(parameter), "Gate");
-    EXPECT_EQ(parameter.getSpec().getCategory()->getName(), "Gates");
-}
-
 TEST(ReferenceParameterResolution, FindsWhatIsResolvedWithIt) {
     const ParametersEngine engine =
         engineOf({textOf({"g", "z", {}}), Support::referenceSpecText("z", "c"), subCategoryText("c", "m"),
@@ -207,10 +200,6 @@ struct Missing {
 };
 
 const Missing missingReferences[] = {
-    {"Spec",
-     {"group", "x", {}},
-     "Could not find reference spec with typeid x.",
-     "Dependency x in schema p is missing or does not represent an object of the expected type."},
     {"SpecOfAnotherMajorVersion",
      {"group", "norvex.spec:spec.reference-2.0.0", {}},
      "Could not find reference spec with typeid norvex.spec:spec.reference-2.0.0.",
@@ -221,23 +210,11 @@ const Missing missingReferences[] = {
      "Could not find reference spec with typeid norvex.talmo.spec:familyType-2.0.0.",
      "Dependency norvex.talmo.spec:familyType-2.0.0 in schema p is missing or does not represent an object of the "
      "expected type."},
-    {"BooleanSpec",
-     {"group", "bool spec", {}},
-     "Could not find reference spec with typeid bool spec.",
-     "Dependency bool spec in schema p is missing or does not represent an object of the expected type."},
     {"BuiltInBooleanSpec",
      {"group", "norvex.spec:spec.bool-1.0.0", {}},
      "Could not find reference spec with typeid norvex.spec:spec.bool-1.0.0.",
      "Dependency norvex.spec:spec.bool-1.0.0 in schema p is missing or does not represent an object of the expected "
      "type."},
-    {"CategoryAsSpec",
-     {"group", "gates", {}},
-     "Could not find reference spec with typeid gates.",
-     "Dependency gates in schema p is missing or does not represent an object of the expected type."},
-    {"Group",
-     {"x", "spec", {}},
-     "Could not find group with typeid x.",
-     "Dependency x in schema p is missing or does not represent an object of the expected type."},
     {"GroupBeforeSpec",
      {"y", "x", {}},
      "Could not find group with typeid y.",
@@ -347,31 +324,11 @@ TEST(ReferenceParameterBinding, RefusesATypeIdBeforeAllElse) {
     EXPECT_EQ(refusalBy(engine, [&] { engine.getSchema(unnamed); }), "Typeid must not be empty.");
 }
 
-TEST(ReferenceParameterBinding, ReadsNoParameterOfAnotherKind) {
-    EXPECT_EQ(messageOf<ValidationException>([] {
-                  plant().readReferenceParameter(textOf({"x", "y", {}}, "norvex.parameter:parameter.bool-2.0.0"));
-              }),
-              "Inheritance from an incorrect base schema.");
-}
-
-TEST(ReferenceParameterRegistration, ReportsWhatIsMissing) {
-    ParametersEngine engine;
-    const auto missing = engine.registerSchema(textOf({"group", "spec", {}}));
-    EXPECT_EQ(missing.first, (TypeIds{"group", "spec"}));
-    EXPECT_EQ(missing.second, TypeIds{});
-}
-
 TEST(ReferenceParameterRegistration, ReportsTheCategoryOfAFamilyTypeButNotTheFamilyType) {
     ParametersEngine engine;
     EXPECT_EQ(engine.registerSchema(textOf({other, "norvex.talmo.spec:familyType-1.3.0", "gates"})).first,
               TypeIds{"gates"});
     EXPECT_EQ(plant().registerSchema(textOf({"group", familyType, "gates"})).first, TypeIds{});
-}
-
-TEST(ReferenceParameterDependencies, AreGroupAndSpec) {
-    EXPECT_EQ(engineOf({textOf({"group", "spec", {}})}, plant()).getDependencies("p"), (TypeIds{"group", "spec"}));
-    EXPECT_EQ(engineOf({textOf({other, "norvex.spec:spec.reference-1.4.0", {}})}).getDependencies("p"),
-              (TypeIds{other, "norvex.spec:spec.reference-1.4.0"}));
 }
 
 TEST(ReferenceParameterDependencies, AreTheCategoryOfAFamilyTypeToo) {

@@ -2,7 +2,6 @@
 
 #include "support/Engines.h"
 #include "support/Fault.h"
-#include "support/Messages.h"
 #include "support/Refusal.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
@@ -29,15 +28,12 @@ using Parameters::ReferenceSpec;
 using Parameters::SpecCore;
 using Parameters::SubCategoryComponent;
 using Parameters::Taxon;
-using Parameters::UnrecognizedIdentifierException;
 using Support::constant;
 using Support::domainText;
 using Support::engineOf;
 using Support::Fault;
 using Support::groupText;
-using Support::messageOf;
 using Support::refusalBy;
-using Support::refusalOf;
 using Support::rewritten;
 using Support::schemaText;
 using Support::typedConstant;
@@ -145,14 +141,6 @@ TEST(ReferenceParameter, IsReadFromTheRangedBase) {
     EXPECT_TRUE(readFrom(schemaText("gate", rangedBase, nameOnly)).isRanged());
     EXPECT_TRUE(
         readFrom(schemaText("gate", "a norvex.parameter:parameter.reference.ranged-2.7.3", nameOnly)).isRanged());
-}
-
-TEST(ReferenceParameter, IsNotReadFromOtherMajorVersionsOfItsBases) {
-    for (const char* other :
-         {"norvex.parameter:parameter.reference-1.0.0", "norvex.parameter:parameter.reference-3.0.0",
-          "norvex.parameter:parameter.reference.ranged-1.0.0", "norvex.parameter:parameter.reference.ranged-20.0.0"}) {
-        EXPECT_EQ(refusalOf(schemaText("gate", other, nameOnly)), "Inheritance from an unrecognized base schema.");
-    }
 }
 
 TEST(ReferenceParameter, HasTheSpecOfItsSchema) {
@@ -278,13 +266,6 @@ TEST(ReferenceParameter, HasTheValueTypeReferenceRangedOrNot) {
     EXPECT_EQ(engine.readValueType(schemaText("gate", rangedBase, nameOnly)), Parameters::Reference);
     EXPECT_EQ(engine.readValueType(textOf(familyConstant(R"({"category": {"typeid": "unknown"}})"))),
               Parameters::Reference);
-}
-
-TEST(ReferenceParameter, IsMissedByItsKind) {
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([] { ParametersEngine().getReferenceParameter("x"); }),
-              "Could not find reference parameter with typeid x.");
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([] { ParametersEngine().getReferenceParameter(rangedBase); }),
-              "Could not find reference parameter with typeid norvex.parameter:parameter.reference.ranged-2.0.0.");
 }
 
 std::string writtenOf(const ReferenceParameter& parameter) {

@@ -138,10 +138,6 @@ TEST(ReferenceSpec, IsNotReadFromTheBaseOfFamilyTypes) {
               "Inheritance from an unrecognized base schema.");
 }
 
-TEST(ReferenceSpec, IsOfNoValueType) {
-    EXPECT_EQ(ParametersEngine().readValueType(textNaming("gates")), Parameters::None);
-}
-
 const std::vector<Fault> categoryFaults = {
     {"String", nameOnly + R"(, {"id": "category", "typedValue": "gates"})", "A typedValue must be an object."},
     {"Null", nameOnly + R"(, {"id": "category", "value": null})", "A typedValue must be an object."},
@@ -181,20 +177,10 @@ struct Missing {
 };
 
 const Missing missingReferences[] = {
-    {"Category", "civil", "x", "Could not find category with typeid x.",
-     "Dependency x in schema gate is missing or does not represent an object of the expected type."},
-    {"DomainAsCategory", "civil", "domain", "Could not find category with typeid domain.",
-     "Dependency domain in schema gate is missing or does not represent an object of the expected type."},
-    {"DisciplineAsCategory", "civil", "civil", "Could not find category with typeid civil.",
-     "Dependency civil in schema gate is missing or does not represent an object of the expected type."},
     {"BaseAsCategory", "civil", "norvex.talmo.category:majorCategory-1.0.0",
      "Could not find category with typeid norvex.talmo.category:majorCategory-1.0.0.",
      "Dependency norvex.talmo.category:majorCategory-1.0.0 in schema gate is missing or does not represent an object "
      "of the expected type."},
-    {"ItselfAsCategory", "civil", "gate", "Could not find category with typeid gate.",
-     "Dependency gate in schema gate is missing or does not represent an object of the expected type."},
-    {"Discipline", "x", "gates", "Could not find discipline with typeid x.",
-     "Dependency x in schema gate is missing or does not represent an object of the expected type."},
     {"DisciplineBeforeCategory", "y", "x", "Could not find discipline with typeid y.",
      "Dependency y in schema gate is missing or does not represent an object of the expected type."},
 };
@@ -217,13 +203,6 @@ TEST_P(ReferenceSpecThatNamesInVain, IsNotRegistered) {
 
 INSTANTIATE_TEST_SUITE_P(References, ReferenceSpecThatNamesInVain, testing::ValuesIn(missingReferences),
                          Support::nameOfRow);
-
-TEST(ReferenceSpec, IsRefusedWithACategoryThatIsOnlyPending) {
-    ParametersEngine engine = plant();
-    engine.registerSchema(majorCategoryText("pending", "domain"));
-    EXPECT_EQ(refusalBy(engine, [&] { engine.registerReferenceSpec(gateOf("pending")); }),
-              "Could not find category with typeid pending.");
-}
 
 TEST(ReferenceSpec, IsRefusedForItsTypeIdBeforeAllElse) {
     ParametersEngine engine = plant();
@@ -251,34 +230,10 @@ TEST(ReferenceSpec, GetsTheRegisteredCategoryForTheOneItWasGiven) {
     EXPECT_EQ(engine.getAllReferenceSpecs().at("gate").getCategory()->getName(), "Gates");
 }
 
-TEST(ReferenceSpec, KeepsItsDisciplineAsItWasGiven) {
-    ParametersEngine engine = plant();
-    engine.registerReferenceSpec(gateOf("gates", "civil"));
-    EXPECT_EQ(engine.getReferenceSpec("gate").getCore().getDiscipline().getName(), "Mine");
-}
-
 TEST(ReferenceSpec, StaysWithoutACategoryWhenItIsRegistered) {
     ParametersEngine engine;
     engine.registerReferenceSpec(ReferenceSpec(SpecCore("gate", "Gate"), std::nullopt));
     EXPECT_FALSE(engine.getReferenceSpec("gate").getCategory().has_value());
-}
-
-TEST(ReferenceSpec, ReportsDisciplineAndCategoryThatAreMissing) {
-    ParametersEngine engine;
-    const auto missing = engine.registerSchema(textNaming("civil", "gates"));
-    EXPECT_EQ(missing.first, (TypeIds{"civil", "gates"}));
-    EXPECT_EQ(missing.second, TypeIds{});
-    EXPECT_EQ(ParametersEngine().registerSchema(schemaText("gate", base, nameOnly)).first, TypeIds{});
-    ParametersEngine known = plant();
-    EXPECT_EQ(known.registerSchema(textNaming("civil", "gates")).first, TypeIds{});
-}
-
-TEST(ReferenceSpec, NamesItsDisciplineAndItsCategoryAsItsDependencies) {
-    EXPECT_EQ(engineOf({textNaming("gates")}, plant()).getDependencies("gate"),
-              (TypeIds{"norvex.spec:discipline-1.0.0", "gates"}));
-    EXPECT_EQ(engineOf({textNaming("civil", "intake")}, plant()).getDependencies("gate"), (TypeIds{"civil", "intake"}));
-    EXPECT_EQ(engineOf({schemaText("gate", base, nameOnly)}).getDependencies("gate"),
-              TypeIds{"norvex.spec:discipline-1.0.0"});
 }
 
 const std::string written =
@@ -320,11 +275,6 @@ TEST(ReferenceSpec, SurvivesTheRoundTripWithACategoryOfAnyBytes) {
                              R"({"id":"name","value":"Gate"},{"id":"category","typedValue":{"typeid":"c\u0000)"
                              "\xff\"}}]}";
     EXPECT_EQ(rewritten(engine, "gate", text), text);
-}
-
-TEST(ReferenceSpec, IsMissedByItsKind) {
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([] { ParametersEngine().getReferenceSpec("x"); }),
-              "Could not find reference spec with typeid x.");
 }
 
 TEST(BuiltInReferenceSpec, IsReferenceWithoutACategory) {

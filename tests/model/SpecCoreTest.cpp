@@ -3,43 +3,36 @@
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
 #include "support/Fault.h"
+#include "support/KindTypes.h"
 #include "support/Messages.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
+#include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
-#include <tuple>
 #include <vector>
 
 namespace {
 
-using Parameters::BoolSpec;
-using Parameters::GeneralSpec;
-using Parameters::IntSpec;
+namespace Kinds = Parameters::Kinds;
 using Parameters::ParametersEngine;
-using Parameters::ReferenceSpec;
 using Parameters::SpecCore;
-using Parameters::StringSpec;
 using Parameters::Taxon;
 using Parameters::ValidationException;
-using Support::awkwardStrings;
 using Support::constant;
 using Support::disciplineText;
-using Support::domainText;
 using Support::engineOf;
-using Support::failureOf;
 using Support::Fault;
 using Support::groupText;
 using Support::messageOf;
+using Support::namedText;
 using Support::refusalOf;
 using Support::rewritten;
-using Support::schemaText;
-using Support::typedConstant;
+using Support::Shape;
 
 TEST(SpecCore, AnswersWhatItWasMadeFrom) {
     const SpecCore core("plant.spec:open-1.0.0", "Open", Taxon("plant.discipline:civil-1.0.0", "Civil Works"));
@@ -64,253 +57,164 @@ TEST(SpecCore, ChecksNothingOfWhatItIsMadeFrom) {
     EXPECT_EQ(core.getDiscipline().getTypeId(), "");
 }
 
-/// A kind of spec, as far as its core goes.
-struct SpecKind {
-    const char* name;
-    std::string base;
-    SpecCore (*get)(const ParametersEngine& engine, const std::string& typeId);
-    void (*add)(ParametersEngine& engine, const SpecCore& core);
-};
-
-template <auto getter>
-SpecCore coreBy(const ParametersEngine& engine, const std::string& typeId) {
-    return (engine.*getter)(typeId).getCore();
-}
-
-template <class Spec, auto registrar>
-void addBy(ParametersEngine& engine, const SpecCore& core) {
-    (engine.*registrar)(Spec(core));
-}
-
-void addReferenceSpec(ParametersEngine& engine, const SpecCore& core) {
-    engine.registerReferenceSpec(ReferenceSpec(core, std::nullopt));
-}
-
-const SpecKind specKinds[] = {
-    {"BoolSpec", "norvex.spec:spec.bool-1.0.0", coreBy<&ParametersEngine::getBoolSpec>,
-     addBy<BoolSpec, &ParametersEngine::registerBoolSpec>},
-    {"GeneralSpec", "norvex.spec:spec-1.0.0", coreBy<&ParametersEngine::getGeneralSpec>,
-     addBy<GeneralSpec, &ParametersEngine::registerGeneralSpec>},
-    {"IntSpec", "norvex.spec:spec.int64-2.0.0", coreBy<&ParametersEngine::getIntSpec>,
-     addBy<IntSpec, &ParametersEngine::registerIntSpec>},
-    {"StringSpec", "norvex.spec:spec.string-2.0.0", coreBy<&ParametersEngine::getStringSpec>,
-     addBy<StringSpec, &ParametersEngine::registerStringSpec>},
-    {"ReferenceSpec", "norvex.spec:spec.reference-1.0.0", coreBy<&ParametersEngine::getReferenceSpec>,
-     addReferenceSpec},
-};
-
 const std::string nameOnly = R"({"id": "name", "value": "Open"})";
 
-/// Returns the text of the spec "open" of a kind with the given constants.
-std::string textOf(const SpecKind& kind, const std::string& constants) {
-    return schemaText("open", kind.base, constants);
-}
+/// What holds for the cores of all specs.
+template <class Kind>
+struct SpecCoreOfEachKind : testing::Test {
+    using Value = typename Kind::Value;
 
-/// Returns the text of the spec "open" of a kind, which names a discipline.
-std::string textNaming(const SpecKind& kind, const std::string& discipline) {
-    return textOf(kind, nameOnly + ", " + typedConstant("discipline", discipline));
-}
-
-class SpecCoreOfEachKind : public testing::TestWithParam<SpecKind> {
-protected:
-    static const SpecKind& kind() { return GetParam(); }
-    static SpecCore coreIn(const ParametersEngine& engine) { return kind().get(engine, "open"); }
-
-    /// Returns the schema of a spec "open" made in code.
-    static std::string writtenOf(const SpecCore& core, ParametersEngine engine = {}) {
-        kind().add(engine, core);
-        return engine.getSchema("open");
+    /// Returns an engine with what the specs must name, and a discipline "civil".
+    static ParametersEngine plant() {
+        ParametersEngine engine = engineOf({disciplineText("civil", "Civil Works")});
+        Support::stock(engine, Support::mainShapeOf<Kind>());
+        return engine;
     }
 
-    /// Returns the message with which a spec made in code is refused.
-    static std::string refusalOfObject(const SpecCore& core, ParametersEngine engine = {}) {
-        return messageOf<ValidationException>([&] { kind().add(engine, core); });
+    /// Returns the text of the spec "open" with the given constants of a core, and all else that it must have.
+    static std::string textOf(const std::string& constants, const std::string& base = baseOfKind()) {
+        Shape shape = Support::mainShapeOf<Kind>();
+        shape.form.constants = [](const std::string& given) { return given; };
+        return shape.textOfBase(base, "open", constants, Support::nameTheLeast);
+    }
+    static std::string baseOfKind() { return Support::mainShapeOf<Kind>().base; }
+
+    static Value of(const SpecCore& core) { return Support::Sample<Kind>::of(core); }
+    static SpecCore coreIn(const ParametersEngine& engine) { return Kind::get(engine, "open").getCore(); }
+    static SpecCore coreFrom(const std::string& constants) { return coreIn(engineOf({textOf(constants)}, plant())); }
+    static SpecCore coreOfAdded(const SpecCore& core) {
+        ParametersEngine engine = plant();
+        Kind::add(engine, of(core));
+        return coreIn(engine);
+    }
+    /// Returns the schema of a spec made in code.
+    static std::string writtenOf(const SpecCore& core, ParametersEngine engine = plant()) {
+        Kind::add(engine, of(core));
+        return engine.getSchema(core.getTypeId());
     }
 
-    /// Returns the text of a written spec "open" with the given constants behind its name.
-    static std::string written(const std::string& more) {
-        return R"({"typeid":"open","inherits":[")" + kind().base + R"("],"constants":[{"id":"name","value":"Open"})" +
-               more + "]}";
+    /// Returns the text of a written spec with the given constants behind its name.
+    static std::string written(const std::string& more, const std::string& typeId = "open",
+                               const std::string& name = "Open") {
+        std::string constants = R"({"id":"name","value":")" + name + R"("})" + more;
+        for (const Support::Reference& reference : Support::mainShapeOf<Kind>().form.references) {
+            if (reference.required) {
+                constants += R"(,{"id":")" + std::string(reference.id) + R"(","typedValue":{"typeid":")" +
+                             Support::sampleIdOf(reference.kind) + R"("}})";
+            }
+        }
+        return R"({"typeid":")" + typeId + R"(","inherits":[")" + baseOfKind() + R"("],"constants":[)" + constants +
+               "]}";
     }
 };
 
-TEST_P(SpecCoreOfEachKind, HasTheNameOfItsSchema) {
-    const SpecCore core = coreIn(engineOf({textOf(kind(), nameOnly)}));
+TYPED_TEST_SUITE(SpecCoreOfEachKind, Support::TestedKinds<Kinds::Specs>, Support::NameOfKind);
+
+TYPED_TEST(SpecCoreOfEachKind, IsWhatASpecIsMadeFrom) {
+    const auto spec = this->of(SpecCore("open", "Open", Taxon("civil", "Civil Works")));
+    EXPECT_EQ(spec.getCore().getTypeId(), "open");
+    EXPECT_EQ(spec.getCore().getName(), "Open");
+    EXPECT_EQ(spec.getCore().getDiscipline().getTypeId(), "civil");
+    EXPECT_EQ(spec.getCore().getDiscipline().getName(), "Civil Works");
+}
+
+TYPED_TEST(SpecCoreOfEachKind, OutlivesItsSpec) {
+    const SpecCore core = [] { return TestFixture::of(SpecCore("open", "Open")).getCore(); }();
     EXPECT_EQ(core.getTypeId(), "open");
     EXPECT_EQ(core.getName(), "Open");
 }
 
-TEST_P(SpecCoreOfEachKind, HasTheCommonDisciplineByDefault) {
-    const SpecCore core = coreIn(engineOf({textOf(kind(), nameOnly)}));
+TYPED_TEST(SpecCoreOfEachKind, HasTheNameOfItsSchemaAndTheCommonDisciplineByDefault) {
+    const SpecCore core = this->coreFrom(nameOnly);
+    EXPECT_EQ(core.getTypeId(), "open");
+    EXPECT_EQ(core.getName(), "Open");
     EXPECT_EQ(core.getDiscipline().getTypeId(), "norvex.spec:discipline-1.0.0");
     EXPECT_EQ(core.getDiscipline().getName(), "Common");
 }
 
-TEST_P(SpecCoreOfEachKind, NeedsNoDisciplineOfTheBuiltInMajorVersion) {
-    const SpecCore core = coreIn(engineOf({textNaming(kind(), "norvex.spec:discipline-1.3.0")}));
-    EXPECT_EQ(core.getDiscipline().getTypeId(), "norvex.spec:discipline-1.3.0");
-    EXPECT_EQ(core.getDiscipline().getName(), "Common");
-}
-
-TEST_P(SpecCoreOfEachKind, NeedsNoDisciplineWhoseTypeIdContainsTheBuiltInOne) {
-    const SpecCore core = coreIn(engineOf({textNaming(kind(), "my norvex.spec:discipline-1.x")}));
-    EXPECT_EQ(core.getDiscipline().getTypeId(), "my norvex.spec:discipline-1.x");
-    EXPECT_EQ(core.getDiscipline().getName(), "Common");
-}
-
-TEST_P(SpecCoreOfEachKind, HasTheDisciplineRegisteredBefore) {
-    ParametersEngine engine;
-    engine.registerDiscipline(Taxon("civil", "Civil Works"));
-    engine.registerSchema(textNaming(kind(), "civil"));
-    engine.resolveSchemas();
-    EXPECT_EQ(coreIn(engine).getDiscipline().getTypeId(), "civil");
-    EXPECT_EQ(coreIn(engine).getDiscipline().getName(), "Civil Works");
-}
-
-TEST_P(SpecCoreOfEachKind, HasTheDisciplineResolvedWithIt) {
-    const SpecCore core = coreIn(engineOf({textNaming(kind(), "civil"), disciplineText("civil", "Civil Works")}));
-    EXPECT_EQ(core.getDiscipline().getName(), "Civil Works");
-}
-
-TEST_P(SpecCoreOfEachKind, TakesItsDisciplineAsAPlainValueToo) {
-    const std::string text = textOf(kind(), nameOnly + ", " + constant("discipline", R"({"typeid": "civil"})"));
-    EXPECT_EQ(coreIn(engineOf({disciplineText("civil", "Civil Works"), text})).getDiscipline().getName(),
-              "Civil Works");
-}
-
-TEST_P(SpecCoreOfEachKind, FailsToResolveWithoutItsDiscipline) {
-    EXPECT_EQ(failureOf({textNaming(kind(), "civil")}),
-              "Dependency civil in schema open is missing or does not represent an object of the expected type.");
-}
-
-TEST_P(SpecCoreOfEachKind, FailsToResolveWithADisciplineOfAnotherMajorVersion) {
-    EXPECT_EQ(failureOf({textNaming(kind(), "norvex.spec:discipline-2.0.0")}),
-              "Dependency norvex.spec:discipline-2.0.0 in schema open is missing or does not represent an object of "
-              "the expected type.");
-}
-
-TEST_P(SpecCoreOfEachKind, FailsToResolveWithAGroupOrADomainAsItsDiscipline) {
-    const char* const message =
-        "Dependency civil in schema open is missing or does not represent an object of the expected type.";
-    EXPECT_EQ(failureOf({textNaming(kind(), "civil"), groupText("civil")}), message);
-    EXPECT_EQ(failureOf({textNaming(kind(), "civil"), domainText("civil")}), message);
-}
-
-TEST_P(SpecCoreOfEachKind, FailsToResolveWithTheBuiltInGroupAsItsDiscipline) {
-    EXPECT_EQ(failureOf({textNaming(kind(), "norvex.parameter:group-1.0.0")}),
-              "Dependency norvex.parameter:group-1.0.0 in schema open is missing or does not represent an object of "
-              "the expected type.");
-}
-
-TEST_P(SpecCoreOfEachKind, FailsToResolveWithItselfAsItsDiscipline) {
-    EXPECT_EQ(failureOf({textNaming(kind(), "open")}),
-              "Dependency open in schema open is missing or does not represent an object of the expected type.");
-}
-
-TEST_P(SpecCoreOfEachKind, IsRefusedWithoutItsDiscipline) {
-    EXPECT_EQ(refusalOfObject(SpecCore("open", "Open", Taxon("civil", "Civil Works"))),
-              "Could not find discipline with typeid civil.");
-}
-
-TEST_P(SpecCoreOfEachKind, IsRefusedWithADisciplineThatIsOnlyPending) {
-    ParametersEngine engine;
-    engine.registerSchema(disciplineText("civil"));
-    EXPECT_EQ(refusalOfObject(SpecCore("open", "Open", Taxon("civil", "Civil Works")), engine),
-              "Could not find discipline with typeid civil.");
-}
-
-TEST_P(SpecCoreOfEachKind, IsRefusedWithADisciplineOfAnotherMajorVersion) {
-    EXPECT_EQ(refusalOfObject(SpecCore("open", "Open", Taxon("norvex.spec:discipline-2.0.0", "Common"))),
-              "Could not find discipline with typeid norvex.spec:discipline-2.0.0.");
-}
-
-TEST_P(SpecCoreOfEachKind, IsRefusedWithAGroupAsItsDiscipline) {
-    EXPECT_EQ(refusalOfObject(SpecCore("open", "Open", Taxon("civil", "N")), engineOf({groupText("civil")})),
-              "Could not find discipline with typeid civil.");
-}
-
-TEST_P(SpecCoreOfEachKind, IsRefusedForItsTypeIdBeforeItsDiscipline) {
-    const Taxon missing("civil", "Civil Works");
-    EXPECT_EQ(refusalOfObject(SpecCore("", "Open", missing)), "Typeid must not be empty.");
-    EXPECT_EQ(refusalOfObject(SpecCore("open", "Open", missing), engineOf({groupText("open")})),
-              "Schema with typeid open is already registered.");
-}
-
-TEST_P(SpecCoreOfEachKind, KeepsTheRegisteredDisciplineAsItWasGiven) {
-    ParametersEngine engine = engineOf({disciplineText("civil", "Civil Works")});
-    kind().add(engine, SpecCore("open", "Open", Taxon("civil", "Bau")));
-    EXPECT_EQ(coreIn(engine).getDiscipline().getTypeId(), "civil");
-    EXPECT_EQ(coreIn(engine).getDiscipline().getName(), "Bau");
-}
-
-TEST_P(SpecCoreOfEachKind, KeepsTheBuiltInDisciplineAsItWasGiven) {
-    ParametersEngine engine;
-    kind().add(engine, SpecCore("open", "Open", Taxon("norvex.spec:discipline-1.3.0", "Mine")));
-    EXPECT_EQ(coreIn(engine).getDiscipline().getTypeId(), "norvex.spec:discipline-1.3.0");
-    EXPECT_EQ(coreIn(engine).getDiscipline().getName(), "Mine");
-}
-
-TEST_P(SpecCoreOfEachKind, IsWrittenWithoutTheCommonDiscipline) {
-    EXPECT_EQ(writtenOf(SpecCore("open", "Open")), written(""));
-}
-
-TEST_P(SpecCoreOfEachKind, IsWrittenWithoutTheCommonDisciplineWhateverItsName) {
-    EXPECT_EQ(writtenOf(SpecCore("open", "Open", Taxon("norvex.spec:discipline-1.0.0", "Mine"))), written(""));
-}
-
-TEST_P(SpecCoreOfEachKind, IsWrittenWithTheCommonDisciplineInAnotherMinorVersion) {
-    EXPECT_EQ(writtenOf(SpecCore("open", "Open", Taxon("norvex.spec:discipline-1.3.0", "Common"))),
-              written(R"(,{"id":"discipline","typedValue":{"typeid":"norvex.spec:discipline-1.3.0"}})"));
-}
-
-TEST_P(SpecCoreOfEachKind, IsWrittenWithItsDisciplineBehindItsName) {
-    EXPECT_EQ(writtenOf(SpecCore("open", "Open", Taxon("civil", "N")), engineOf({disciplineText("civil")})),
-              written(R"(,{"id":"discipline","typedValue":{"typeid":"civil"}})"));
-}
-
-TEST_P(SpecCoreOfEachKind, IsWrittenWithItsNameEvenWhenThatIsEmpty) {
-    EXPECT_EQ(writtenOf(SpecCore("open", "")),
-              R"({"typeid":"open","inherits":[")" + kind().base + R"("],"constants":[{"id":"name","value":""}]})");
-}
-
-TEST_P(SpecCoreOfEachKind, LosesAnotherNameOfTheCommonDisciplineOnTheRoundTrip) {
-    const std::string text = writtenOf(SpecCore("open", "Open", Taxon("norvex.spec:discipline-1.0.0", "Mine")));
-    EXPECT_EQ(coreIn(engineOf({text})).getDiscipline().getName(), "Common");
-}
-
-TEST_P(SpecCoreOfEachKind, SurvivesTheRoundTripWithTheCommonDiscipline) {
-    EXPECT_EQ(rewritten(ParametersEngine(), "open", written("")), written(""));
-}
-
-TEST_P(SpecCoreOfEachKind, SurvivesTheRoundTripWithADisciplineOfItsOwn) {
-    const std::string text = written(R"(,{"id":"discipline","typedValue":{"typeid":"civil"}})");
-    EXPECT_EQ(rewritten(engineOf({disciplineText("civil")}), "open", text), text);
-}
-
-TEST_P(SpecCoreOfEachKind, IsWrittenWithTheFullBaseAndNothingElseOfItsSchema) {
-    const std::string base = kind().base.substr(0, kind().base.size() - 3) + "8.2";
-    const std::string text = R"({"note": [], "properties": [{"id": "p", "value": 1}], "inherits": [")" + base +
-                             R"("], "typeid": "open", "constants": [)"
-                             R"({"id": "discipline", "typedValue": {"typeid": "norvex.spec:discipline-1.0.0"}},)"
-                             R"({"id": "extra", "value": 5}, {"id": "name", "value": "Open"}]})";
-    EXPECT_EQ(rewritten(ParametersEngine(), "open", text), written(""));
-}
-
-TEST_P(SpecCoreOfEachKind, IsReadFromABaseInsideALongerText) {
-    const std::string text = schemaText("open", "a " + kind().base + " b", nameOnly);
-    EXPECT_EQ(coreIn(engineOf({text})).getName(), "Open");
-}
-
-TEST_P(SpecCoreOfEachKind, IsNotReadFromAnotherMajorVersionOfItsBase) {
-    for (const char* version : {"4", "10", "21"}) {
-        std::string other = kind().base;
-        other.replace(other.size() - 5, 1, version);
-        EXPECT_EQ(refusalOf(schemaText("open", other, nameOnly)), "Inheritance from an unrecognized base schema.")
-            << other;
+TYPED_TEST(SpecCoreOfEachKind, HasTheDisciplineOfItsSchemaAsAPlainValueToo) {
+    for (const char* value : {"typedValue", "value"}) {
+        const SpecCore core =
+            this->coreFrom(nameOnly + R"(, {"id": "discipline", ")" + value + R"(": {"typeid": "civil"}})");
+        EXPECT_EQ(core.getDiscipline().getTypeId(), "civil");
+        EXPECT_EQ(core.getDiscipline().getName(), "Civil Works");
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Specs, SpecCoreOfEachKind, testing::ValuesIn(specKinds), Support::nameOfRow);
+TYPED_TEST(SpecCoreOfEachKind, MakesNoValueType) {
+    EXPECT_EQ(ParametersEngine().readValueType(this->textOf(nameOnly)), Parameters::None);
+}
+
+TYPED_TEST(SpecCoreOfEachKind, IsRefusedForItsTypeIdBeforeItsDiscipline) {
+    const auto refusal = [](const std::string& typeId) {
+        ParametersEngine engine = engineOf({groupText("open")}, TestFixture::plant());
+        return messageOf<ValidationException>(
+            [&] { TypeParam::add(engine, TestFixture::of(SpecCore(typeId, "Open", Taxon("missing", "M")))); });
+    };
+    EXPECT_EQ(refusal(""), "Typeid must not be empty.");
+    EXPECT_EQ(refusal("open"), "Schema with typeid open is already registered.");
+    EXPECT_EQ(refusal("new"), "Could not find discipline with typeid missing.");
+}
+
+TYPED_TEST(SpecCoreOfEachKind, KeepsItsDisciplineAsItWasGiven) {
+    for (const char* typeId : {"civil", "norvex.spec:discipline-1.3.0"}) {
+        const Taxon discipline = this->coreOfAdded(SpecCore("open", "Open", Taxon(typeId, "Mine"))).getDiscipline();
+        EXPECT_EQ(discipline.getTypeId(), typeId);
+        EXPECT_EQ(discipline.getName(), "Mine");
+    }
+}
+
+TYPED_TEST(SpecCoreOfEachKind, IsWrittenWithoutTheCommonDisciplineWhateverItsName) {
+    EXPECT_EQ(this->writtenOf(SpecCore("open", "Open")), this->written(""));
+    const std::string text = this->writtenOf(SpecCore("open", "Open", Taxon("norvex.spec:discipline-1.0.0", "Mine")));
+    EXPECT_EQ(text, this->written(""));
+    EXPECT_EQ(this->coreIn(engineOf({text}, this->plant())).getDiscipline().getName(), "Common");
+}
+
+TYPED_TEST(SpecCoreOfEachKind, IsWrittenWithTheCommonDisciplineInAnotherMinorVersion) {
+    EXPECT_EQ(this->writtenOf(SpecCore("open", "Open", Taxon("norvex.spec:discipline-1.3.0", "Common"))),
+              this->written(R"(,{"id":"discipline","typedValue":{"typeid":"norvex.spec:discipline-1.3.0"}})"));
+}
+
+TYPED_TEST(SpecCoreOfEachKind, IsWrittenWithItsDisciplineBehindItsName) {
+    EXPECT_EQ(this->writtenOf(SpecCore("open", "Open", Taxon("civil", "N"))),
+              this->written(R"(,{"id":"discipline","typedValue":{"typeid":"civil"}})"));
+}
+
+TYPED_TEST(SpecCoreOfEachKind, IsWrittenWithItsNameEvenWhenThatIsEmpty) {
+    EXPECT_EQ(this->writtenOf(SpecCore("open", "")), this->written("", "open", ""));
+}
+
+TYPED_TEST(SpecCoreOfEachKind, SurvivesTheRoundTrip) {
+    for (const char* more : {"", R"(,{"id":"discipline","typedValue":{"typeid":"civil"}})"}) {
+        EXPECT_EQ(rewritten(this->plant(), "open", this->written(more)), this->written(more));
+    }
+}
+
+TYPED_TEST(SpecCoreOfEachKind, IsWrittenWithTheFullBaseAndNothingElseOfItsSchema) {
+    const std::string constants = R"({"id": "discipline", "typedValue": {"typeid": "norvex.spec:discipline-1.0.0"}},
+        {"id": "extra", "value": 5}, {"id": "name", "value": "Open"})";
+    std::string text = this->textOf(constants, Support::versionPrefixOf(this->baseOfKind()) + "8.2");
+    text.insert(1, R"("note": [], "properties": [{"id": "p", "value": 1}], )");
+    EXPECT_EQ(rewritten(this->plant(), "open", text), this->written(""));
+}
+
+TYPED_TEST(SpecCoreOfEachKind, IsCommonWhereItIsBuiltIn) {
+    if (TypeParam::info.builtInName().empty()) {
+        return;
+    }
+    const std::string base = this->baseOfKind();
+    for (const std::string& typeId : {base, "my " + Support::versionPrefixOf(base) + "4.0"}) {
+        const ParametersEngine engine;
+        const SpecCore core = TypeParam::get(engine, typeId).getCore();
+        EXPECT_EQ(core.getTypeId(), typeId);
+        EXPECT_EQ(core.getName(), TypeParam::info.builtInName());
+        EXPECT_EQ(core.getDiscipline().getTypeId(), "norvex.spec:discipline-1.0.0");
+        EXPECT_EQ(core.getDiscipline().getName(), "Common");
+        EXPECT_EQ(messageOf<Parameters::UnrecognizedIdentifierException>([&] { engine.getSchema(typeId); }),
+                  "Could not find any object with typeid " + typeId + ".");
+    }
+}
 
 const std::vector<Fault> constantFaults = {
     {"NoName", "", "Schema open has an undefined name constant."},
@@ -343,57 +247,55 @@ const std::vector<Fault> constantFaults = {
      "Expected a non-empty string."},
 };
 
-class RefusedSpec : public testing::TestWithParam<std::tuple<SpecKind, Fault>> {};
-
-TEST_P(RefusedSpec, FailsWithTheFirstFault) {
-    const auto& [kind, fault] = GetParam();
-    EXPECT_EQ(refusalOf(textOf(kind, fault.text)), fault.message);
+TYPED_TEST(SpecCoreOfEachKind, IsRefusedForTheFirstOfItsFaults) {
+    for (const Fault& fault : constantFaults) {
+        EXPECT_EQ(refusalOf(this->textOf(fault.text)), fault.message) << fault.name;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Constants, RefusedSpec,
-                         testing::Combine(testing::ValuesIn(specKinds), testing::ValuesIn(constantFaults)),
-                         Support::nameOfBothRows);
-
-class AwkwardSpec : public testing::TestWithParam<std::tuple<SpecKind, Support::AwkwardString>> {
-protected:
-    static const SpecKind& kind() { return std::get<0>(GetParam()); }
-    static const std::string& bytes() { return std::get<1>(GetParam()).bytes; }
-    static const std::string& escaped() { return std::get<1>(GetParam()).escaped; }
-
-    static ParametersEngine engineWithDiscipline() {
-        ParametersEngine engine;
-        engine.registerDiscipline(Taxon("d" + bytes(), "N"));
-        return engine;
+TYPED_TEST(SpecCoreOfEachKind, KeepsAnyBytes) {
+    for (const Support::AwkwardString& string : Support::awkwardStrings) {
+        const std::string& bytes = string.bytes;
+        ParametersEngine engine = this->plant();
+        engine.registerDiscipline(Taxon("d" + bytes, "N"));
+        const std::string text =
+            this->written(R"(,{"id":"discipline","typedValue":{"typeid":"d)" + string.escaped + R"("}})",
+                          string.escaped, string.escaped);
+        EXPECT_EQ(this->writtenOf(SpecCore(bytes, bytes, Taxon("d" + bytes, "")), engine), text) << string.name;
+        const ParametersEngine read = engineOf({text}, engine);
+        EXPECT_EQ(read.getSchema(bytes), text) << string.name;
+        const SpecCore core = TypeParam::get(read, bytes).getCore();
+        EXPECT_EQ(core.getTypeId(), bytes);
+        EXPECT_EQ(core.getName(), bytes);
+        EXPECT_EQ(core.getDiscipline().getTypeId(), "d" + bytes);
     }
-    static std::string written() {
-        return R"({"typeid":")" + escaped() + R"(","inherits":[")" + kind().base +
-               R"("],"constants":[{"id":"name","value":")" + escaped() +
-               R"("},{"id":"discipline","typedValue":{"typeid":"d)" + escaped() + R"("}}]})";
-    }
+}
+
+/// A base that contains that of general specs too, and which of the two kinds of spec is read from it.
+struct DoubleBase {
+    const char* name;
+    const char* base;
+    Parameters::KindInfo kind;
 };
 
-TEST_P(AwkwardSpec, IsWrittenWithItsBytes) {
-    ParametersEngine engine = engineWithDiscipline();
-    kind().add(engine, SpecCore(bytes(), bytes(), Taxon("d" + bytes(), "")));
-    EXPECT_EQ(engine.getSchema(bytes()), written());
+const DoubleBase doubleBases[] = {
+    {"BeforeBool", "norvex.spec:spec-1.0.0 norvex.spec:spec.bool-1.0.0", Kinds::BoolSpec::info},
+    {"BehindBool", "norvex.spec:spec.bool-1.0.0 norvex.spec:spec-1.0.0", Kinds::BoolSpec::info},
+    {"BeforeInt", "norvex.spec:spec-1.0.0 norvex.spec:spec.int64-2.0.0", Kinds::GeneralSpec::info},
+    {"BehindInt", "norvex.spec:spec.int64-2.0.0 norvex.spec:spec-1.0.0", Kinds::GeneralSpec::info},
+    {"BeforeString", "norvex.spec:spec-1.0.0 norvex.spec:spec.string-2.0.0", Kinds::GeneralSpec::info},
+    {"BehindString", "norvex.spec:spec.string-2.0.0 norvex.spec:spec-1.0.0", Kinds::GeneralSpec::info},
+};
+
+struct BaseOfGeneralSpecs : testing::TestWithParam<DoubleBase> {};
+
+TEST_P(BaseOfGeneralSpecs, CountsAfterThatOfBooleanSpecsAndBeforeOthers) {
+    const ParametersEngine engine = engineOf({namedText("open", GetParam().base, "Open")});
+    Parameters::forEachKind([&](auto kind) {
+        EXPECT_EQ(kind.getAll(engine).size(), kind.info == GetParam().kind ? 1U : 0U) << kind.info.id();
+    });
 }
 
-TEST_P(AwkwardSpec, IsReadWithItsBytes) {
-    ParametersEngine engine = engineWithDiscipline();
-    engine.registerSchema(written());
-    engine.resolveSchemas();
-    const SpecCore core = kind().get(engine, bytes());
-    EXPECT_EQ(core.getTypeId(), bytes());
-    EXPECT_EQ(core.getName(), bytes());
-    EXPECT_EQ(core.getDiscipline().getTypeId(), "d" + bytes());
-}
-
-TEST_P(AwkwardSpec, SurvivesTheRoundTrip) {
-    EXPECT_EQ(rewritten(engineWithDiscipline(), bytes(), written()), written());
-}
-
-INSTANTIATE_TEST_SUITE_P(Strings, AwkwardSpec,
-                         testing::Combine(testing::ValuesIn(specKinds), testing::ValuesIn(awkwardStrings)),
-                         Support::nameOfBothRows);
+INSTANTIATE_TEST_SUITE_P(Bases, BaseOfGeneralSpecs, testing::ValuesIn(doubleBases), Support::nameOfRow);
 
 } // namespace
