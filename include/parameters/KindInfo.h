@@ -10,12 +10,12 @@ namespace Parameters {
 
 /// What sort of thing the objects of a kind are.
 enum class KindFamily {
-    Enumeration, ///< Enumerations.
-    Range,       ///< The ranges of integers, of floating-point numbers and of strings.
-    Taxon,       ///< Disciplines, groups and domains.
-    Category,    ///< Categories.
-    Spec,        ///< The specs of all parameters.
-    Parameter    ///< The parameters.
+    enumeration, ///< Enumerations.
+    range,       ///< The ranges of integers, of floating-point numbers and of strings.
+    taxon,       ///< Disciplines, groups and domains.
+    category,    ///< Categories.
+    spec,        ///< The specs of all parameters.
+    parameter    ///< The parameters.
 };
 
 namespace Internal {
@@ -70,14 +70,14 @@ public:
     /// Returns what sort of thing the objects are.
     constexpr KindFamily family() const noexcept { return description_->family; }
     /// Returns whether the objects are parameters.
-    constexpr bool isParameter() const noexcept { return family() == KindFamily::Parameter; }
+    constexpr bool isParameter() const noexcept { return family() == KindFamily::parameter; }
     /// Returns whether the objects are specs.
-    constexpr bool isSpec() const noexcept { return family() == KindFamily::Spec; }
+    constexpr bool isSpec() const noexcept { return family() == KindFamily::spec; }
     /// Returns whether the objects are ranges.
-    constexpr bool isRange() const noexcept { return family() == KindFamily::Range; }
+    constexpr bool isRange() const noexcept { return family() == KindFamily::range; }
     /// Returns whether the objects name others. Only then does an engine tell their dependencies.
     constexpr bool hasDependencies() const noexcept {
-        return isParameter() || isSpec() || family() == KindFamily::Category;
+        return isParameter() || isSpec() || family() == KindFamily::category;
     }
 
     /// Returns the name for files, options and logs, such as "bool-parameter". It stays the same for good.

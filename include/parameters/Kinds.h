@@ -4,6 +4,7 @@
 #include <parameters/KindInfo.h>
 #include <parameters/ParametersEngine.h>
 
+#include <array>
 #include <cstddef>
 #include <map>
 #include <optional>
@@ -94,13 +95,13 @@ namespace Kinds {
 struct Enumeration : KindOf<Enumeration, &ParametersEngine::getEnumeration, &ParametersEngine::getAllEnumerations,
                             &ParametersEngine::registerEnumeration> {
     static constexpr Internal::KindDescription description{
-        KindFamily::Enumeration, "enumeration", "enumeration", "enumerations", {"Enum"}};
+        KindFamily::enumeration, "enumeration", "enumeration", "enumerations", {"Enum"}};
 };
 
 /// Ranges of floating-point numbers.
 struct FloatRange : KindOf<FloatRange, &ParametersEngine::getFloatRange, &ParametersEngine::getAllFloatRanges,
                            &ParametersEngine::registerFloatRange> {
-    static constexpr Internal::KindDescription description{KindFamily::Range,
+    static constexpr Internal::KindDescription description{KindFamily::range,
                                                            "float-range",
                                                            "floating-point range",
                                                            "floating-point ranges",
@@ -110,7 +111,7 @@ struct FloatRange : KindOf<FloatRange, &ParametersEngine::getFloatRange, &Parame
 /// Ranges of integers.
 struct IntRange : KindOf<IntRange, &ParametersEngine::getIntRange, &ParametersEngine::getAllIntRanges,
                          &ParametersEngine::registerIntRange> {
-    static constexpr Internal::KindDescription description{KindFamily::Range,
+    static constexpr Internal::KindDescription description{KindFamily::range,
                                                            "int-range",
                                                            "integer range",
                                                            "integer ranges",
@@ -120,7 +121,7 @@ struct IntRange : KindOf<IntRange, &ParametersEngine::getIntRange, &ParametersEn
 /// Ranges of strings. The bases are those of any text, of sets and of regular expressions.
 struct StringRange : KindOf<StringRange, &ParametersEngine::getStringRange, &ParametersEngine::getAllStringRanges,
                             &ParametersEngine::registerStringRange> {
-    static constexpr Internal::KindDescription description{KindFamily::Range,
+    static constexpr Internal::KindDescription description{KindFamily::range,
                                                            "string-range",
                                                            "string range",
                                                            "string ranges",
@@ -133,34 +134,34 @@ struct StringRange : KindOf<StringRange, &ParametersEngine::getStringRange, &Par
 struct Discipline : KindOf<Discipline, &ParametersEngine::getDiscipline, &ParametersEngine::getAllDisciplines,
                            &ParametersEngine::registerDiscipline> {
     static constexpr Internal::KindDescription description{
-        KindFamily::Taxon, "discipline", "discipline", "disciplines", {"norvex.spec:discipline-1.0.0"}, "Common"};
+        KindFamily::taxon, "discipline", "discipline", "disciplines", {"norvex.spec:discipline-1.0.0"}, "Common"};
 };
 
 /// The specs of Boolean parameters.
 struct BoolSpec : KindOf<BoolSpec, &ParametersEngine::getBoolSpec, &ParametersEngine::getAllBoolSpecs,
                          &ParametersEngine::registerBoolSpec> {
     static constexpr Internal::KindDescription description{
-        KindFamily::Spec, "bool-spec", "Boolean spec", "Boolean specs", {"norvex.spec:spec.bool-1.0.0"}, "Yes/No"};
+        KindFamily::spec, "bool-spec", "Boolean spec", "Boolean specs", {"norvex.spec:spec.bool-1.0.0"}, "Yes/No"};
 };
 
 /// The specs of enumeration parameters.
 struct GeneralSpec : KindOf<GeneralSpec, &ParametersEngine::getGeneralSpec, &ParametersEngine::getAllGeneralSpecs,
                             &ParametersEngine::registerGeneralSpec> {
     static constexpr Internal::KindDescription description{
-        KindFamily::Spec, "general-spec", "general spec", "general specs", {"norvex.spec:spec-1.0.0"}};
+        KindFamily::spec, "general-spec", "general spec", "general specs", {"norvex.spec:spec-1.0.0"}};
 };
 
 /// The specs of integer parameters.
 struct IntSpec : KindOf<IntSpec, &ParametersEngine::getIntSpec, &ParametersEngine::getAllIntSpecs,
                         &ParametersEngine::registerIntSpec> {
     static constexpr Internal::KindDescription description{
-        KindFamily::Spec, "int-spec", "integer spec", "integer specs", {"norvex.spec:spec.int64-2.0.0"}, "Integer"};
+        KindFamily::spec, "int-spec", "integer spec", "integer specs", {"norvex.spec:spec.int64-2.0.0"}, "Integer"};
 };
 
 /// The specs of measurable parameters.
 struct MeasurableSpec : KindOf<MeasurableSpec, &ParametersEngine::getMeasurableSpec,
                                &ParametersEngine::getAllMeasurableSpecs, &ParametersEngine::registerMeasurableSpec> {
-    static constexpr Internal::KindDescription description{KindFamily::Spec,
+    static constexpr Internal::KindDescription description{KindFamily::spec,
                                                            "measurable-spec",
                                                            "measurable spec",
                                                            "measurable specs",
@@ -171,7 +172,7 @@ struct MeasurableSpec : KindOf<MeasurableSpec, &ParametersEngine::getMeasurableS
 struct ReferenceSpec : KindOf<ReferenceSpec, &ParametersEngine::getReferenceSpec,
                               &ParametersEngine::getAllReferenceSpecs, &ParametersEngine::registerReferenceSpec> {
     static constexpr Internal::KindDescription description{
-        KindFamily::Spec, "reference-spec", "reference spec", "reference specs", {"norvex.spec:spec.reference-1.0.0"},
+        KindFamily::spec, "reference-spec", "reference spec", "reference specs", {"norvex.spec:spec.reference-1.0.0"},
         "Reference"};
     /// The type identifier of the spec that is a parameter's own: it refers to family types of a category. No schema
     /// inherits it.
@@ -182,21 +183,21 @@ struct ReferenceSpec : KindOf<ReferenceSpec, &ParametersEngine::getReferenceSpec
 struct StringSpec : KindOf<StringSpec, &ParametersEngine::getStringSpec, &ParametersEngine::getAllStringSpecs,
                            &ParametersEngine::registerStringSpec> {
     static constexpr Internal::KindDescription description{
-        KindFamily::Spec, "string-spec", "string spec", "string specs", {"norvex.spec:spec.string-2.0.0"}, "Text"};
+        KindFamily::spec, "string-spec", "string spec", "string specs", {"norvex.spec:spec.string-2.0.0"}, "Text"};
 };
 
 /// Groups.
 struct Group
     : KindOf<Group, &ParametersEngine::getGroup, &ParametersEngine::getAllGroups, &ParametersEngine::registerGroup> {
     static constexpr Internal::KindDescription description{
-        KindFamily::Taxon, "group", "group", "groups", {"norvex.parameter:group-1.0.0"}, "Other"};
+        KindFamily::taxon, "group", "group", "groups", {"norvex.parameter:group-1.0.0"}, "Other"};
 };
 
 /// Parameters whose values are those of an enumeration.
 struct EnumerationParameter
     : KindOf<EnumerationParameter, &ParametersEngine::getEnumerationParameter,
              &ParametersEngine::getAllEnumerationParameters, &ParametersEngine::registerEnumerationParameter> {
-    static constexpr Internal::KindDescription description{KindFamily::Parameter,
+    static constexpr Internal::KindDescription description{KindFamily::parameter,
                                                            "enumeration-parameter",
                                                            "enumeration parameter",
                                                            "enumeration parameters",
@@ -207,7 +208,7 @@ struct EnumerationParameter
 struct BoolParameter
     : ReadableKindOf<BoolParameter, &ParametersEngine::getBoolParameter, &ParametersEngine::getAllBoolParameters,
                      &ParametersEngine::registerBoolParameter, &ParametersEngine::readBoolParameter, Bool> {
-    static constexpr Internal::KindDescription description{KindFamily::Parameter,
+    static constexpr Internal::KindDescription description{KindFamily::parameter,
                                                            "bool-parameter",
                                                            "Boolean parameter",
                                                            "Boolean parameters",
@@ -218,7 +219,7 @@ struct BoolParameter
 struct IntParameter
     : ReadableKindOf<IntParameter, &ParametersEngine::getIntParameter, &ParametersEngine::getAllIntParameters,
                      &ParametersEngine::registerIntParameter, &ParametersEngine::readIntParameter, Int> {
-    static constexpr Internal::KindDescription description{KindFamily::Parameter,
+    static constexpr Internal::KindDescription description{KindFamily::parameter,
                                                            "int-parameter",
                                                            "integer parameter",
                                                            "integer parameters",
@@ -230,7 +231,7 @@ struct MeasurableParameter
     : ReadableKindOf<MeasurableParameter, &ParametersEngine::getMeasurableParameter,
                      &ParametersEngine::getAllMeasurableParameters, &ParametersEngine::registerMeasurableParameter,
                      &ParametersEngine::readMeasurableParameter, Measurable> {
-    static constexpr Internal::KindDescription description{KindFamily::Parameter,
+    static constexpr Internal::KindDescription description{KindFamily::parameter,
                                                            "measurable-parameter",
                                                            "measurable parameter",
                                                            "measurable parameters",
@@ -243,7 +244,7 @@ struct ReferenceParameter
                      &ParametersEngine::getAllReferenceParameters, &ParametersEngine::registerReferenceParameter,
                      &ParametersEngine::readReferenceParameter, Reference> {
     static constexpr Internal::KindDescription description{
-        KindFamily::Parameter,
+        KindFamily::parameter,
         "reference-parameter",
         "reference parameter",
         "reference parameters",
@@ -254,7 +255,7 @@ struct ReferenceParameter
 struct StringParameter
     : ReadableKindOf<StringParameter, &ParametersEngine::getStringParameter, &ParametersEngine::getAllStringParameters,
                      &ParametersEngine::registerStringParameter, &ParametersEngine::readStringParameter, String> {
-    static constexpr Internal::KindDescription description{KindFamily::Parameter,
+    static constexpr Internal::KindDescription description{KindFamily::parameter,
                                                            "string-parameter",
                                                            "string parameter",
                                                            "string parameters",
@@ -265,14 +266,14 @@ struct StringParameter
 struct Domain : KindOf<Domain, &ParametersEngine::getDomain, &ParametersEngine::getAllDomains,
                        &ParametersEngine::registerDomain> {
     static constexpr Internal::KindDescription description{
-        KindFamily::Taxon, "domain", "domain", "domains", {"norvex.talmo.category:domain-1.0.0"}};
+        KindFamily::taxon, "domain", "domain", "domains", {"norvex.talmo.category:domain-1.0.0"}};
 };
 
 /// Categories. The bases are those of major categories and of subcategories.
 struct Category : KindOf<Category, &ParametersEngine::getCategory, &ParametersEngine::getAllCategories,
                          &ParametersEngine::registerCategory> {
     static constexpr Internal::KindDescription description{
-        KindFamily::Category,
+        KindFamily::category,
         "category",
         "category",
         "categories",
@@ -300,7 +301,7 @@ namespace Internal {
 /// The kinds of a list for which a predicate, a template over kinds, is true, in their order.
 template <template <class> class Predicate, class Taken, class... Rest>
 struct Filter {
-    using type = Taken;
+    using Result = Taken;
 };
 template <template <class> class Predicate, class... Taken, class First, class... Rest>
 struct Filter<Predicate, Kinds::List<Taken...>, First, Rest...>
@@ -333,7 +334,7 @@ struct One {
 };
 template <class Kind>
 struct One<Kind> {
-    using type = Kind;
+    using Result = Kind;
 };
 template <class... Ks>
 constexpr One<Ks...> oneOf(Kinds::List<Ks...>) {
@@ -342,7 +343,7 @@ constexpr One<Ks...> oneOf(Kinds::List<Ks...>) {
 
 template <class Kind, class... Ks>
 constexpr std::size_t indexIn(Kinds::List<Ks...>) {
-    constexpr bool isIt[] = {std::is_same_v<Kind, Ks>...};
+    constexpr std::array<bool, sizeof...(Ks)> isIt{std::is_same_v<Kind, Ks>...};
     std::size_t index = 0;
     while (!isIt[index]) {
         ++index;
@@ -359,23 +360,23 @@ namespace Kinds {
 
 /// The kinds of a family, in the order of all.
 template <KindFamily family>
-using Family = typename Internal::FilterList<Internal::IsOf<family>::template Predicate, All>::type;
+using Family = typename Internal::FilterList<Internal::IsOf<family>::template Predicate, All>::Result;
 
-using Ranges = Family<KindFamily::Range>;         ///< The kinds of ranges.
-using Taxa = Family<KindFamily::Taxon>;           ///< The kinds of taxa.
-using Specs = Family<KindFamily::Spec>;           ///< The kinds of specs.
-using Parameters = Family<KindFamily::Parameter>; ///< The kinds of parameters.
+using Ranges = Family<KindFamily::range>;         ///< The kinds of ranges.
+using Taxa = Family<KindFamily::taxon>;           ///< The kinds of taxa.
+using Specs = Family<KindFamily::spec>;           ///< The kinds of specs.
+using Parameters = Family<KindFamily::parameter>; ///< The kinds of parameters.
 
 /// The kinds that can be read from a text without registering them: each has a valueType and read.
-using Readable = typename Internal::FilterList<Internal::IsReadable, All>::type;
+using Readable = typename Internal::FilterList<Internal::IsReadable, All>::Result;
 
 /// The kinds whose objects are of a class: three for Taxon, one for all others.
 template <class Value>
-using With = typename Internal::FilterList<Internal::HasValue<Value>::template Predicate, All>::type;
+using With = typename Internal::FilterList<Internal::HasValue<Value>::template Predicate, All>::Result;
 
 /// The one kind whose objects are of a class. Does not compile for Taxon, the class of three.
 template <class Value>
-using Of = typename decltype(Internal::oneOf(With<Value>{}))::type;
+using Of = typename decltype(Internal::oneOf(With<Value>{}))::Result;
 
 /// The place of a kind among all, counted from 0.
 template <class Kind>

@@ -9,7 +9,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace Parameters::Internal {
 
@@ -95,16 +94,26 @@ private:
     Purpose purpose_;
 };
 
-/// Finds two things that a record names, by calls without arguments, and returns the pair of them. Of two that are
-/// missing, resolution names the first, binding the second.
+/// Two things that were found, each made in its place: handles can only be copied, and a copy costs a count.
 template <class First, class Second>
-auto findBoth(const Finder& finder, First findFirst, Second findSecond) {
+struct Both {
+    First first;
+    Second second;
+
+    template <class FindFirst, class FindSecond>
+    Both(FindFirst findFirst, FindSecond findSecond) : first(findFirst()), second(findSecond()) {}
+};
+
+/// Finds two things that a record names, by calls without arguments. Of two that are missing, resolution names the
+/// first, binding the second.
+template <class FindFirst, class FindSecond>
+auto findBoth(const Finder& finder, FindFirst findFirst, FindSecond findSecond) {
+    using Found = Both<decltype(findFirst()), decltype(findSecond())>;
     if (finder.binds()) {
-        auto second = findSecond();
-        return std::pair(findFirst(), std::move(second));
+        const auto second = findSecond();
+        return Found(findFirst, [&] { return second; });
     }
-    auto first = findFirst();
-    return std::pair(std::move(first), findSecond());
+    return Found(findFirst, findSecond);
 }
 
 } // namespace Parameters::Internal

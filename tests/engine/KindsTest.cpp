@@ -36,71 +36,71 @@ struct Promise {
 };
 
 const std::vector<Promise> promises{
-    {"enumeration", "enumeration", "enumerations", KindFamily::Enumeration, {"Enum"}},
+    {"enumeration", "enumeration", "enumerations", KindFamily::enumeration, {"Enum"}},
     {"float-range",
      "floating-point range",
      "floating-point ranges",
-     KindFamily::Range,
+     KindFamily::range,
      {"norvex.range:range.float64.bounded.static-1.0.0"}},
     {"int-range",
      "integer range",
      "integer ranges",
-     KindFamily::Range,
+     KindFamily::range,
      {"norvex.range:range.int64.bounded.static-1.0.0"}},
     {"string-range",
      "string range",
      "string ranges",
-     KindFamily::Range,
+     KindFamily::range,
      {"norvex.range:range.string-1.0.0", "norvex.range:range.string.set.static-1.0.0",
       "norvex.range:range.string.regex-1.0.0"}},
-    {"discipline", "discipline", "disciplines", KindFamily::Taxon, {"norvex.spec:discipline-1.0.0"}, "Common"},
-    {"bool-spec", "Boolean spec", "Boolean specs", KindFamily::Spec, {"norvex.spec:spec.bool-1.0.0"}, "Yes/No"},
-    {"general-spec", "general spec", "general specs", KindFamily::Spec, {"norvex.spec:spec-1.0.0"}},
-    {"int-spec", "integer spec", "integer specs", KindFamily::Spec, {"norvex.spec:spec.int64-2.0.0"}, "Integer"},
-    {"measurable-spec", "measurable spec", "measurable specs", KindFamily::Spec, {"norvex.spec:spec.measurable-2.0.0"}},
+    {"discipline", "discipline", "disciplines", KindFamily::taxon, {"norvex.spec:discipline-1.0.0"}, "Common"},
+    {"bool-spec", "Boolean spec", "Boolean specs", KindFamily::spec, {"norvex.spec:spec.bool-1.0.0"}, "Yes/No"},
+    {"general-spec", "general spec", "general specs", KindFamily::spec, {"norvex.spec:spec-1.0.0"}},
+    {"int-spec", "integer spec", "integer specs", KindFamily::spec, {"norvex.spec:spec.int64-2.0.0"}, "Integer"},
+    {"measurable-spec", "measurable spec", "measurable specs", KindFamily::spec, {"norvex.spec:spec.measurable-2.0.0"}},
     {"reference-spec",
      "reference spec",
      "reference specs",
-     KindFamily::Spec,
+     KindFamily::spec,
      {"norvex.spec:spec.reference-1.0.0"},
      "Reference"},
-    {"string-spec", "string spec", "string specs", KindFamily::Spec, {"norvex.spec:spec.string-2.0.0"}, "Text"},
-    {"group", "group", "groups", KindFamily::Taxon, {"norvex.parameter:group-1.0.0"}, "Other"},
+    {"string-spec", "string spec", "string specs", KindFamily::spec, {"norvex.spec:spec.string-2.0.0"}, "Text"},
+    {"group", "group", "groups", KindFamily::taxon, {"norvex.parameter:group-1.0.0"}, "Other"},
     {"enumeration-parameter",
      "enumeration parameter",
      "enumeration parameters",
-     KindFamily::Parameter,
+     KindFamily::parameter,
      {"norvex.parameter:parameter-2.0.0"}},
     {"bool-parameter",
      "Boolean parameter",
      "Boolean parameters",
-     KindFamily::Parameter,
+     KindFamily::parameter,
      {"norvex.parameter:parameter.bool-2.0.0"}},
     {"int-parameter",
      "integer parameter",
      "integer parameters",
-     KindFamily::Parameter,
+     KindFamily::parameter,
      {"norvex.parameter:parameter.int64-3.0.0"}},
     {"measurable-parameter",
      "measurable parameter",
      "measurable parameters",
-     KindFamily::Parameter,
+     KindFamily::parameter,
      {"norvex.parameter:parameter.measurable-3.0.0"}},
     {"reference-parameter",
      "reference parameter",
      "reference parameters",
-     KindFamily::Parameter,
+     KindFamily::parameter,
      {"norvex.parameter:parameter.reference-2.0.0", "norvex.parameter:parameter.reference.ranged-2.0.0"}},
     {"string-parameter",
      "string parameter",
      "string parameters",
-     KindFamily::Parameter,
+     KindFamily::parameter,
      {"norvex.parameter:parameter.string-3.0.0"}},
-    {"domain", "domain", "domains", KindFamily::Taxon, {"norvex.talmo.category:domain-1.0.0"}},
+    {"domain", "domain", "domains", KindFamily::taxon, {"norvex.talmo.category:domain-1.0.0"}},
     {"category",
      "category",
      "categories",
-     KindFamily::Category,
+     KindFamily::category,
      {"norvex.talmo.category:majorCategory-1.0.0", "norvex.talmo.category:subCategory-1.0.0"}},
 };
 
@@ -164,9 +164,9 @@ TEST(Kinds, AreOfOneFamilyEach) {
     EXPECT_THAT(idsOf(Kinds::Specs{}), ElementsAre("bool-spec", "general-spec", "int-spec", "measurable-spec",
                                                    "reference-spec", "string-spec"));
     forEachKind([](auto kind) {
-        EXPECT_EQ(kind.info.isParameter(), kind.info.family() == KindFamily::Parameter);
-        EXPECT_EQ(kind.info.isSpec(), kind.info.family() == KindFamily::Spec);
-        EXPECT_EQ(kind.info.isRange(), kind.info.family() == KindFamily::Range);
+        EXPECT_EQ(kind.info.isParameter(), kind.info.family() == KindFamily::parameter);
+        EXPECT_EQ(kind.info.isSpec(), kind.info.family() == KindFamily::spec);
+        EXPECT_EQ(kind.info.isRange(), kind.info.family() == KindFamily::range);
     });
 }
 
@@ -229,7 +229,7 @@ TEST(Kinds, AreFoundAsAnEngineFindsThem) {
 }
 
 TEST(KindInfo, IsEqualToThatOfTheSameKindAlone) {
-    static constexpr Internal::KindDescription same{KindFamily::Taxon, "group", "", "", {}};
+    static constexpr Internal::KindDescription same{KindFamily::taxon, "group", "", "", {}};
     EXPECT_TRUE(KindInfo(same) == Kinds::Group::info);
     EXPECT_FALSE(KindInfo(same) != Kinds::Group::info);
     EXPECT_FALSE(Kinds::Group::info == Kinds::Domain::info);
