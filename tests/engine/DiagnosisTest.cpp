@@ -1,6 +1,7 @@
 #include "support/Messages.h"
 #include "support/Picture.h"
 #include "support/SchemaTexts.h"
+#include "support/Sentences.h"
 
 #include <parameters/ParametersEngine.h>
 
@@ -21,37 +22,19 @@ using Support::constant;
 using Support::disciplineText;
 using Support::domainText;
 using Support::groupText;
+using Support::majorCategoryText;
+using Support::measurableSpecText;
 using Support::messageOf;
 using Support::pictureOf;
-using Support::quoted;
 using Support::schemaText;
+using Support::subCategoryText;
 using Support::typedConstant;
 using Support::unitText;
+using Support::unresolvable;
 
 using Faults = std::map<std::string, std::string>;
 
-std::string missing(const std::string& typeId, const std::string& schema) {
-    return "Dependency " + typeId + " in schema " + schema +
-           " is missing or does not represent an object of the expected type.";
-}
-
 std::string named(const std::string& constants) { return constant("name", R"("Name")") + ", " + constants; }
-
-std::string majorText(const std::string& typeId, const std::string& domain) {
-    return schemaText(typeId, "norvex.talmo.category:majorCategory-1.0.0", named(typedConstant("domain", domain)));
-}
-
-std::string subText(const std::string& typeId, const std::string& parent) {
-    return schemaText(typeId, "norvex.talmo.category:subCategory-1.0.0", named(typedConstant("parent", parent)));
-}
-
-std::string measurableSpecText(const std::string& typeId, const std::string& storageUnit,
-                               const std::string& applicableUnit) {
-    return schemaText(typeId, "norvex.spec:spec.measurable-2.0.0",
-                      named(typedConstant("storageUnit", storageUnit) +
-                            R"(, {"id": "applicableUnits", "typedValue": [{"typeid": )" + quoted(applicableUnit) +
-                            "}]}"));
-}
 
 std::string measurableParameterText(const std::string& typeId, const std::string& spec, const std::string& range) {
     return schemaText(typeId, "norvex.parameter:parameter.measurable-3.0.0",
@@ -82,66 +65,68 @@ TEST(FindUnresolvable, NamesEveryFaultOfEveryKind) {
     const ParametersEngine engine = engineWithPending(
         {boolSpecText("s1", "no-discipline"), boolSpecText("s2", "no-discipline"),
          boolParameterText("p1", "no-group", "x"), boolParameterText("p2", "norvex.parameter:group-1.0.0", "no-spec"),
-         majorText("c1", "no-domain"), subText("c2", "no-parent"), groupText("sound")});
-    EXPECT_EQ(engine.findUnresolvable(), (Faults{{"c1", missing("no-domain", "c1")},
-                                                 {"c2", missing("no-parent", "c2")},
-                                                 {"p1", missing("no-group", "p1")},
-                                                 {"p2", missing("no-spec", "p2")},
-                                                 {"s1", missing("no-discipline", "s1")},
-                                                 {"s2", missing("no-discipline", "s2")}}));
+         majorCategoryText("c1", "no-domain"), subCategoryText("c2", "no-parent"), groupText("sound")});
+    EXPECT_EQ(engine.findUnresolvable(), (Faults{{"c1", unresolvable("no-domain", "c1")},
+                                                 {"c2", unresolvable("no-parent", "c2")},
+                                                 {"p1", unresolvable("no-group", "p1")},
+                                                 {"p2", unresolvable("no-spec", "p2")},
+                                                 {"s1", unresolvable("no-discipline", "s1")},
+                                                 {"s2", unresolvable("no-discipline", "s2")}}));
 }
 
 TEST(FindUnresolvable, NamesWhatIsOfAnotherKindAsMissing) {
     const ParametersEngine engine = engineWithPending({boolSpecText("s", "g"), groupText("g")});
-    EXPECT_EQ(engine.findUnresolvable(), (Faults{{"s", missing("g", "s")}}));
+    EXPECT_EQ(engine.findUnresolvable(), (Faults{{"s", unresolvable("g", "s")}}));
 }
 
 TEST(FindUnresolvable, ListsWhatNamesAFaultySchemaToo) {
     const ParametersEngine engine = engineWithPending(
         {boolParameterText("p", "norvex.parameter:group-1.0.0", "s"), boolSpecText("s", "no-discipline")});
-    EXPECT_EQ(engine.findUnresolvable(), (Faults{{"p", missing("s", "p")}, {"s", missing("no-discipline", "s")}}));
+    EXPECT_EQ(engine.findUnresolvable(),
+              (Faults{{"p", unresolvable("s", "p")}, {"s", unresolvable("no-discipline", "s")}}));
 }
 
 TEST(FindUnresolvable, FollowsAChainOverFourKinds) {
     const ParametersEngine engine = engineWithPending(
-        {majorText("major", "no-domain"), subText("sub", "major"),
+        {majorCategoryText("major", "no-domain"), subCategoryText("sub", "major"),
          schemaText("spec", "norvex.spec:spec.reference-1.0.0", named(typedConstant("category", "sub"))),
          schemaText("parameter", "norvex.parameter:parameter.reference-2.0.0", named(typedConstant("spec", "spec")))});
-    EXPECT_EQ(engine.findUnresolvable(), (Faults{{"major", missing("no-domain", "major")},
-                                                 {"parameter", missing("spec", "parameter")},
-                                                 {"spec", missing("sub", "spec")},
-                                                 {"sub", missing("major", "sub")}}));
+    EXPECT_EQ(engine.findUnresolvable(), (Faults{{"major", unresolvable("no-domain", "major")},
+                                                 {"parameter", unresolvable("spec", "parameter")},
+                                                 {"spec", unresolvable("sub", "spec")},
+                                                 {"sub", unresolvable("major", "sub")}}));
 }
 
 TEST(FindUnresolvable, NamesSubcategoriesOfSubcategories) {
-    const ParametersEngine engine = engineWithPending(
-        {domainText("d"), majorText("major", "d"), subText("sub1", "major"), subText("sub2", "sub1")});
+    const ParametersEngine engine =
+        engineWithPending({domainText("d"), majorCategoryText("major", "d"), subCategoryText("sub1", "major"),
+                           subCategoryText("sub2", "sub1")});
     EXPECT_EQ(engine.findUnresolvable(),
               (Faults{{"sub2", "Parent sub1 of subcategory schema sub2 is not a major category."}}));
 }
 
 TEST(FindUnresolvable, NamesUnknownUnits) {
     ParametersEngine engine =
-        engineWithPending({measurableSpecText("s1", "no-unit", "u"), measurableSpecText("s2", "u", "no-unit"),
+        engineWithPending({measurableSpecText("s1", "no-unit", {"u"}), measurableSpecText("s2", "u", {"no-unit"}),
                            measurableParameterText("p", "s1", "no-range")});
     engine.getUnitsEngine().registerSchema(unitText("u"));
     EXPECT_EQ(
         engine.findUnresolvable(),
         (Faults{
-            {"p", missing("s1", "p")},
+            {"p", unresolvable("s1", "p")},
             {"s1", "Typeid no-unit for storageUnit constant in measurable spec schema s1 does not belong to a unit."},
             {"s2", "Typeid no-unit in applicableUnits constant in measurable spec schema s2 does not belong to a "
                    "unit."}}));
 }
 
 TEST(FindUnresolvable, FindsUnitsThatArePendingThemselves) {
-    ParametersEngine engine = engineWithPending({measurableSpecText("s", "u", "u")});
+    ParametersEngine engine = engineWithPending({measurableSpecText("s", "u", {"u"})});
     engine.getUnitsEngine().registerSchema(unitText("u"));
     EXPECT_EQ(engine.findUnresolvable(), Faults());
 }
 
 TEST(FindUnresolvable, LeavesPendingUnitsPending) {
-    ParametersEngine engine = engineWithPending({measurableSpecText("s", "u", "u")});
+    ParametersEngine engine = engineWithPending({measurableSpecText("s", "u", {"u"})});
     engine.getUnitsEngine().registerSchema(unitText("u"));
     EXPECT_EQ(engine.findUnresolvable(), Faults());
     EXPECT_TRUE(engine.getUnitsEngine().getAllUnits().empty());
@@ -166,10 +151,11 @@ TEST(FindUnresolvable, ChangesNothing) {
 }
 
 TEST(FindUnresolvable, FirstFaultInResolutionIsAmongThem) {
-    const ParametersEngine engine = engineWithPending(
-        {boolSpecText("s2", "no-discipline"), boolSpecText("s1", "no-discipline"), majorText("z", "no-domain")});
-    EXPECT_EQ(messageOfResolving(engine), missing("no-domain", "z"));
-    EXPECT_EQ(engine.findUnresolvable().at("z"), missing("no-domain", "z"));
+    const ParametersEngine engine =
+        engineWithPending({boolSpecText("s2", "no-discipline"), boolSpecText("s1", "no-discipline"),
+                           majorCategoryText("z", "no-domain")});
+    EXPECT_EQ(messageOfResolving(engine), unresolvable("no-domain", "z"));
+    EXPECT_EQ(engine.findUnresolvable().at("z"), unresolvable("no-domain", "z"));
 }
 
 TEST(DiscardPending, WithdrawsASchema) {
@@ -221,10 +207,10 @@ TEST(DiscardPending, LeavesACopyAlone) {
 
 TEST(DiscardPending, OfAllFaultsMakesResolutionSucceed) {
     ParametersEngine engine = engineWithPending(
-        {majorText("major", "no-domain"), subText("sub", "major"), groupText("g"), disciplineText("d"),
+        {majorCategoryText("major", "no-domain"), subCategoryText("sub", "major"), groupText("g"), disciplineText("d"),
          boolSpecText("s", "d"), boolParameterText("p1", "g", "s"), boolParameterText("p2", "g", "no-spec"),
-         measurableSpecText("m", "no-unit", "no-unit"), measurableParameterText("p3", "m", "no-range")});
-    EXPECT_EQ(messageOfResolving(engine), missing("no-domain", "major"));
+         measurableSpecText("m", "no-unit", {"no-unit"}), measurableParameterText("p3", "m", "no-range")});
+    EXPECT_EQ(messageOfResolving(engine), unresolvable("no-domain", "major"));
     for (const auto& [typeId, message] : engine.findUnresolvable()) {
         EXPECT_TRUE(engine.discardPending(typeId)) << typeId << ": " << message;
     }

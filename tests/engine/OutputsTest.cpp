@@ -3,6 +3,7 @@
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
+#include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>
 
 #include <gtest/gtest.h>
@@ -86,52 +87,9 @@ struct Outputs : testing::Test {
     ParametersEngine engine;
 };
 
-TEST_F(Outputs, DependenciesOfASpecAreItsDiscipline) {
-    EXPECT_EQ(engine.getDependencies("bool spec"), TypeIds{"discipline"});
-    EXPECT_EQ(engine.getDependencies("general spec"), TypeIds{"discipline"});
-}
-
-TEST_F(Outputs, DependenciesOfAParameterAreItsGroupAndSpec) {
-    EXPECT_EQ(engine.getDependencies("parameter"), (TypeIds{"group", "bool spec"}));
-}
-
-TEST_F(Outputs, DependenciesOfARangedParameterAreItsGroupSpecAndNamedRange) {
-    EXPECT_EQ(engine.getDependencies("int parameter"),
-              (TypeIds{"norvex.parameter:group-1.0.0", "int spec", "int range"}));
-    EXPECT_EQ(engine.getDependencies("string parameter"), (TypeIds{"norvex.parameter:group-1.0.0", "string spec"}));
-}
-
-TEST_F(Outputs, DependenciesOfAnEnumerationParameterAreItsGroupSpecAndEnumeration) {
-    EXPECT_EQ(engine.getDependencies("enumeration parameter"),
-              (TypeIds{"norvex.parameter:group-1.0.0", "general spec", "enumeration"}));
-}
-
-TEST_F(Outputs, DependenciesOfACategoryAreItsDomainAndDisciplinesOrItsParent) {
-    EXPECT_EQ(engine.getDependencies("major"), (TypeIds{"domain", "discipline"}));
-    EXPECT_EQ(engine.getDependencies("sub"), TypeIds{"major"});
-}
-
-TEST_F(Outputs, DependenciesOfASpecAreWhatItNamesBesideItsDiscipline) {
-    EXPECT_EQ(engine.getDependencies("measurable spec"), (TypeIds{"norvex.spec:discipline-1.0.0", "unit"}));
-    EXPECT_EQ(engine.getDependencies("reference spec"), (TypeIds{"norvex.spec:discipline-1.0.0", "major"}));
-}
-
 TEST_F(Outputs, DependenciesOfAFamilyTypeParameterIncludeItsCategory) {
     EXPECT_EQ(engine.getDependencies("family parameter"),
               (TypeIds{"norvex.parameter:group-1.0.0", "norvex.talmo.spec:familyType-1.0.0", "sub"}));
-}
-
-TEST_F(Outputs, DependenciesIncludeBuiltInObjects) {
-    EXPECT_EQ(engine.getDependencies("common spec"), TypeIds{"norvex.spec:discipline-1.0.0"});
-    EXPECT_EQ(engine.getDependencies("plain parameter"),
-              (TypeIds{"norvex.parameter:group-1.0.0", "norvex.spec:spec.bool-1.0.0"}));
-}
-
-TEST_F(Outputs, DependenciesAreAsTheSchemaNamedThem) {
-    engine.registerSchema(
-        Support::boolParameterText("p", "our norvex.parameter:group-1.9", "norvex.spec:spec.bool-1.4.0"));
-    engine.resolveSchemas();
-    EXPECT_EQ(engine.getDependencies("p"), (TypeIds{"our norvex.parameter:group-1.9", "norvex.spec:spec.bool-1.4.0"}));
 }
 
 TEST_F(Outputs, DependenciesAreNotThoseOfDependencies) {
@@ -171,32 +129,18 @@ const Unknown unknowns[] = {
 
 INSTANTIATE_TEST_SUITE_P(Outputs, UnknownInOutputs, testing::ValuesIn(unknowns), Support::nameOfRow);
 
-struct Unsearched {
-    const char* name;
-    const char* typeId;
-    const char* message;
-};
-
-struct KindThatNamesNothing : Outputs, testing::WithParamInterface<Unsearched> {};
-
-TEST_P(KindThatNamesNothing, IsNotSearchedForDependencies) {
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { engine.getDependencies(GetParam().typeId); }),
-              GetParam().message);
+TEST_F(Outputs, OfKindsThatNameNothingAreSchemasButNoDependencies) {
+    Parameters::forEachKind([&](auto kind) {
+        for (const auto& [typeId, object] : kind.getAll(engine)) {
+            EXPECT_FALSE(kind.getSchema(engine, object).empty());
+            EXPECT_EQ(kind.getDependencies(engine, object).empty(), !kind.info.hasDependencies()) << typeId;
+            if (!kind.info.hasDependencies()) {
+                EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&, id = typeId] { engine.getDependencies(id); }),
+                          "Could not find any object with typeid " + typeId + ".");
+            }
+        }
+    });
 }
-
-TEST_P(KindThatNamesNothing, HasASchemaAllTheSame) { EXPECT_NO_THROW(engine.getSchema(GetParam().typeId)); }
-
-const Unsearched unsearched[] = {
-    {"Enumeration", "enumeration", "Could not find any object with typeid enumeration."},
-    {"FloatRange", "float range", "Could not find any object with typeid float range."},
-    {"IntRange", "int range", "Could not find any object with typeid int range."},
-    {"StringRange", "set range", "Could not find any object with typeid set range."},
-    {"Discipline", "discipline", "Could not find any object with typeid discipline."},
-    {"Domain", "domain", "Could not find any object with typeid domain."},
-    {"Group", "group", "Could not find any object with typeid group."},
-};
-
-INSTANTIATE_TEST_SUITE_P(Outputs, KindThatNamesNothing, testing::ValuesIn(unsearched), Support::nameOfRow);
 
 struct Export {
     const char* name;
@@ -211,33 +155,12 @@ TEST_P(ExportedSchema, IsWrittenFromTheObject) { EXPECT_EQ(engine.getSchema(GetP
 TEST_P(ExportedSchema, MakesTheSameObjectInAnotherEngine) {
     ParametersEngine other;
     std::map<std::string, std::string> batch;
-    for (const char* typeId : {"discipline",
-                               "domain",
-                               "group",
-                               "bool spec",
-                               "common spec",
-                               "general spec",
-                               "parameter",
-                               "plain parameter",
-                               "enumeration",
-                               "float range",
-                               "int range",
-                               "set range",
-                               "regex range",
-                               "int spec",
-                               "string spec",
-                               "int parameter",
-                               "string parameter",
-                               "enumeration parameter",
-                               "major",
-                               "sub",
-                               "measurable spec",
-                               "reference spec",
-                               "measurable parameter",
-                               "reference parameter",
-                               "family parameter"}) {
-        batch.emplace(typeId, engine.getSchema(typeId));
-    }
+    Parameters::forEachKind([&](auto kind) {
+        EXPECT_FALSE(kind.getAll(engine).empty()) << kind.info.id();
+        for (const auto& [typeId, object] : kind.getAll(engine)) {
+            batch.emplace(typeId, engine.getSchema(typeId));
+        }
+    });
     batch.emplace("unit", Support::unitText("unit"));
     other.registerSchemas(batch);
     EXPECT_EQ(other.getSchema(GetParam().typeId), GetParam().text);
@@ -348,10 +271,6 @@ TEST_F(Outputs, ASchemaKeepsTheTypeIdsOfBuiltInObjectsUnlessTheyAreTheDefaults) 
               R"({"id":"name","value":"Name"},{"id":"spec","typedValue":{"typeid":"norvex.spec:spec.bool-1.4.0"}}]})");
 }
 
-TEST_F(Outputs, OfAParameterMadeInCodeAreItsDependencies) {
-    EXPECT_EQ(engine.getDependencies(parameterIn("group", "bool spec")), (TypeIds{"group", "bool spec"}));
-}
-
 TEST_F(Outputs, OfAParameterMadeInCodeAreItsBuiltInDependencies) {
     EXPECT_EQ(engine.getDependencies(BoolParameter(ParameterCore("p", "", "", "", false))),
               (TypeIds{"norvex.parameter:group-1.0.0", "norvex.spec:spec.bool-1.0.0"}));
@@ -404,11 +323,6 @@ const Refusal refusals[] = {
      "Schema with typeid norvex.spec:spec.bool-1.0.0 is already registered."},
     {"TypeIdBeforeReferences", parameterIn("x", "y", "parameter"),
      "Schema with typeid parameter is already registered."},
-    {"UnknownGroup", parameterIn("x", "bool spec"), "Could not find group with typeid x."},
-    {"PendingGroup", parameterIn("pending group", "bool spec"), "Could not find group with typeid pending group."},
-    {"UnknownSpec", parameterIn("group", "y"), "Could not find Boolean spec with typeid y."},
-    {"PendingSpec", parameterIn("group", "pending spec"), "Could not find Boolean spec with typeid pending spec."},
-    {"GeneralSpec", parameterIn("group", "general spec"), "Could not find Boolean spec with typeid general spec."},
     {"GroupBeforeSpec", parameterIn("x", "y"), "Could not find group with typeid x."},
 };
 

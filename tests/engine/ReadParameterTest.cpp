@@ -1,13 +1,16 @@
+#include "support/KindTypes.h"
 #include "support/Messages.h"
 #include "support/Picture.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
+#include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -65,21 +68,6 @@ TEST(ReadBoolParameter, NeedsNoObjectsForBuiltInTypeIds) {
     EXPECT_EQ(parameter.getSpec().getCore().getName(), "Yes/No");
 }
 
-TEST(ReadBoolParameter, StoresNothing) {
-    const ParametersEngine engine = prepared();
-    const std::string before = pictureOf(engine, {"p"});
-    engine.readBoolParameter(boolParameterText("p", "group", "spec"));
-    EXPECT_EQ(pictureOf(engine, {"p"}), before);
-    EXPECT_FALSE(engine.isRegistered("p"));
-    EXPECT_NO_THROW(engine.readBoolParameter(boolParameterText("p", "group", "spec")));
-}
-
-TEST(ReadBoolParameter, ReadsWhatCanThenBeRegistered) {
-    ParametersEngine engine = prepared();
-    engine.registerBoolParameter(engine.readBoolParameter(boolParameterText("p", "group", "spec")));
-    EXPECT_EQ(engine.getBoolParameter("p").getSpec().getCore().getName(), "The spec");
-}
-
 struct Fault {
     const char* name;
     std::string text;
@@ -105,9 +93,6 @@ const Fault faults[] = {
     {"TypeIdOfAUnit", boolParameterText("unit", "group", "spec"), "Schema with typeid unit is already registered."},
     {"BuiltInTypeId", boolParameterText("norvex.spec:spec.bool-1.0.0", "group", "spec"),
      "Schema with typeid norvex.spec:spec.bool-1.0.0 is already registered."},
-    {"OtherKind", Support::disciplineText("p"), "Inheritance from an incorrect base schema."},
-    {"OtherMajorVersion", Support::namedText("p", "norvex.parameter:parameter.bool-1.0.0", "Name"),
-     "Inheritance from an incorrect base schema."},
     {"BaseOfNoKind", Support::namedText("p", "some base", "Name"), "Inheritance from an incorrect base schema."},
     {"OtherKindWithFaultsOfItsOwn", Support::disciplineText("p", ""), "Inheritance from an incorrect base schema."},
     {"KnownTypeIdBeforeTheBase", Support::disciplineText("spec"), "Schema with typeid spec is already registered."},
@@ -146,6 +131,64 @@ TEST(ValueTypes, HaveTheirNumbers) {
     EXPECT_EQ(static_cast<int>(Parameters::String), 5);
 }
 
+/// What holds for the schemas of each kind when they are read without being registered.
+template <class Kind>
+struct ReadingOfEachKind : testing::Test {
+    const std::vector<Support::Shape> shapes = Support::shapesOf<Kind>();
+};
+
+TYPED_TEST_SUITE(ReadingOfEachKind, Support::TestedKinds<Parameters::Kinds::All>, Support::NameOfKind);
+
+TYPED_TEST(ReadingOfEachKind, TellsTheValueTypeOfTheKindWhateverIsNamed) {
+    const auto nameAll = [](const Support::Reference& reference) { return std::string(reference.id); };
+    for (const Support::Shape& shape : this->shapes) {
+        const std::string minor = Support::versionPrefixOf(shape.base) + "7.1";
+        EXPECT_EQ(ParametersEngine().readValueType(shape.text("p", "1", Support::nameTheLeast)), TypeParam::valueType);
+        EXPECT_EQ(ParametersEngine().readValueType(shape.text("p", "1", nameAll)), TypeParam::valueType);
+        if (shape.base != Support::versionPrefixOf(shape.base)) {
+            EXPECT_EQ(ParametersEngine().readValueType(shape.textOfBase("our " + minor, "p", "1", nameAll)),
+                      TypeParam::valueType);
+        }
+        EXPECT_EQ(ParametersEngine().readValueType(
+                      shape.textOfBase(Support::ofMajorVersion(shape.base, "7"), "p", "1", nameAll)),
+                  Parameters::None);
+    }
+}
+
+TYPED_TEST(ReadingOfEachKind, MakesNoParameterOfAnotherKindOrMajorVersion) {
+    Parameters::forEachKind(Parameters::Kinds::Readable{}, [&](auto reader) {
+        for (const Support::Shape& shape : this->shapes) {
+            const std::string text = shape.text("p", "1", Support::nameTheLeast);
+            const std::string other =
+                shape.textOfBase(Support::ofMajorVersion(shape.base, "7"), "p", "1", Support::nameTheLeast);
+            for (const std::string& wrong : {reader.info == TypeParam::info ? other : text, other}) {
+                EXPECT_EQ(messageOf<ValidationException>([&] { reader.read(ParametersEngine(), wrong); }),
+                          "Inheritance from an incorrect base schema.")
+                    << reader.info.id();
+            }
+            ParametersEngine engine;
+            engine.registerGroup(Taxon("p", "Taken"));
+            EXPECT_EQ(messageOf<ValidationException>([&] { reader.read(engine, text); }),
+                      "Schema with typeid p is already registered.");
+        }
+    });
+}
+
+TYPED_TEST(ReadingOfEachKind, StoresNothing) {
+    if constexpr (TypeParam::valueType != Parameters::None) {
+        for (const Support::Shape& shape : this->shapes) {
+            ParametersEngine engine;
+            Support::stock(engine, shape);
+            const std::string before = pictureOf(engine, {"p"});
+            const auto parameter = TypeParam::read(engine, shape.text("p", "1", Support::nameTheLeast));
+            EXPECT_EQ(Support::Sample<TypeParam>::contentOf(parameter), "1");
+            EXPECT_EQ(pictureOf(engine, {"p"}), before);
+            TypeParam::add(engine, parameter);
+            EXPECT_EQ(Support::describe(TypeParam::get(engine, "p")), Support::describe(parameter));
+        }
+    }
+}
+
 /// Returns the text of a parameter "p" of a base, which names the spec "x".
 std::string namingSpec(const std::string& base) {
     return schemaText("p", base, R"({"id": "name", "value": "Name"}, )" + Support::typedConstant("spec", "x"));
@@ -158,24 +201,13 @@ struct Typed {
 };
 
 const Typed typed[] = {
-    {"BoolParameter", Support::namedText("p", parameterBase, "Name"), Parameters::Bool},
-    {"OtherMinorVersion", Support::namedText("p", "norvex.parameter:parameter.bool-2.7", "Name"), Parameters::Bool},
-    {"BaseInsideALongerText", Support::namedText("p", "our norvex.parameter:parameter.bool-2.0.0", "Name"),
-     Parameters::Bool},
     {"ReferencesThatNobodyRegistered", boolParameterText("p", "x", "y"), Parameters::Bool},
     {"TypeIdOfAnObject", boolParameterText("spec", "group", "spec"), Parameters::Bool},
     {"TypeIdOfAPendingSchema", boolParameterText("pending group", "group", "spec"), Parameters::Bool},
     {"BuiltInTypeId", boolParameterText("norvex.spec:discipline-1.0.0", "group", "spec"), Parameters::Bool},
     {"OtherMajorVersion", Support::namedText("p", "norvex.parameter:parameter.bool-1.0.0", "Name"), Parameters::None},
-    {"EnumerationParameter", Support::namedText("p", "norvex.parameter:parameter-2.0.0", "Name"), Parameters::None},
-    {"IntParameter", Support::namedText("p", "norvex.parameter:parameter.int64-3.0.0", "Name"), Parameters::Int},
-    {"MeasurableParameter", namingSpec("norvex.parameter:parameter.measurable-3.0.0"), Parameters::Measurable},
     {"MeasurableParameterWithoutItsSpec",
      Support::namedText("p", "norvex.parameter:parameter.measurable-3.0.0", "Name"), Parameters::None},
-    {"ReferenceParameter", Support::namedText("p", "norvex.parameter:parameter.reference-2.0.0", "Name"),
-     Parameters::Reference},
-    {"RangedReferenceParameter", Support::namedText("p", "norvex.parameter:parameter.reference.ranged-2.6.0", "Name"),
-     Parameters::Reference},
     {"IntBeforeMeasurable", namingSpec("norvex.parameter:parameter.measurable-3. norvex.parameter:parameter.int64-3."),
      Parameters::Int},
     {"MeasurableBeforeReference",
@@ -188,7 +220,6 @@ const Typed typed[] = {
     {"ReferenceBeforeString",
      namingSpec("norvex.parameter:parameter.string-3. norvex.parameter:parameter.reference.ranged-2."),
      Parameters::Reference},
-    {"StringParameter", Support::namedText("p", "norvex.parameter:parameter.string-3.7.0", "Name"), Parameters::String},
     {"BoolBeforeInt",
      Support::namedText("p", "norvex.parameter:parameter.int64-3. norvex.parameter:parameter.bool-2.", "Name"),
      Parameters::Bool},
@@ -200,8 +231,6 @@ const Typed typed[] = {
                 R"({"id": "name", "value": "Name"}, {"id": "range", "typedValue": {"typeid":
                     "norvex.range:range.int64.bounded.static-1.0.0"}})"),
      Parameters::None},
-    {"Discipline", Support::disciplineText("p"), Parameters::None},
-    {"BoolSpec", Support::boolSpecText("p", "discipline"), Parameters::None},
     {"Unit", Support::unitText("p"), Parameters::None},
     {"NoKindsBase", Support::namedText("p", "some base", "Name"), Parameters::None},
     {"FaultyDiscipline", Support::disciplineText("p", ""), Parameters::None},

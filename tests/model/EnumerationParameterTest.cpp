@@ -104,11 +104,6 @@ TEST(EnumerationParameter, IsWhatABaseOfBooleanParametersTooMakes) {
     EXPECT_TRUE(engine.getAllBoolParameters().empty());
 }
 
-TEST(EnumerationParameter, HasNoValueType) {
-    EXPECT_EQ(ParametersEngine().readValueType(textOf(namesS, namesE)), Parameters::ValueType::None);
-    EXPECT_EQ(ParametersEngine().readValueType(fullText("", "")), Parameters::ValueType::None);
-}
-
 struct Accepted {
     const char* name;
     const char* spec;

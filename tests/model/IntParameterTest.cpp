@@ -154,12 +154,6 @@ TEST_P(IntParameterInlineFault, LeavesTheParameterWithoutAValueType) {
 
 INSTANTIATE_TEST_SUITE_P(IntParameter, IntParameterInlineFault, testing::ValuesIn(inlineFaults), Support::nameOfRow);
 
-TEST(IntParameter, HasItsValueType) {
-    const ParametersEngine engine;
-    EXPECT_EQ(engine.readValueType(textOf()), Parameters::ValueType::Int);
-    EXPECT_EQ(engine.readValueType(textOf(typedConstant("range", "missing"))), Parameters::ValueType::Int);
-}
-
 TEST(IntParameter, IsWrittenWithAllItsConstantsInOrder) {
     const IntParameter parameter(ParameterCore("p", "Name", Taxon("g", ""), "About it", "7", true), specOf("s"),
                                  IntRange("r", true, 1, true, 2));

@@ -1,100 +1,67 @@
 #include "support/Engines.h"
-#include "support/Messages.h"
+#include "support/KindTypes.h"
 #include "support/Refusal.h"
-#include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
+#include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>
 
 #include <gtest/gtest.h>
 
 #include <string>
-#include <tuple>
-#include <type_traits>
 
 // What integer and floating-point ranges have in common.
 
 namespace {
 
-using Parameters::FloatRange;
-using Parameters::IntRange;
+namespace Kinds = Parameters::Kinds;
 using Parameters::ParametersEngine;
-using Parameters::UnrecognizedIdentifierException;
 using Support::constant;
 using Support::engineOf;
-using Support::messageOf;
 using Support::refusalOf;
 using Support::schemaText;
 
-template <class Range>
+/// What they do not have in common: the texts of their numbers, and the message of what is no number.
+template <class Kind>
 struct Traits;
 
 template <>
-struct Traits<IntRange> {
-    using Number = long long;
-    static constexpr const char* base = "norvex.range:range.int64.bounded.static-1.0.0";
-    static constexpr const char* word = "integer range";
-    static constexpr const char* ofAnotherMinorVersion = "norvex.range:range.int64.bounded.static-1.6.2";
-    static constexpr const char* ofAnotherMajorVersion = "norvex.range:range.int64.bounded.static-2.0.0";
-    static constexpr auto get = &ParametersEngine::getIntRange;
-    static constexpr auto getAll = &ParametersEngine::getAllIntRanges;
-    static constexpr auto add = &ParametersEngine::registerIntRange;
-    static constexpr const char* bothBounds =
-        R"({"typeid":"r","inherits":["norvex.range:range.int64.bounded.static-1.0.0"],"constants":[)"
-        R"({"id":"fromBottom","value":true},{"id":"bottomBoundary","value":-5},)"
-        R"({"id":"fromTop","value":true},{"id":"topBoundary","value":12}]})";
+struct Traits<Kinds::IntRange> {
+    static constexpr const char* notANumber = "Expected an integer.";
+    static constexpr const char* bothBounds = R"({"id":"fromBottom","value":true},{"id":"bottomBoundary","value":-5},)"
+                                              R"({"id":"fromTop","value":true},{"id":"topBoundary","value":12})";
     static constexpr const char* fromZeroToHundred =
-        R"({"typeid":"r","inherits":["norvex.range:range.int64.bounded.static-1.0.0"],"constants":[)"
-        R"({"id":"fromBottom","value":true},{"id":"fromTop","value":true},{"id":"topBoundary","value":100}]})";
-    static constexpr const char* noBounds =
-        R"({"typeid":"r","inherits":["norvex.range:range.int64.bounded.static-1.0.0"],"constants":[)"
-        R"({"id":"fromBottom","value":false},{"id":"fromTop","value":false}]})";
+        R"({"id":"fromBottom","value":true},{"id":"fromTop","value":true},{"id":"topBoundary","value":100})";
     static constexpr const char* topAlone =
-        R"({"typeid":"r","inherits":["norvex.range:range.int64.bounded.static-1.0.0"],"constants":[)"
-        R"({"id":"fromBottom","value":false},{"id":"fromTop","value":true},{"id":"topBoundary","value":9}]})";
+        R"({"id":"fromBottom","value":false},{"id":"fromTop","value":true},{"id":"topBoundary","value":9})";
 };
 
 template <>
-struct Traits<FloatRange> {
-    using Number = double;
-    static constexpr const char* base = "norvex.range:range.float64.bounded.static-1.0.0";
-    static constexpr const char* word = "floating-point range";
-    static constexpr const char* ofAnotherMinorVersion = "norvex.range:range.float64.bounded.static-1.6.2";
-    static constexpr const char* ofAnotherMajorVersion = "norvex.range:range.float64.bounded.static-2.0.0";
-    static constexpr auto get = &ParametersEngine::getFloatRange;
-    static constexpr auto getAll = &ParametersEngine::getAllFloatRanges;
-    static constexpr auto add = &ParametersEngine::registerFloatRange;
+struct Traits<Kinds::FloatRange> {
+    static constexpr const char* notANumber = "Expected a number.";
     static constexpr const char* bothBounds =
-        R"({"typeid":"r","inherits":["norvex.range:range.float64.bounded.static-1.0.0"],"constants":[)"
         R"({"id":"fromBottom","value":true},{"id":"bottomBoundary","value":-5.0},)"
-        R"({"id":"fromTop","value":true},{"id":"topBoundary","value":12.0}]})";
+        R"({"id":"fromTop","value":true},{"id":"topBoundary","value":12.0})";
     static constexpr const char* fromZeroToHundred =
-        R"({"typeid":"r","inherits":["norvex.range:range.float64.bounded.static-1.0.0"],"constants":[)"
-        R"({"id":"fromBottom","value":true},{"id":"fromTop","value":true},{"id":"topBoundary","value":100.0}]})";
-    static constexpr const char* noBounds =
-        R"({"typeid":"r","inherits":["norvex.range:range.float64.bounded.static-1.0.0"],"constants":[)"
-        R"({"id":"fromBottom","value":false},{"id":"fromTop","value":false}]})";
+        R"({"id":"fromBottom","value":true},{"id":"fromTop","value":true},{"id":"topBoundary","value":100.0})";
     static constexpr const char* topAlone =
-        R"({"typeid":"r","inherits":["norvex.range:range.float64.bounded.static-1.0.0"],"constants":[)"
-        R"({"id":"fromBottom","value":false},{"id":"fromTop","value":true},{"id":"topBoundary","value":9.0}]})";
+        R"({"id":"fromBottom","value":false},{"id":"fromTop","value":true},{"id":"topBoundary","value":9.0})";
 };
 
-template <class Range>
-struct NumericRange : testing::Test {
-    using T = Traits<Range>;
+constexpr const char* noBounds = R"({"id":"fromBottom","value":false},{"id":"fromTop","value":false})";
 
-    static Range get(const ParametersEngine& engine, const std::string& typeId = "r") {
-        return (engine.*T::get)(typeId);
-    }
-    static Range resolved(const std::string& constants, const std::string& base = T::base) {
-        return get(engineOf({schemaText("r", base, constants)}));
-    }
-    void add(const Range& range) { (engine.*T::add)(range); }
-    std::string refusalOfAdding(const Range& range) {
-        return Support::refusalBy(engine, [&] { add(range); });
+template <class Kind>
+struct NumericRange : testing::Test {
+    using Range = typename Kind::Value;
+
+    static std::string base() { return std::string(Kind::info.bases()[0]); }
+    static Range get(const ParametersEngine& engine) { return Kind::get(engine, "r"); }
+    static Range resolved(const std::string& constants) { return get(engineOf({schemaText("r", base(), constants)})); }
+    static std::string written(const std::string& constants) {
+        return R"({"typeid":"r","inherits":[")" + base() + R"("],"constants":[)" + constants + "]}";
     }
     std::string writtenByCode(const Range& range) {
-        add(range);
+        Kind::add(engine, range);
         return engine.getSchema(range.getTypeId());
     }
 
@@ -103,18 +70,11 @@ struct NumericRange : testing::Test {
     ParametersEngine engine;
 };
 
-struct NameOfRange {
-    template <class Range>
-    static std::string GetName(int) { // NOLINT(readability-identifier-naming): GoogleTest calls it
-        return std::is_same_v<Range, IntRange> ? "Int" : "Float";
-    }
-};
-
-using Ranges = testing::Types<IntRange, FloatRange>;
-TYPED_TEST_SUITE(NumericRange, Ranges, NameOfRange);
+using NumericRanges = Kinds::List<Kinds::IntRange, Kinds::FloatRange>;
+TYPED_TEST_SUITE(NumericRange, Support::TestedKinds<NumericRanges>, Support::NameOfKind);
 
 TYPED_TEST(NumericRange, KeepsWhatItIsMadeWith) {
-    const TypeParam range("r", true, 5, false, 7);
+    const typename TypeParam::Value range("r", true, 5, false, 7);
     EXPECT_EQ(range.getTypeId(), "r");
     EXPECT_TRUE(range.isBoundFromBottom());
     EXPECT_EQ(range.getBottomBoundary(), 5);
@@ -123,15 +83,15 @@ TYPED_TEST(NumericRange, KeepsWhatItIsMadeWith) {
 }
 
 TYPED_TEST(NumericRange, KeepsABoundaryWhateverItsFlagSays) {
-    const TypeParam range("r", false, 5, false, -7);
+    const typename TypeParam::Value range("r", false, 5, false, -7);
     EXPECT_FALSE(range.isBoundFromBottom());
     EXPECT_EQ(range.getBottomBoundary(), 5);
     EXPECT_EQ(range.getTopBoundary(), -7);
 }
 
 TYPED_TEST(NumericRange, HasTheBuiltInTypeIdWhenNoneIsGiven) {
-    const TypeParam range(false, 5, true, 7);
-    EXPECT_EQ(range.getTypeId(), Traits<TypeParam>::base);
+    const typename TypeParam::Value range(false, 5, true, 7);
+    EXPECT_EQ(range.getTypeId(), this->base());
     EXPECT_FALSE(range.isBoundFromBottom());
     EXPECT_EQ(range.getBottomBoundary(), 5);
     EXPECT_TRUE(range.isBoundFromTop());
@@ -139,7 +99,7 @@ TYPED_TEST(NumericRange, HasTheBuiltInTypeIdWhenNoneIsGiven) {
 }
 
 TYPED_TEST(NumericRange, IsMadeWithoutAnyCheck) {
-    const TypeParam range("", true, 10, true, 5);
+    const typename TypeParam::Value range("", true, 10, true, 5);
     EXPECT_EQ(range.getTypeId(), "");
     EXPECT_EQ(range.getBottomBoundary(), 10);
     EXPECT_EQ(range.getTopBoundary(), 5);
@@ -186,76 +146,43 @@ TYPED_TEST(NumericRange, IsReadWithABottomAboveItsTop) {
     EXPECT_EQ(range.getTopBoundary(), 5);
 }
 
-TYPED_TEST(NumericRange, InheritsAnyMinorVersionOfItsBase) {
-    const std::string constants = this->fromBottom + ", " + this->fromTop;
-    EXPECT_EQ(this->resolved(constants, Traits<TypeParam>::ofAnotherMinorVersion).getTypeId(), "r");
-    EXPECT_EQ(this->resolved(constants, std::string("our ") + Traits<TypeParam>::base + " too").getTypeId(), "r");
-}
-
-TYPED_TEST(NumericRange, DoesNotInheritAnotherMajorVersionOfItsBase) {
-    EXPECT_EQ(refusalOf(this->engine, schemaText("r", Traits<TypeParam>::ofAnotherMajorVersion, this->fromBottom)),
-              "Inheritance from an unrecognized base schema.");
-}
-
-TYPED_TEST(NumericRange, NamesNothing) {
-    const auto missing =
-        this->engine.registerSchema(schemaText("r", Traits<TypeParam>::base, this->fromBottom + ", " + this->fromTop));
-    EXPECT_TRUE(missing.first.empty());
-    EXPECT_TRUE(missing.second.empty());
-    this->engine.resolveSchemas();
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { this->engine.getDependencies("r"); }),
-              "Could not find any object with typeid r.");
-}
-
 TYPED_TEST(NumericRange, IsRegisteredAsItIs) {
-    this->add(TypeParam("r", false, 7, true, -3));
+    TypeParam::add(this->engine, typename TypeParam::Value("r", false, 7, true, -3));
     const auto range = this->get(this->engine);
     EXPECT_EQ(range.getTypeId(), "r");
     EXPECT_FALSE(range.isBoundFromBottom());
     EXPECT_EQ(range.getBottomBoundary(), 7);
     EXPECT_TRUE(range.isBoundFromTop());
     EXPECT_EQ(range.getTopBoundary(), -3);
-    EXPECT_EQ((this->engine.*Traits<TypeParam>::getAll)().at("r").getTopBoundary(), -3);
-}
-
-TYPED_TEST(NumericRange, IsNotRegisteredWithoutTypeId) {
-    EXPECT_EQ(this->refusalOfAdding(TypeParam("", true, 1, true, 2)), "Typeid must not be empty.");
-}
-
-TYPED_TEST(NumericRange, IsNotRegisteredTwice) {
-    this->add(TypeParam("r", true, 1, true, 2));
-    EXPECT_EQ(this->refusalOfAdding(TypeParam("r", true, 3, true, 4)), "Schema with typeid r is already registered.");
+    EXPECT_EQ(TypeParam::getAll(this->engine).at("r").getTopBoundary(), -3);
 }
 
 TYPED_TEST(NumericRange, IsNotRegisteredUnderABuiltInTypeId) {
-    EXPECT_EQ(this->refusalOfAdding(TypeParam(true, 1, true, 2)),
-              std::string("Schema with typeid ") + Traits<TypeParam>::base + " is already registered.");
-}
-
-TYPED_TEST(NumericRange, HasNoBuiltInObject) {
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { this->get(this->engine, Traits<TypeParam>::base); }),
-              std::string("Could not find ") + Traits<TypeParam>::word + " with typeid " + Traits<TypeParam>::base +
-                  ".");
+    EXPECT_EQ(Support::refusalBy(this->engine,
+                                 [&] {
+                                     TypeParam::add(this->engine, {true, 1, true, 2});
+                                 }),
+              "Schema with typeid " + this->base() + " is already registered.");
 }
 
 TYPED_TEST(NumericRange, IsWrittenWithEachBoundaryAfterItsFlag) {
-    EXPECT_EQ(this->writtenByCode(TypeParam("r", true, -5, true, 12)), Traits<TypeParam>::bothBounds);
+    EXPECT_EQ(this->writtenByCode({"r", true, -5, true, 12}), this->written(Traits<TypeParam>::bothBounds));
 }
 
 TYPED_TEST(NumericRange, IsWrittenWithoutABoundaryOfZero) {
-    EXPECT_EQ(this->writtenByCode(TypeParam("r", true, 0, true, 100)), Traits<TypeParam>::fromZeroToHundred);
+    EXPECT_EQ(this->writtenByCode({"r", true, 0, true, 100}), this->written(Traits<TypeParam>::fromZeroToHundred));
 }
 
 TYPED_TEST(NumericRange, IsWrittenWithoutTheBoundariesOfUnboundedSides) {
-    EXPECT_EQ(this->writtenByCode(TypeParam("r", false, 7, false, -8)), Traits<TypeParam>::noBounds);
+    EXPECT_EQ(this->writtenByCode({"r", false, 7, false, -8}), this->written(noBounds));
 }
 
 TYPED_TEST(NumericRange, IsWrittenWithTheBoundaryOfItsOneBoundedSide) {
-    EXPECT_EQ(this->writtenByCode(TypeParam("r", false, 7, true, 9)), Traits<TypeParam>::topAlone);
+    EXPECT_EQ(this->writtenByCode({"r", false, 7, true, 9}), this->written(Traits<TypeParam>::topAlone));
 }
 
 TYPED_TEST(NumericRange, ReadsBackWithZeroAsTheBoundaryOfAnUnboundedSide) {
-    const auto range = this->get(engineOf({this->writtenByCode(TypeParam("r", false, 7, true, 9))}));
+    const auto range = this->get(engineOf({this->writtenByCode({"r", false, 7, true, 9})}));
     EXPECT_FALSE(range.isBoundFromBottom());
     EXPECT_EQ(range.getBottomBoundary(), 0);
     EXPECT_TRUE(range.isBoundFromTop());
@@ -263,29 +190,12 @@ TYPED_TEST(NumericRange, ReadsBackWithZeroAsTheBoundaryOfAnUnboundedSide) {
 }
 
 TYPED_TEST(NumericRange, IsWrittenTheSameWhenItIsReadAgain) {
-    for (const char* text : {TestFixture::T::bothBounds, TestFixture::T::fromZeroToHundred, TestFixture::T::noBounds,
-                             TestFixture::T::topAlone}) {
+    using T = Traits<TypeParam>;
+    for (const char* constants : {T::bothBounds, T::fromZeroToHundred, noBounds, T::topAlone}) {
+        const std::string text = this->written(constants);
         EXPECT_EQ(engineOf({text}).getSchema("r"), text);
     }
 }
-
-TYPED_TEST(NumericRange, IsWrittenWithTheFullBaseWhateverVersionItInherited) {
-    EXPECT_EQ(engineOf({schemaText("r", Traits<TypeParam>::ofAnotherMinorVersion,
-                                   R"({"id": "fromBottom", "value": false}, {"id": "fromTop", "value": false})")})
-                  .getSchema("r"),
-              Traits<TypeParam>::noBounds);
-}
-
-struct KindOfRange {
-    const char* name;
-    const char* base;
-    const char* notANumber;
-};
-
-const KindOfRange kindsOfRange[] = {
-    {"Int", Traits<IntRange>::base, "Expected an integer."},
-    {"Float", Traits<FloatRange>::base, "Expected a number."},
-};
 
 struct RangeFault {
     const char* name;
@@ -335,17 +245,12 @@ const RangeFault rangeFaults[] = {
      "A property definition must contain either a value or a typedValue."},
 };
 
-class NumericRangeFault : public testing::TestWithParam<std::tuple<KindOfRange, RangeFault>> {};
-
-TEST_P(NumericRangeFault, IsNamedAndNothingIsRegistered) {
-    const auto& [kind, fault] = GetParam();
-    ParametersEngine engine;
-    EXPECT_EQ(refusalOf(engine, schemaText("r", kind.base, fault.constants)),
-              fault.message != nullptr ? fault.message : kind.notANumber);
+TYPED_TEST(NumericRange, IsRefusedForTheFirstOfItsFaults) {
+    for (const RangeFault& fault : rangeFaults) {
+        EXPECT_EQ(refusalOf(this->engine, schemaText("r", this->base(), fault.constants)),
+                  fault.message != nullptr ? fault.message : Traits<TypeParam>::notANumber)
+            << fault.name;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Kinds, NumericRangeFault,
-                         testing::Combine(testing::ValuesIn(kindsOfRange), testing::ValuesIn(rangeFaults)),
-                         Support::nameOfBothRows);
 
 } // namespace

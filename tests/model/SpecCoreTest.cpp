@@ -141,10 +141,6 @@ TYPED_TEST(SpecCoreOfEachKind, HasTheDisciplineOfItsSchemaAsAPlainValueToo) {
     }
 }
 
-TYPED_TEST(SpecCoreOfEachKind, MakesNoValueType) {
-    EXPECT_EQ(ParametersEngine().readValueType(this->textOf(nameOnly)), Parameters::None);
-}
-
 TYPED_TEST(SpecCoreOfEachKind, IsRefusedForItsTypeIdBeforeItsDiscipline) {
     const auto refusal = [](const std::string& typeId) {
         ParametersEngine engine = engineOf({groupText("open")}, TestFixture::plant());

@@ -235,12 +235,6 @@ TEST(StringParameter, IsBoundToTheFullBuiltInSpecWhateverVersionItHas) {
     }
 }
 
-TEST(StringParameter, HasItsValueType) {
-    const ParametersEngine engine;
-    EXPECT_EQ(engine.readValueType(textOf()), Parameters::ValueType::String);
-    EXPECT_EQ(engine.readValueType(textOf(typedConstant("range", "missing"))), Parameters::ValueType::String);
-}
-
 struct Written {
     const char* name;
     StringParameter parameter;
