@@ -184,32 +184,6 @@ TEST_P(RefusedObject, NamesTheFaultAndLeavesTheEngineAsItWas) {
 
 INSTANTIATE_TEST_SUITE_P(Registration, RefusedObject, testing::ValuesIn(refusals), Support::nameOfRow);
 
-TEST_F(RegistrationOfReferences, KeepsTheDisciplineThatASpecWasMadeWith) {
-    engine.registerBoolSpec(boolSpecOf("discipline"));
-    const Taxon discipline = engine.getBoolSpec("s").getCore().getDiscipline();
-    EXPECT_EQ(discipline.getTypeId(), "discipline");
-    EXPECT_EQ(discipline.getName(), "Mine");
-}
-
-TEST_F(RegistrationOfReferences, KeepsTheBuiltInDisciplineThatASpecWasMadeWith) {
-    engine.registerGeneralSpec(GeneralSpec(SpecCore("s", "Spec", Taxon("norvex.spec:discipline-1.7.0", "Mine"))));
-    const Taxon discipline = engine.getGeneralSpec("s").getCore().getDiscipline();
-    EXPECT_EQ(discipline.getTypeId(), "norvex.spec:discipline-1.7.0");
-    EXPECT_EQ(discipline.getName(), "Mine");
-}
-
-TEST_F(RegistrationOfReferences, GivesAParameterTheRegisteredGroup) {
-    engine.registerBoolParameter(parameterIn(Taxon("group", "Mine"), builtInSpec));
-    EXPECT_EQ(engine.getBoolParameter("p").getCore().getGroup().getName(), "Registered");
-}
-
-TEST_F(RegistrationOfReferences, GivesAParameterTheBuiltInGroupOfTheTypeIdThatItNames) {
-    engine.registerBoolParameter(parameterIn(Taxon("norvex.parameter:group-1.7.0", "Mine"), builtInSpec));
-    const Taxon group = engine.getBoolParameter("p").getCore().getGroup();
-    EXPECT_EQ(group.getTypeId(), "norvex.parameter:group-1.7.0");
-    EXPECT_EQ(group.getName(), "Other");
-}
-
 TEST_F(RegistrationOfReferences, GivesAParameterTheRegisteredSpec) {
     engine.registerBoolParameter(parameterIn(builtInGroup, BoolSpec(SpecCore("bool spec", "Mine", Taxon("x", "")))));
     const SpecCore spec = engine.getBoolParameter("p").getSpec().getCore();
