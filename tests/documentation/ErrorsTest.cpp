@@ -10,6 +10,7 @@
 #include <rapidjson/error/en.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cstddef>
 #include <filesystem>
 #include <iterator>
@@ -102,6 +103,68 @@ TEST(PageOfErrors, ListsTheWordOfEachKind) {
     std::set<std::string> words;
     Parameters::forEachKind([&](auto kind) { words.emplace(kind.info.word()); });
     EXPECT_EQ(listed, words);
+}
+
+/// Returns all sources of tests as one text, with literals of several lines in one.
+std::string textOfTheTests() {
+    std::string text;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(top / "tests")) {
+        const std::string extension = entry.path().extension().string();
+        if ((extension == ".cpp" || extension == ".h") && entry.path().parent_path().filename() != "documentation") {
+            text += contentOf(entry.path());
+        }
+    }
+    return std::regex_replace(text, std::regex("\"\\s*\n\\s*\""), "");
+}
+
+/// Returns the longest part of a sentence in which nothing is inserted.
+std::string longestPartOf(const std::string& sentence) {
+    const std::regex inserted("<[^>]*>");
+    std::string longest;
+    for (std::sregex_token_iterator part(sentence.begin(), sentence.end(), inserted, -1), end; part != end; ++part) {
+        longest = part->length() > static_cast<std::ptrdiff_t>(longest.size()) ? part->str() : longest;
+    }
+    return longest;
+}
+
+TEST(Messages, AreQuotedByTests) {
+    const std::string tests = textOfTheTests();
+    std::vector<std::string> missing;
+    for (const auto& [sentence, code] : messagesOfTheLibraries()) {
+        if (tests.find(longestPartOf(sentence)) == std::string::npos) {
+            missing.push_back(code);
+        }
+    }
+    EXPECT_THAT(missing, testing::ElementsAre("engine-full")); // which takes more memory than there is
+}
+
+/// Returns the headings of the pages of the schema language.
+std::set<std::string> headingsOfTheSchemaLanguage() {
+    std::set<std::string> headings;
+    for (const auto& entry : std::filesystem::directory_iterator(top / "docs")) {
+        if (entry.path().filename().string().starts_with("schema-")) {
+            for (const std::string& line : Documentation::linesOf(contentOf(entry.path()))) {
+                headings.insert(line.starts_with("## ") ? line.substr(3) : "");
+            }
+        }
+    }
+    return headings;
+}
+
+TEST(PagesOfTheSchemaLanguage, HaveASectionForEachKind) {
+    const auto headings = headingsOfTheSchemaLanguage();
+    Parameters::forEachKind([&](auto kind) {
+        std::string plural(kind.info.plural());
+        plural.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(plural.front())));
+        EXPECT_EQ(headings.count(plural), 1U) << plural;
+    });
+}
+
+TEST(Changelog, TellsOfEachKind) {
+    const std::string page = std::regex_replace(contentOf(top / "CHANGELOG.md"), std::regex("\\s+"), " ");
+    Parameters::forEachKind([&](auto kind) {
+        EXPECT_NE(page.find(" " + std::string(kind.info.plural())), std::string::npos) << kind.info.plural();
+    });
 }
 
 TEST(PageOfTheSchemaLanguage, ListsEveryBase) {
