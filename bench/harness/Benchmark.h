@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/Catalogue.h"
+#include "generator/Catalogue.h"
 #include "harness/Measurement.h"
 
 #include <string_view>

@@ -1,6 +1,6 @@
 #include "harness/Fixtures.h"
 
-#include "catalogue/Random.h"
+#include "generator/Random.h"
 
 #include <parameters/Kinds.h>
 

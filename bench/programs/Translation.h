@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/Catalogue.h"
+#include "generator/Catalogue.h"
 
 #include <rapidjson/document.h>
 

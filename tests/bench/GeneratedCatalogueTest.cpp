@@ -1,4 +1,4 @@
-#include "catalogue/Catalogue.h"
+#include "generator/Catalogue.h"
 
 #include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>

@@ -1,4 +1,4 @@
-#include "catalogue/Random.h"
+#include "generator/Random.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

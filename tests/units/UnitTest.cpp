@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <ostream>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -97,8 +96,6 @@ struct Order {
     std::string lesser;
     std::string greater;
 };
-
-void PrintTo(const Order& row, std::ostream* out) { *out << row.name; }
 
 class OrderedUnits : public testing::TestWithParam<Order> {};
 

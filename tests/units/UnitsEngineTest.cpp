@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -187,8 +186,6 @@ struct Fault {
     std::string text;
     const char* message;
 };
-
-void PrintTo(const Fault& row, std::ostream* out) { *out << row.name; }
 
 class RefusedUnit : public testing::TestWithParam<Fault> {};
 

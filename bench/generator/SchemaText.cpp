@@ -1,4 +1,4 @@
-#include "catalogue/SchemaText.h"
+#include "generator/SchemaText.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
-#include "catalogue/Recipes.h"
+#include "generator/Recipes.h"
 
-#include "catalogue/Generator.h"
+#include "generator/Generator.h"
 
 #include <algorithm>
 #include <cstdint>

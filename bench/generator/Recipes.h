@@ -1,7 +1,7 @@
 #pragma once
 
-#include "catalogue/Catalogue.h"
-#include "catalogue/Random.h"
+#include "generator/Catalogue.h"
+#include "generator/Random.h"
 
 #include <cstddef>
 

@@ -1,4 +1,4 @@
-#include "catalogue/Generator.h"
+#include "generator/Generator.h"
 
 #include <vector>
 

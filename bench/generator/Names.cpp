@@ -1,4 +1,4 @@
-#include "catalogue/Names.h"
+#include "generator/Names.h"
 
 namespace Bench {
 

@@ -1,4 +1,4 @@
-#include "catalogue/Catalogue.h"
+#include "generator/Catalogue.h"
 
 #include <cstdint>
 #include <exception>

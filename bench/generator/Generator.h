@@ -1,8 +1,8 @@
 #pragma once
 
-#include "catalogue/Names.h"
-#include "catalogue/Random.h"
-#include "catalogue/SchemaText.h"
+#include "generator/Names.h"
+#include "generator/Random.h"
+#include "generator/SchemaText.h"
 
 #include <parameters/Kinds.h>
 

@@ -1,7 +1,7 @@
-#include "catalogue/Catalogue.h"
+#include "generator/Catalogue.h"
 
-#include "catalogue/Random.h"
-#include "catalogue/Recipes.h"
+#include "generator/Random.h"
+#include "generator/Recipes.h"
 
 #include <stdexcept>
 #include <utility>
