@@ -205,6 +205,8 @@ Stocks stocksOf(std::size_t size) {
 
 } // namespace
 
+const std::uint64_t fingerprint = 0xb6f9b8ebb563420e;
+
 Catalogue makeKindByKind(std::size_t size, Random& random) {
     const Stocks stocks = stocksOf(size);
     Generator generator(stocks, random);
