@@ -4,6 +4,7 @@
 #include "support/Fault.h"
 #include "support/Refusal.h"
 #include "support/RowNames.h"
+#include "support/Samples.h"
 #include "support/SchemaTexts.h"
 
 #include <parameters/ParametersEngine.h>
@@ -11,11 +12,12 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
-// Reference parameters as values, how their schemas are read and how they are written; for what they name see
-// ReferenceParameterReferencesTest.cpp, and for their cores ParameterCoreTest.cpp.
+// Reference parameters as values, how their schemas are read and written, and what they name: a spec or, for a family
+// type, a category; for their cores see ParameterCoreTest.cpp.
 
 namespace {
 
@@ -33,15 +35,20 @@ using Support::domainText;
 using Support::engineOf;
 using Support::Fault;
 using Support::groupText;
+using Support::majorCategoryText;
+using Support::quoted;
 using Support::refusalBy;
 using Support::rewritten;
 using Support::schemaText;
 using Support::typedConstant;
 
+using TypeIds = std::set<std::string>;
+
 const std::string base = "norvex.parameter:parameter.reference-2.0.0";
 const std::string rangedBase = "norvex.parameter:parameter.reference.ranged-2.0.0";
 const std::string nameOnly = R"({"id": "name", "value": "Gate"})";
-const std::string familyType = R"("norvex.talmo.spec:familyType-1.0.0")";
+const std::string familyType = "norvex.talmo.spec:familyType-1.0.0";
+const std::string other = "norvex.parameter:group-1.0.0";
 
 /// Returns a spec constant whose typedValue is given as JSON.
 std::string specConstant(const std::string& typedValue) {
@@ -49,8 +56,8 @@ std::string specConstant(const std::string& typedValue) {
 }
 
 /// Returns a spec constant of a family type, whose inner typedValue is given as JSON.
-std::string familyConstant(const std::string& inner, const std::string& typeId = "norvex.talmo.spec:familyType-1.0.0") {
-    return specConstant(R"({"typeid": )" + Support::quoted(typeId) + R"(, "typedValue": )" + inner + "}");
+std::string familyConstant(const std::string& inner, const std::string& typeId = familyType) {
+    return specConstant(R"({"typeid": )" + quoted(typeId) + R"(, "typedValue": )" + inner + "}");
 }
 
 std::string textOf(const std::string& constants, const std::string& ofBase = base) {
@@ -63,7 +70,7 @@ const Category gates("gates", "Mine", SubCategoryComponent("mine"));
 
 /// An engine with a group, the category "gates" and the reference spec "any gate" of it.
 ParametersEngine plant() {
-    ParametersEngine engine = engineOf({domainText("domain"), groupText("safety")});
+    ParametersEngine engine = engineOf({domainText("domain"), groupText("safety", "Safety")});
     engine.registerCategory(Category("gates", "Gates", MajorCategoryComponent(Taxon("domain", ""), {})));
     engine.registerReferenceSpec(ReferenceSpec(SpecCore("any gate", "Any Gate"), gates));
     return engine;
@@ -167,7 +174,7 @@ TEST(ReferenceParameter, IgnoresOtherMembersBesideItsSpec) {
     EXPECT_EQ(readFrom(textOf(named)).getSpec().getCore().getName(), "Any Gate");
     const std::string family = specConstant(
         R"({"value": 5, "typedValue": {"note": 5, "category": {"typeid": "gates", "note": 5}}, "typeid": )" +
-        familyType + "}");
+        quoted(familyType) + "}");
     EXPECT_EQ(readFrom(textOf(family)).getSpec().getCategory()->getName(), "Gates");
 }
 
@@ -210,7 +217,7 @@ const std::vector<Fault> specFaults = {
      "Inline value override for spec norvex.talmo.spec:familyType-2.0.0 is not permitted."},
     {"FamilyTypeAlone", typedConstant("spec", "norvex.talmo.spec:familyType-1.0.0"), noInner},
     {"FamilyTypeWithAValue",
-     specConstant(R"({"value": {"category": {"typeid": "gates"}}, "typeid": )" + familyType + "}"), noInner},
+     specConstant(R"({"value": {"category": {"typeid": "gates"}}, "typeid": )" + quoted(familyType) + "}"), noInner},
     {"FamilyTypeOfAnotherMinorVersionAlone", typedConstant("spec", "norvex.talmo.spec:familyType-1.2.0"),
      "Inline typedValue override is required when specifying the family type base schema "
      "norvex.talmo.spec:familyType-1.2.0 in spec constant typedValue."},
@@ -236,26 +243,15 @@ const std::vector<Fault> specFaults = {
      "A typedValue object may not be empty and must contain a typeid attribute only."},
 };
 
-class RefusedReferenceParameter : public testing::TestWithParam<Fault> {
-protected:
+class RefusedReferenceParameter : public testing::TestWithParam<Fault> {};
+
+TEST_P(RefusedReferenceParameter, IsNeitherRegisteredNorReadRangedOrNotAndHasNoValueType) {
     ParametersEngine engine = plant();
-};
-
-TEST_P(RefusedReferenceParameter, IsNotRegistered) {
-    EXPECT_EQ(refusalBy(engine, [&] { engine.registerSchema(textOf(GetParam().text)); }), GetParam().message);
-}
-
-TEST_P(RefusedReferenceParameter, IsNotRegisteredWhenItIsRanged) {
-    EXPECT_EQ(refusalBy(engine, [&] { engine.registerSchema(textOf(GetParam().text, rangedBase)); }),
-              GetParam().message);
-}
-
-TEST_P(RefusedReferenceParameter, IsNotRead) {
-    EXPECT_EQ(refusalBy(engine, [&] { engine.readReferenceParameter(textOf(GetParam().text)); }), GetParam().message);
-}
-
-TEST_P(RefusedReferenceParameter, HasNoValueType) {
-    EXPECT_EQ(engine.readValueType(textOf(GetParam().text)), Parameters::None);
+    for (const std::string& text : {textOf(GetParam().text), textOf(GetParam().text, rangedBase)}) {
+        EXPECT_EQ(refusalBy(engine, [&] { engine.registerSchema(text); }), GetParam().message);
+        EXPECT_EQ(refusalBy(engine, [&] { engine.readReferenceParameter(text); }), GetParam().message);
+        EXPECT_EQ(engine.readValueType(text), Parameters::None);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Spec, RefusedReferenceParameter, testing::ValuesIn(specFaults), Support::nameOfRow);
@@ -353,6 +349,211 @@ TEST(ReferenceParameter, SurvivesTheRoundTripWithACategoryOfAnyBytes) {
         R"("typedValue":{"category":{"typeid":"c\u0000)"
         "\xff\"}}}}]}";
     EXPECT_EQ(rewritten(engine, "gate", text), text);
+}
+
+/// What a parameter names. A category is that of its family type.
+struct Names {
+    std::string group;
+    std::string spec;
+    std::optional<std::string> category;
+};
+
+/// Returns the text of a parameter that names them.
+std::string textNaming(const Names& names, const std::string& ofBase = base) {
+    const std::string spec =
+        names.category ? familyConstant(R"({"category": {"typeid": ")" + *names.category + R"("}})", names.spec)
+                       : typedConstant("spec", names.spec);
+    return textOf(typedConstant("group", names.group) + ", " + spec, ofBase);
+}
+
+/// Returns a parameter made in code, with objects that it makes up.
+ReferenceParameter objectNaming(const Names& names, bool ranged = false, const std::string& typeId = "gate") {
+    std::optional<Category> category;
+    if (names.category) {
+        category = Category(*names.category, "Mine", SubCategoryComponent("mine"));
+    }
+    return {ParameterCore(typeId, "Gate", Taxon(names.group, "Mine"), "", "", false),
+            ReferenceSpec(SpecCore(names.spec, "Mine"), category), ranged};
+}
+
+ReferenceParameter registered(const ReferenceParameter& parameter) {
+    ParametersEngine engine = plant();
+    engine.registerReferenceParameter(parameter);
+    return engine.getReferenceParameter("gate");
+}
+
+TEST(ReferenceParameterResolution, FindsWhatIsResolvedWithIt) {
+    const ParametersEngine engine =
+        engineOf({textNaming({"g", "z", {}}), Support::referenceSpecText("z", "c"), Support::subCategoryText("c", "m"),
+                  majorCategoryText("m", "d"), domainText("d"), groupText("g", "G")});
+    const ReferenceParameter parameter = engine.getReferenceParameter("gate");
+    EXPECT_EQ(parameter.getCore().getGroup().getName(), "G");
+    EXPECT_EQ(parameter.getSpec().getCategory()->getSubCategoryComponent()->getParentCategory(), "m");
+}
+
+TEST(ReferenceParameterResolution, FindsTheCategoryOfAFamilyTypeResolvedWithIt) {
+    const ParametersEngine engine =
+        engineOf({textNaming({other, familyType, "m"}), majorCategoryText("m", "d"), domainText("d")});
+    EXPECT_EQ(engine.getReferenceParameter("gate").getSpec().getCategory()->getTypeId(), "m");
+}
+
+TEST(ReferenceParameterResolution, KeepsTheTypeIdOfTheFamilyTypeThatItsSchemaNames) {
+    for (const char* typeId : {"norvex.talmo.spec:familyType-1.0.0", "norvex.talmo.spec:familyType-1.4.0",
+                               "my norvex.talmo.spec:familyType-1.x"}) {
+        const ReferenceSpec spec = readFrom(textNaming({other, typeId, "gates"})).getSpec();
+        EXPECT_EQ(spec.getCore().getTypeId(), typeId);
+        EXPECT_EQ(spec.getCore().getName(), "Family Type");
+        EXPECT_EQ(spec.getCategory()->getName(), "Gates");
+    }
+}
+
+TEST(ReferenceParameterBinding, GetsTheRegisteredObjectsForThoseItWasGiven) {
+    const ReferenceParameter parameter = registered(objectNaming({"safety", "any gate", "x"}, true));
+    EXPECT_EQ(parameter.getCore().getGroup().getName(), "Safety");
+    EXPECT_EQ(parameter.getSpec().getCore().getName(), "Any Gate");
+    EXPECT_EQ(parameter.getSpec().getCategory()->getName(), "Gates");
+    EXPECT_TRUE(parameter.isRanged());
+}
+
+TEST(ReferenceParameterBinding, TakesTheFullBuiltInSpecForTypeIdsThatContainIt) {
+    for (const char* typeId : {"norvex.spec:spec.reference-1.0.0", "norvex.spec:spec.reference-1.4.0",
+                               "my norvex.spec:spec.reference-1.x"}) {
+        for (const ReferenceParameter& parameter :
+             {registered(objectNaming({other, typeId, {}})), registered(objectNaming({other, typeId, "gates"})),
+              plant().readReferenceParameter(textNaming({other, typeId, {}}))}) {
+            EXPECT_EQ(Support::describe(parameter.getSpec()),
+                      R"(("norvex.spec:spec.reference-1.0.0" "Reference" of ("norvex.spec:discipline-1.0.0" "Common")))"
+                      " to anything");
+        }
+    }
+}
+
+TEST(ReferenceParameterBinding, TakesTheFullFamilyTypeForTypeIdsThatContainIt) {
+    for (const char* typeId : {"norvex.talmo.spec:familyType-1.0.0", "norvex.talmo.spec:familyType-1.4.0",
+                               "my norvex.talmo.spec:familyType-1.x"}) {
+        for (const ReferenceParameter& parameter :
+             {registered(objectNaming({other, typeId, "gates"})),
+              plant().readReferenceParameter(textNaming({other, typeId, "gates"}))}) {
+            EXPECT_EQ(Support::describe(parameter.getSpec().getCore()),
+                      R"(("norvex.talmo.spec:familyType-1.0.0" "Family Type" of )"
+                      R"(("norvex.spec:discipline-1.0.0" "Common")))");
+            EXPECT_EQ(parameter.getSpec().getCategory()->getName(), "Gates");
+        }
+    }
+}
+
+TEST(ReferenceParameterBinding, KeepsTheFlag) {
+    const std::string text =
+        textNaming({"safety", "any gate", {}}, "norvex.parameter:parameter.reference.ranged-2.1.0");
+    EXPECT_TRUE(plant().readReferenceParameter(text).isRanged());
+    EXPECT_FALSE(plant().readReferenceParameter(textNaming({"safety", "any gate", {}})).isRanged());
+    EXPECT_FALSE(registered(objectNaming({other, "any gate", {}})).isRanged());
+}
+
+TEST(ReferenceParameterBinding, WritesAndNamesWhatItGotByObject) {
+    const ParametersEngine engine = plant();
+    EXPECT_EQ(engine.getSchema(objectNaming({other, "norvex.spec:spec.reference-1.4.0", {}}, true)), writtenRanged);
+    EXPECT_EQ(engine.getSchema(objectNaming({other, "norvex.talmo.spec:familyType-1.4.0", "gates"})), writtenFamily);
+    EXPECT_EQ(engine.getDependencies(objectNaming({other, "norvex.spec:spec.reference-1.4.0", {}})),
+              (TypeIds{other, "norvex.spec:spec.reference-1.0.0"}));
+    EXPECT_EQ(engine.getDependencies(objectNaming({"safety", "norvex.talmo.spec:familyType-1.4.0", "gates"})),
+              (TypeIds{"gates", "safety", familyType}));
+    EXPECT_EQ(engine.getDependencies(objectNaming({"safety", "any gate", "x"})), (TypeIds{"any gate", "safety"}));
+    EXPECT_TRUE(engine.getAllReferenceParameters().empty());
+}
+
+/// What a parameter may name in vain, and the messages of the two ways to look for it.
+struct Missing {
+    const char* name;
+    Names names;
+    const char* whenBound;
+    const char* whenResolved;
+};
+
+const Missing missingReferences[] = {
+    {"FamilyTypeOfAnotherMajorVersion",
+     {"safety", "norvex.talmo.spec:familyType-2.0.0", {}},
+     "Could not find reference spec with typeid norvex.talmo.spec:familyType-2.0.0.",
+     "Dependency norvex.talmo.spec:familyType-2.0.0 in schema gate is missing or does not represent an object of the "
+     "expected type."},
+    {"GroupBeforeSpec",
+     {"y", "x", {}},
+     "Could not find group with typeid y.",
+     "Dependency y in schema gate is missing or does not represent an object of the expected type."},
+    {"Category",
+     {"safety", familyType, "x"},
+     "Could not find category with typeid x.",
+     "Dependency x in schema gate is missing or does not represent an object of the expected type."},
+    {"SpecAsCategory",
+     {"safety", "norvex.talmo.spec:familyType-1.3.0", "any gate"},
+     "Could not find category with typeid any gate.",
+     "Dependency any gate in schema gate is missing or does not represent an object of the expected type."},
+    {"ItselfAsCategory",
+     {"safety", familyType, "gate"},
+     "Could not find category with typeid gate.",
+     "Dependency gate in schema gate is missing or does not represent an object of the expected type."},
+    {"GroupBeforeCategory",
+     {"y", familyType, "x"},
+     "Could not find group with typeid y.",
+     "Dependency y in schema gate is missing or does not represent an object of the expected type."},
+};
+
+/// Returns the message with which an engine refuses a parameter made in code, in whatever way it is asked about.
+std::string refusalOfObject(ParametersEngine& engine, const ReferenceParameter& parameter) {
+    const std::string message = refusalBy(engine, [&] { engine.registerReferenceParameter(parameter); });
+    EXPECT_EQ(refusalBy(engine, [&] { engine.getSchema(parameter); }), message);
+    EXPECT_EQ(refusalBy(engine, [&] { engine.getDependencies(parameter); }), message);
+    return message;
+}
+
+class ReferenceParameterThatNamesInVain : public testing::TestWithParam<Missing> {};
+
+TEST_P(ReferenceParameterThatNamesInVain, IsNeitherBoundNorReadNorResolved) {
+    ParametersEngine engine = plant();
+    EXPECT_EQ(refusalOfObject(engine, objectNaming(GetParam().names)), GetParam().whenBound);
+    EXPECT_EQ(refusalBy(engine, [&] { engine.readReferenceParameter(textNaming(GetParam().names)); }),
+              GetParam().whenBound);
+    engine.registerSchema(textNaming(GetParam().names));
+    EXPECT_EQ(refusalBy(engine, [&] { engine.resolveSchemas(); }), GetParam().whenResolved);
+}
+
+INSTANTIATE_TEST_SUITE_P(References, ReferenceParameterThatNamesInVain, testing::ValuesIn(missingReferences),
+                         Support::nameOfRow);
+
+TEST(ReferenceParameterBinding, MissesACategoryThatIsOnlyPending) {
+    ParametersEngine engine = plant();
+    engine.registerSchema(majorCategoryText("pending category", "domain"));
+    EXPECT_EQ(refusalOfObject(engine, objectNaming({other, familyType, "pending category"})),
+              "Could not find category with typeid pending category.");
+}
+
+TEST(ReferenceParameterBinding, RefusesAFamilyTypeWithoutACategoryButMissesItsGroupBefore) {
+    ParametersEngine engine = plant();
+    for (const char* typeId : {"norvex.talmo.spec:familyType-1.0.0", "my norvex.talmo.spec:familyType-1.4.0"}) {
+        EXPECT_EQ(refusalOfObject(engine, objectNaming({"safety", typeId, {}})),
+                  "Family Type parameter must specify a category.");
+        EXPECT_EQ(refusalOfObject(engine, objectNaming({"x", typeId, {}})), "Could not find group with typeid x.");
+    }
+}
+
+TEST(ReferenceParameterBinding, RefusesATypeIdBeforeAllElse) {
+    ParametersEngine engine = engineOf({groupText("gate")});
+    const Names names{"x", familyType, {}};
+    EXPECT_EQ(refusalOfObject(engine, objectNaming(names)), "Schema with typeid gate is already registered.");
+    EXPECT_EQ(refusalOfObject(engine, objectNaming(names, false, "")), "Typeid must not be empty.");
+}
+
+TEST(ReferenceParameterRegistration, ReportsTheCategoryOfAFamilyTypeButNotTheFamilyType) {
+    ParametersEngine engine;
+    EXPECT_EQ(engine.registerSchema(textNaming({other, "norvex.talmo.spec:familyType-1.3.0", "gates"})).first,
+              TypeIds{"gates"});
+    EXPECT_EQ(plant().registerSchema(textNaming({"safety", familyType, "gates"})).first, TypeIds{});
+}
+
+TEST(ReferenceParameterDependencies, AreTheCategoryOfAFamilyTypeToo) {
+    EXPECT_EQ(engineOf({textNaming({"safety", "norvex.talmo.spec:familyType-1.3.0", "gates"})}, plant())
+                  .getDependencies("gate"),
+              (TypeIds{"gates", "norvex.talmo.spec:familyType-1.3.0", "safety"}));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include <parameters/StringParameter.h>
 
-#include "StringParameters.h"
+#include "StringRanges.h"
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
 #include "support/Fault.h"
@@ -15,16 +15,77 @@
 #include <string>
 #include <vector>
 
-// What string parameters do not share with integer parameters; see RangedParameterTest.cpp.
+// What string parameters do not share with other parameters; see RangedParameterTest.cpp.
 
 namespace {
 
-using namespace StringParameters;
+using namespace StringRanges;
+using Parameters::ParameterCore;
+using Parameters::ParametersEngine;
+using Parameters::RegexStringRangeComponent;
+using Parameters::SetStringRangeComponent;
+using Parameters::SpecCore;
+using Parameters::StringParameter;
+using Parameters::StringSpec;
+using Parameters::Taxon;
+using Support::engineOf;
 using Support::Fault;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
 using Support::typedConstant;
+
+constexpr const char* builtInSpec = "norvex.spec:spec.string-2.0.0";
+
+ParameterCore coreOf(const std::string& typeId, const std::string& group = "norvex.parameter:group-1.0.0") {
+    return {typeId, "Name", Taxon(group, "Group"), "", "", false};
+}
+
+StringSpec specOf(const std::string& typeId) { return StringSpec(SpecCore(typeId, "Spec")); }
+
+StringRange setOf(const std::string& typeId, const Strings& values) {
+    return {typeId, SetStringRangeComponent(values)};
+}
+
+StringRange regexOf(const std::string& typeId, const std::string& regex) {
+    return {typeId, RegexStringRangeComponent(regex)};
+}
+
+/// Returns the text of the parameter "p" with the given constants behind its name.
+std::string textOf(const std::string& constants = "") {
+    return Support::schemaText("p", "norvex.parameter:parameter.string-3.0.0",
+                               R"({"id": "name", "value": "Name"})" + (constants.empty() ? "" : ", " + constants));
+}
+
+/// Returns the text of the parameter "p" with an inline value of its range.
+std::string inlineText(const std::string& rangeTypeId, const std::string& value) {
+    return textOf(R"({"id": "range", "typedValue": {"typeid": ")" + rangeTypeId + R"(", "value": )" + value + "}}");
+}
+
+std::string written(const std::string& more) {
+    return R"({"typeid":"p","inherits":["norvex.parameter:parameter.string-3.0.0"],"constants":[)"
+           R"({"id":"name","value":"Name"})" +
+           more + "]}";
+}
+
+/// Returns an engine with a group "g", a spec "s", and ranges "set", "empty", "regex" and "any".
+ParametersEngine stocked() {
+    ParametersEngine engine;
+    engine.registerGroup(Taxon("g", "The group"));
+    engine.registerStringSpec(StringSpec(SpecCore("s", "The spec")));
+    engine.registerStringRange(setOf("set", {"b", "a"}));
+    engine.registerStringRange(setOf("empty", {}));
+    engine.registerStringRange(regexOf("regex", "a*"));
+    return engineOf({Support::schemaText("any", defaultBase, "")}, engine);
+}
+
+StringParameter resolved(const std::string& text) { return engineOf({text}, stocked()).getStringParameter("p"); }
+
+std::string writtenBy(const StringParameter& parameter) {
+    ParametersEngine engine = stocked();
+    engine.registerStringParameter(parameter);
+    return engine.getSchema(parameter.getCore().getTypeId());
+}
 
 const char* const setAndRegexBase = "norvex.range:range.string.set.static-1.0.0 norvex.range:range.string.regex-1.0.0";
 const char* const regexAndSetBase = "norvex.range:range.string.regex-1.0.0 norvex.range:range.string.set.static-1.0.0";
@@ -111,19 +172,12 @@ const std::vector<Fault> inlineFaults = {
     {"ExpressionBehindDefault", inlineText(defaultAndRegexBase, "{}"), noRegex},
 };
 
-struct StringParameterInlineFault : testing::TestWithParam<Fault> {
+class StringParameterInlineFault : public testing::TestWithParam<Fault> {};
+
+TEST_P(StringParameterInlineFault, IsNamedAndLeavesTheParameterWithoutAValueType) {
     ParametersEngine engine;
-};
-
-TEST_P(StringParameterInlineFault, IsNamedInRegistration) {
     EXPECT_EQ(refusalOf(engine, GetParam().text), GetParam().message);
-}
-
-TEST_P(StringParameterInlineFault, IsNamedInReading) {
     EXPECT_EQ(refusalBy(engine, [&] { engine.readStringParameter(GetParam().text); }), GetParam().message);
-}
-
-TEST_P(StringParameterInlineFault, LeavesTheParameterWithoutAValueType) {
     EXPECT_EQ(engine.readValueType(GetParam().text), Parameters::ValueType::None);
 }
 
@@ -183,33 +237,17 @@ const UnfitRange unfitRanges[] = {
      "values."},
 };
 
-struct UnfitStringRange : testing::TestWithParam<UnfitRange> {
-    const StringParameter parameter{coreOf("p", GetParam().group), specOf(GetParam().spec), GetParam().range};
+class UnfitStringRange : public testing::TestWithParam<UnfitRange> {};
+
+TEST_P(UnfitStringRange, FailsRegistrationAndWritingAndTheQuestionForDependencies) {
+    const StringParameter parameter(coreOf("p", GetParam().group), specOf(GetParam().spec), GetParam().range);
     ParametersEngine engine = stocked();
-};
-
-TEST_P(UnfitStringRange, FailsRegistration) {
     EXPECT_EQ(refusalBy(engine, [&] { engine.registerStringParameter(parameter); }), GetParam().message);
-}
-
-TEST_P(UnfitStringRange, FailsWriting) {
     EXPECT_EQ(refusalBy(engine, [&] { engine.getSchema(parameter); }), GetParam().message);
-}
-
-TEST_P(UnfitStringRange, FailsTheQuestionForDependencies) {
     EXPECT_EQ(refusalBy(engine, [&] { engine.getDependencies(parameter); }), GetParam().message);
 }
 
 INSTANTIATE_TEST_SUITE_P(StringParameter, UnfitStringRange, testing::ValuesIn(unfitRanges), Support::nameOfRow);
-
-TEST(StringParameter, HasItsTypeIdCheckedBeforeItsRange) {
-    const StringParameter unnamed(coreOf("", "x"), specOf("y"), setOf("z", {"a", "a"}));
-    const StringParameter known(coreOf("g", "x"), specOf("y"), setOf("z", {"a", "a"}));
-    ParametersEngine engine = stocked();
-    EXPECT_EQ(refusalBy(engine, [&] { engine.registerStringParameter(unnamed); }), "Typeid must not be empty.");
-    EXPECT_EQ(refusalBy(engine, [&] { engine.getSchema(known); }), "Schema with typeid g is already registered.");
-    EXPECT_EQ(refusalBy(engine, [&] { engine.getDependencies(known); }), "Schema with typeid g is already registered.");
-}
 
 TEST(StringParameter, KeepsItsOwnRangeOfAnyVersionOfABase) {
     ParametersEngine engine;
@@ -242,11 +280,6 @@ struct Written {
 };
 
 const Written writtenParameters[] = {
-    {"AllConstants",
-     {ParameterCore("p", "Name", Taxon("g", ""), "About it", "b", true), specOf("s"), regexOf("set", "not it")},
-     written(R"(,{"id":"description","value":"About it"},{"id":"sampleText","value":"b"},)"
-             R"({"id":"group","typedValue":{"typeid":"g"}},{"id":"readOnly","value":true},)"
-             R"({"id":"spec","typedValue":{"typeid":"s"}},{"id":"range","typedValue":{"typeid":"set"}})")},
     {"DefaultsAlone", {coreOf("p"), StringRange()}, written("")},
     {"BuiltInSpecOfAnotherName", {coreOf("p"), specOf(builtInSpec), StringRange()}, written("")},
     {"BuiltInSpecOfAnotherVersion", {coreOf("p"), specOf("norvex.spec:spec.string-2.3.0"), StringRange()}, written("")},
