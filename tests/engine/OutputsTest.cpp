@@ -104,12 +104,9 @@ struct Unknown {
 
 struct UnknownInOutputs : Outputs, testing::WithParamInterface<Unknown> {};
 
-TEST_P(UnknownInOutputs, HasNoDependencies) {
+TEST_P(UnknownInOutputs, HasNeitherDependenciesNorASchema) {
     EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { engine.getDependencies(GetParam().typeId); }),
               GetParam().message);
-}
-
-TEST_P(UnknownInOutputs, HasNoSchema) {
     EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { engine.getSchema(GetParam().typeId); }),
               GetParam().message);
 }
@@ -301,12 +298,9 @@ struct Refusal {
 
 struct RefusedParameter : Outputs, testing::WithParamInterface<Refusal> {};
 
-TEST_P(RefusedParameter, HasNoDependencies) {
+TEST_P(RefusedParameter, HasNeitherDependenciesNorASchema) {
     EXPECT_EQ(messageOf<ValidationException>([&] { engine.getDependencies(GetParam().parameter); }),
               GetParam().message);
-}
-
-TEST_P(RefusedParameter, HasNoSchema) {
     EXPECT_EQ(messageOf<ValidationException>([&] { engine.getSchema(GetParam().parameter); }), GetParam().message);
 }
 

@@ -1,5 +1,4 @@
 #include "support/Engines.h"
-#include "support/Messages.h"
 #include "support/Refusal.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
@@ -21,7 +20,6 @@ using Parameters::MajorCategoryComponent;
 using Parameters::ParametersEngine;
 using Parameters::SubCategoryComponent;
 using Parameters::Taxon;
-using Parameters::UnrecognizedIdentifierException;
 using Parameters::ValidationException;
 using Support::boolSpecText;
 using Support::disciplineText;
@@ -29,7 +27,6 @@ using Support::domainText;
 using Support::engineOf;
 using Support::groupText;
 using Support::majorCategoryText;
-using Support::messageOf;
 using Support::referenceSpecText;
 using Support::refusalBy;
 using Support::subCategoryText;
@@ -58,12 +55,6 @@ ParametersEngine plant() {
                      majorCategoryText("major", "domain"), subCategoryText("sub", "major")});
 }
 
-TEST(CategoryResolution, FindsDomainAndDisciplinesRegisteredBefore) {
-    const ParametersEngine engine = engineOf({majorCategoryText("c", "domain", {"civil"})}, plant());
-    EXPECT_EQ(majorIn(engine, "c").getDomain().getName(), "Waterway");
-    EXPECT_EQ(majorIn(engine, "c").getDisciplines().at(0).getName(), "Civil Works");
-}
-
 TEST(CategoryResolution, FindsDomainAndDisciplinesResolvedWithIt) {
     const ParametersEngine engine = engineOf({majorCategoryText("a", "d", {"e", "b"}), domainText("d", "D"),
                                               disciplineText("b", "B"), disciplineText("e", "E")});
@@ -72,29 +63,11 @@ TEST(CategoryResolution, FindsDomainAndDisciplinesResolvedWithIt) {
     EXPECT_EQ(majorIn(engine, "a").getDisciplines().at(1).getName(), "B");
 }
 
-TEST(CategoryResolution, TakesTheCommonDisciplineForTypeIdsThatContainTheBuiltInOne) {
-    for (const char* typeId :
-         {"norvex.spec:discipline-1.0.0", "norvex.spec:discipline-1.3.0", "my norvex.spec:discipline-1.x"}) {
-        const ParametersEngine engine = engineOf({majorCategoryText("c", "domain", {typeId})}, plant());
-        EXPECT_EQ(majorIn(engine, "c").getDisciplines().at(0).getTypeId(), typeId);
-        EXPECT_EQ(majorIn(engine, "c").getDisciplines().at(0).getName(), "Common");
-    }
-}
-
-TEST(CategoryResolution, FindsAParentRegisteredBefore) {
-    EXPECT_EQ(parentIn(engineOf({subCategoryText("a", "major")}, plant()), "a"), "major");
-}
-
 TEST(CategoryResolution, FindsAParentResolvedWithItWhateverTheirOrder) {
     const ParametersEngine engine =
         engineOf({subCategoryText("a", "m"), majorCategoryText("m", "d"), subCategoryText("z", "m"), domainText("d")});
     EXPECT_EQ(parentIn(engine, "a"), "m");
     EXPECT_EQ(parentIn(engine, "z"), "m");
-}
-
-TEST(CategoryResolution, KeepsTheTypeIdOfTheParentOnly) {
-    const ParametersEngine engine = engineOf({subCategoryText("c", "major")}, plant());
-    EXPECT_EQ(engine.getDependencies("c"), TypeIds{"major"});
 }
 
 struct Unresolvable {
@@ -197,12 +170,6 @@ TEST(CategoryRegistration, ReportsTheBuiltInDomainAsMissing) {
     EXPECT_EQ(missing.first, TypeIds{"norvex.talmo.category:domain-1.0.0"});
 }
 
-TEST(CategoryRegistration, ReportsAParentThatIsMissing) {
-    ParametersEngine engine;
-    EXPECT_EQ(engine.registerSchema(subCategoryText("a", "m")).first, TypeIds{"m"});
-    EXPECT_EQ(engine.registerSchema(subCategoryText("b", "m")).second, TypeIds{});
-}
-
 TEST(CategoryRegistration, ReportsNothingThatIsPendingOrRegistered) {
     ParametersEngine engine = plant();
     engine.registerSchema(domainText("pending"));
@@ -212,29 +179,14 @@ TEST(CategoryRegistration, ReportsNothingThatIsPendingOrRegistered) {
     EXPECT_EQ(engine.registerSchema(subCategoryText("t", "sub")).first, TypeIds{});
 }
 
-TEST(CategoryDependencies, AreDomainAndDisciplinesOfAMajorOne) {
-    const ParametersEngine engine =
-        engineOf({majorCategoryText("c", "domain", {"norvex.spec:discipline-1.3.0", "civil", "civil"})}, plant());
-    EXPECT_EQ(engine.getDependencies("c"), (TypeIds{"civil", "domain", "norvex.spec:discipline-1.3.0"}));
-    EXPECT_EQ(engine.getDependencies("major"), TypeIds{"domain"});
-}
-
-TEST(CategoryDependencies, AreTheParentOfASubcategory) { EXPECT_EQ(plant().getDependencies("sub"), TypeIds{"major"}); }
-
 TEST(CategoryDependencies, AreTheSameForObjects) {
     ParametersEngine engine = plant();
     engine.registerCategory(
         majorOf("m", Taxon("domain", ""), {Taxon("civil", ""), Taxon("norvex.spec:discipline-1.0.0", "")}));
     engine.registerCategory(subOf("s", "m"));
+    EXPECT_EQ(parentIn(engine, "s"), "m");
     EXPECT_EQ(engine.getDependencies("m"), (TypeIds{"civil", "domain", "norvex.spec:discipline-1.0.0"}));
     EXPECT_EQ(engine.getDependencies("s"), TypeIds{"m"});
-}
-
-TEST(CategoryDependencies, AreNotKnownBeforeItIsResolved) {
-    ParametersEngine engine = plant();
-    engine.registerSchema(subCategoryText("c", "major"));
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { engine.getDependencies("c"); }),
-              "Could not find any object with typeid c.");
 }
 
 TEST(CategoryBinding, GetsTheRegisteredDomainAndDisciplinesForThoseItWasGiven) {
@@ -256,12 +208,6 @@ TEST(CategoryBinding, TakesTheCommonDisciplineForTypeIdsThatContainTheBuiltInOne
     EXPECT_EQ(disciplines.at(0).getName(), "Common");
     EXPECT_EQ(disciplines.at(1).getTypeId(), "my norvex.spec:discipline-1.3.0");
     EXPECT_EQ(disciplines.at(1).getName(), "Common");
-}
-
-TEST(CategoryBinding, FindsTheParent) {
-    ParametersEngine engine = plant();
-    engine.registerCategory(subOf("c", "major"));
-    EXPECT_EQ(parentIn(engine, "c"), "major");
 }
 
 struct Unbindable {
@@ -289,8 +235,6 @@ const Unbindable unbindable[] = {
     {"TakenTypeIdBeforeDomain", majorOf("civil", x), "Schema with typeid civil is already registered."},
     {"TakenTypeIdBeforeParent", subOf("pending major", "sub"),
      "Schema with typeid pending major is already registered."},
-    {"BuiltInTypeId", subOf("norvex.spec:discipline-1.0.0", "major"),
-     "Schema with typeid norvex.spec:discipline-1.0.0 is already registered."},
 };
 
 class UnbindableCategory : public testing::TestWithParam<Unbindable> {};

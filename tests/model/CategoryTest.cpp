@@ -3,7 +3,6 @@
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
 #include "support/Fault.h"
-#include "support/Messages.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
 
@@ -24,7 +23,6 @@ using Parameters::MajorCategoryComponent;
 using Parameters::ParametersEngine;
 using Parameters::SubCategoryComponent;
 using Parameters::Taxon;
-using Parameters::UnrecognizedIdentifierException;
 using Support::awkwardStrings;
 using Support::constant;
 using Support::disciplineText;
@@ -32,7 +30,6 @@ using Support::domainText;
 using Support::engineOf;
 using Support::Fault;
 using Support::majorCategoryText;
-using Support::messageOf;
 using Support::refusalOf;
 using Support::rewritten;
 using Support::schemaText;
@@ -267,23 +264,6 @@ TEST(Category, ReadsOnlyTheConstantsOfItsSort) {
     EXPECT_EQ(readFrom(major).getName(), "Gates");
     const std::string sub = schemaText("intake", subBase, nameOnly + ", " + parent + R"(, {"id": "disciplines"})");
     EXPECT_EQ(engineOf({sub}, gates()).getCategory("intake").getName(), "Gates");
-}
-
-TEST(Category, IsOfNoValueType) {
-    EXPECT_EQ(ParametersEngine().readValueType(majorCategoryText("gates", "waterway")), Parameters::None);
-    EXPECT_EQ(ParametersEngine().readValueType(subCategoryText("intake", "gates")), Parameters::None);
-}
-
-TEST(Category, IsMissedByItsKind) {
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([] { ParametersEngine().getCategory("x"); }),
-              "Could not find category with typeid x.");
-}
-
-TEST(Category, HasNoBuiltInObject) {
-    for (const std::string& base : {majorBase, subBase}) {
-        EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { ParametersEngine().getCategory(base); }),
-                  "Could not find category with typeid " + base + ".");
-    }
 }
 
 TEST(Category, IsListedAmongAllOfBothSorts) {

@@ -3,7 +3,6 @@
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
 #include "support/Fault.h"
-#include "support/NamingFault.h"
 #include "support/Refusal.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
@@ -28,7 +27,6 @@ using Parameters::SpecCore;
 using Parameters::Taxon;
 using Support::engineOf;
 using Support::Fault;
-using Support::NamingFault;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
@@ -67,15 +65,12 @@ std::string written(const std::string& more) {
 const std::string writtenMinimal =
     written(R"(,{"id":"spec","typedValue":{"typeid":"s"}}],"properties":[{"id":"value","typedValue":{"typeid":"e"}}])");
 
-/// Returns an engine with a group "g", a spec "s", an enumeration "e", and objects of other kinds.
+/// Returns an engine with a group "g", a spec "s" and an enumeration "e".
 ParametersEngine stocked() {
     ParametersEngine engine;
     engine.registerGroup(Taxon("g", "The group"));
     engine.registerGeneralSpec(GeneralSpec(SpecCore("s", "The spec")));
     engine.registerEnumeration(Enumeration("e", {{"b", 2}, {"a", 1}}));
-    engine.registerDiscipline(Taxon("discipline", "N"));
-    engine.registerBoolSpec(Parameters::BoolSpec(SpecCore("boolSpec", "N")));
-    engine.registerIntRange({"intRange", true, 1, true, 2});
     return engine;
 }
 
@@ -211,6 +206,16 @@ TEST_P(EnumerationParameterFault, IsNamedAndNothingIsRegistered) {
 INSTANTIATE_TEST_SUITE_P(EnumerationParameter, EnumerationParameterFault, testing::ValuesIn(textFaults),
                          Support::nameOfRow);
 
+/// What a parameter names in vain, and the messages of the two ways to look for it.
+struct NamingFault {
+    const char* name;
+    const char* group;
+    const char* spec;
+    const char* enumeration;
+    const char* whenBound;
+    const char* whenResolved;
+};
+
 const NamingFault namingFaults[] = {
     {"GroupBeforeSpecAndEnumeration", "x", "y", "z", "Could not find group with typeid x.",
      "Dependency x in schema p is missing or does not represent an object of the expected type."},
@@ -223,21 +228,16 @@ const NamingFault namingFaults[] = {
      "Dependency Enum in schema p is missing or does not represent an object of the expected type."},
 };
 
-struct EnumerationParameterNaming : testing::TestWithParam<NamingFault> {
+class EnumerationParameterNaming : public testing::TestWithParam<NamingFault> {};
+
+TEST_P(EnumerationParameterNaming, FailsRegistrationAndResolution) {
+    const auto& [name, group, spec, enumeration, whenBound, whenResolved] = GetParam();
     ParametersEngine engine = stocked();
-};
-
-TEST_P(EnumerationParameterNaming, FailsResolution) {
-    engine.registerSchema(fullText(nameOnly + ", " + typedConstant("spec", GetParam().spec) + ", " +
-                                       typedConstant("group", GetParam().group),
-                                   typedConstant("value", GetParam().third)));
-    EXPECT_EQ(refusalBy(engine, [&] { engine.resolveSchemas(); }), GetParam().whenResolved);
-}
-
-TEST_P(EnumerationParameterNaming, FailsRegistration) {
-    const EnumerationParameter parameter(coreOf("p", GetParam().group), specOf(GetParam().spec),
-                                         enumerationOf(GetParam().third));
-    EXPECT_EQ(refusalBy(engine, [&] { engine.registerEnumerationParameter(parameter); }), GetParam().whenBound);
+    const EnumerationParameter parameter(coreOf("p", group), specOf(spec), enumerationOf(enumeration));
+    EXPECT_EQ(refusalBy(engine, [&] { engine.registerEnumerationParameter(parameter); }), whenBound);
+    engine.registerSchema(fullText(nameOnly + ", " + typedConstant("spec", spec) + ", " + typedConstant("group", group),
+                                   typedConstant("value", enumeration)));
+    EXPECT_EQ(refusalBy(engine, [&] { engine.resolveSchemas(); }), whenResolved);
 }
 
 INSTANTIATE_TEST_SUITE_P(EnumerationParameter, EnumerationParameterNaming, testing::ValuesIn(namingFaults),

@@ -3,7 +3,6 @@
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
 #include "support/Fault.h"
-#include "support/Messages.h"
 #include "support/Refusal.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
@@ -22,10 +21,8 @@ namespace {
 
 using Parameters::Enumeration;
 using Parameters::ParametersEngine;
-using Parameters::UnrecognizedIdentifierException;
 using Support::engineOf;
 using Support::Fault;
-using Support::messageOf;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
@@ -146,21 +143,6 @@ TEST_P(EnumerationFault, IsNamedAndNothingIsRegistered) {
 
 INSTANTIATE_TEST_SUITE_P(Enumeration, EnumerationFault, testing::ValuesIn(textFaults), Support::nameOfRow);
 
-TEST(Enumeration, NamesNothing) {
-    ParametersEngine engine;
-    const auto missing = engine.registerSchema(textOf(R"({"id": "a", "value": 1, "typedValue": {"typeid": "x"}})"));
-    EXPECT_TRUE(missing.first.empty());
-    EXPECT_TRUE(missing.second.empty());
-    engine.resolveSchemas();
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { engine.getDependencies("e"); }),
-              "Could not find any object with typeid e.");
-}
-
-TEST(Enumeration, HasNoBuiltInObject) {
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([] { ParametersEngine().getEnumeration("Enum"); }),
-              "Could not find enumeration with typeid Enum.");
-}
-
 TEST(Enumeration, MayHaveTheWordOfItsBaseAsItsTypeId) {
     ParametersEngine engine;
     engine.registerEnumeration(Enumeration("Enum", {{"a", 1}}));
@@ -183,12 +165,6 @@ struct RefusedEnumeration {
 };
 
 const std::vector<RefusedEnumeration> refusedEnumerations = {
-    {"NoTypeId", "", {{"a", 1}}, "Typeid must not be empty."},
-    {"KnownTypeId", "known", {{"a", 1}}, "Schema with typeid known is already registered."},
-    {"BuiltInTypeId",
-     "norvex.spec:spec.bool-1.0.0",
-     {{"a", 1}},
-     "Schema with typeid norvex.spec:spec.bool-1.0.0 is already registered."},
     {"NoValues", "e", {}, "Enumeration must specify at least one value."},
     {"EmptyId", "e", {{"a", 1}, {"", 2}}, "ID of value in enumeration must not be empty."},
     {"SameIdTwice", "e", {{"a", 1}, {"b", 2}, {"a", 1}}, "Value a must appear only once."},

@@ -157,14 +157,6 @@ TYPED_TEST(NumericRange, IsRegisteredAsItIs) {
     EXPECT_EQ(TypeParam::getAll(this->engine).at("r").getTopBoundary(), -3);
 }
 
-TYPED_TEST(NumericRange, IsNotRegisteredUnderABuiltInTypeId) {
-    EXPECT_EQ(Support::refusalBy(this->engine,
-                                 [&] {
-                                     TypeParam::add(this->engine, {true, 1, true, 2});
-                                 }),
-              "Schema with typeid " + this->base() + " is already registered.");
-}
-
 TYPED_TEST(NumericRange, IsWrittenWithEachBoundaryAfterItsFlag) {
     EXPECT_EQ(this->writtenByCode({"r", true, -5, true, 12}), this->written(Traits<TypeParam>::bothBounds));
 }

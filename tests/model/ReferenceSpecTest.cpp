@@ -2,7 +2,6 @@
 
 #include "support/Engines.h"
 #include "support/Fault.h"
-#include "support/Messages.h"
 #include "support/Refusal.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
@@ -27,7 +26,6 @@ using Parameters::ReferenceSpec;
 using Parameters::SpecCore;
 using Parameters::SubCategoryComponent;
 using Parameters::Taxon;
-using Parameters::UnrecognizedIdentifierException;
 using Support::constant;
 using Support::disciplineText;
 using Support::domainText;
@@ -35,7 +33,6 @@ using Support::engineOf;
 using Support::failureOf;
 using Support::Fault;
 using Support::majorCategoryText;
-using Support::messageOf;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
@@ -185,20 +182,14 @@ const Missing missingReferences[] = {
      "Dependency y in schema gate is missing or does not represent an object of the expected type."},
 };
 
-class ReferenceSpecThatNamesInVain : public testing::TestWithParam<Missing> {
-protected:
-    ParametersEngine engine = plant();
-};
+class ReferenceSpecThatNamesInVain : public testing::TestWithParam<Missing> {};
 
-TEST_P(ReferenceSpecThatNamesInVain, IsNotResolved) {
+TEST_P(ReferenceSpecThatNamesInVain, IsNeitherRegisteredNorResolved) {
+    ParametersEngine engine = plant();
+    const ReferenceSpec spec = gateOf(GetParam().category, GetParam().discipline);
+    EXPECT_EQ(refusalBy(engine, [&] { engine.registerReferenceSpec(spec); }), GetParam().whenBound);
     engine.registerSchema(textNaming(GetParam().discipline, GetParam().category));
     EXPECT_EQ(refusalBy(engine, [&] { engine.resolveSchemas(); }), GetParam().whenResolved);
-}
-
-TEST_P(ReferenceSpecThatNamesInVain, IsNotRegistered) {
-    EXPECT_EQ(
-        refusalBy(engine, [&] { engine.registerReferenceSpec(gateOf(GetParam().category, GetParam().discipline)); }),
-        GetParam().whenBound);
 }
 
 INSTANTIATE_TEST_SUITE_P(References, ReferenceSpecThatNamesInVain, testing::ValuesIn(missingReferences),
@@ -286,13 +277,6 @@ TEST(BuiltInReferenceSpec, IsReferenceWithoutACategory) {
         EXPECT_EQ(spec.getCore().getDiscipline().getTypeId(), "norvex.spec:discipline-1.0.0");
         EXPECT_EQ(spec.getCore().getDiscipline().getName(), "Common");
         EXPECT_FALSE(spec.getCategory().has_value());
-    }
-}
-
-TEST(BuiltInReferenceSpec, IsNotFoundForOtherIdentifiers) {
-    for (const std::string typeId : {"norvex.spec:spec.reference-2.0.0", "norvex.talmo.spec:familyType-1.0.0"}) {
-        EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { ParametersEngine().getReferenceSpec(typeId); }),
-                  "Could not find reference spec with typeid " + typeId + ".");
     }
 }
 

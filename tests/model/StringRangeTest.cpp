@@ -4,7 +4,6 @@
 #include "support/AwkwardStrings.h"
 #include "support/Engines.h"
 #include "support/Fault.h"
-#include "support/Messages.h"
 #include "support/Refusal.h"
 #include "support/RowNames.h"
 #include "support/SchemaTexts.h"
@@ -22,10 +21,8 @@ using namespace StringRanges;
 using Parameters::ParametersEngine;
 using Parameters::RegexStringRangeComponent;
 using Parameters::SetStringRangeComponent;
-using Parameters::UnrecognizedIdentifierException;
 using Support::engineOf;
 using Support::Fault;
-using Support::messageOf;
 using Support::refusalBy;
 using Support::refusalOf;
 using Support::rewritten;
@@ -179,21 +176,6 @@ TEST(StringRange, TellsValuesBehindANulApart) {
               {std::string("\0a", 2), std::string("\0b", 2)});
 }
 
-TEST(StringRange, NamesNothing) {
-    ParametersEngine engine;
-    const auto missing = engine.registerSchema(schemaText("r", defaultBase, ""));
-    EXPECT_TRUE(missing.first.empty());
-    EXPECT_TRUE(missing.second.empty());
-    engine.resolveSchemas();
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([&] { engine.getDependencies("r"); }),
-              "Could not find any object with typeid r.");
-}
-
-TEST(StringRange, HasNoBuiltInObject) {
-    EXPECT_EQ(messageOf<UnrecognizedIdentifierException>([] { ParametersEngine().getStringRange(defaultBase); }),
-              "Could not find string range with typeid norvex.range:range.string-1.0.0.");
-}
-
 TEST(StringRange, IsRegisteredAsItIs) {
     ParametersEngine engine;
     engine.registerStringRange(StringRange("set", SetStringRangeComponent({"b", "a", "A", ""})));
@@ -211,13 +193,6 @@ struct RefusedRange {
 };
 
 const RefusedRange refusedRanges[] = {
-    {"Empty", StringRange("", RegexStringRangeComponent("a")), "Typeid must not be empty."},
-    {"Known", StringRange("known", RegexStringRangeComponent("a")), "Schema with typeid known is already registered."},
-    {"BuiltInDefault", StringRange(), "Schema with typeid norvex.range:range.string-1.0.0 is already registered."},
-    {"BuiltInSet", StringRange(SetStringRangeComponent({"a"})),
-     "Schema with typeid norvex.range:range.string.set.static-1.0.0 is already registered."},
-    {"BuiltInRegex", StringRange(RegexStringRangeComponent("a")),
-     "Schema with typeid norvex.range:range.string.regex-1.0.0 is already registered."},
     {"RepeatedValue", StringRange("r", SetStringRangeComponent({"a", "b", "c", "b", "a"})),
      "Value b must appear only once."},
     {"RepeatedEmptyValue", StringRange("r", SetStringRangeComponent({"", "a", ""})), "Value  must appear only once."},
