@@ -8,23 +8,24 @@ namespace Fuzz {
 
 namespace {
 
-namespace Kinds = Parameters::Kinds;
-
 bool contains(const std::string& typeId, std::string_view base) {
     return typeId.find(Support::versionPrefixOf(base)) != std::string::npos;
 }
 
 /// Whether a typeid is one of the kind that needs no object.
-bool isReserved(const std::string& typeId, Parameters::KindInfo kind) {
-    return (kind.isRange() || !kind.builtInName().empty()) &&
-           std::any_of(kind.bases().begin(), kind.bases().end(),
-                       [&](std::string_view base) { return contains(typeId, base); });
+template <class Kind>
+bool isReservedBy(const std::string& typeId) {
+    const auto isIn = [&](std::string_view identifier) { return contains(typeId, identifier); };
+    const bool isTaken = Kind::info.isRange() || !Kind::info.builtInName().empty();
+    const auto bases = Kind::info.bases();
+    const std::string_view reserved = Support::Sample<Kind>::reserved;
+    return (isTaken && std::any_of(bases.begin(), bases.end(), isIn)) || (!reserved.empty() && isIn(reserved));
 }
 
 /// Whether no object can have a typeid.
 bool isReserved(const std::string& typeId) {
-    bool reserved = contains(typeId, Kinds::ReferenceSpec::familyType);
-    Parameters::forEachKind([&](auto kind) { reserved = reserved || isReserved(typeId, kind.info); });
+    bool reserved = false;
+    Parameters::forEachKind([&](auto kind) { reserved = reserved || isReservedBy<decltype(kind)>(typeId); });
     return reserved;
 }
 

@@ -94,6 +94,7 @@ namespace Kinds {
 /// Enumerations.
 struct Enumeration : KindOf<Enumeration, &ParametersEngine::getEnumeration, &ParametersEngine::getAllEnumerations,
                             &ParametersEngine::registerEnumeration> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::enumeration, "enumeration", "enumeration", "enumerations", {"Enum"}};
 };
@@ -101,6 +102,7 @@ struct Enumeration : KindOf<Enumeration, &ParametersEngine::getEnumeration, &Par
 /// Ranges of floating-point numbers.
 struct FloatRange : KindOf<FloatRange, &ParametersEngine::getFloatRange, &ParametersEngine::getAllFloatRanges,
                            &ParametersEngine::registerFloatRange> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::range,
                                                            "float-range",
                                                            "floating-point range",
@@ -111,6 +113,7 @@ struct FloatRange : KindOf<FloatRange, &ParametersEngine::getFloatRange, &Parame
 /// Ranges of integers.
 struct IntRange : KindOf<IntRange, &ParametersEngine::getIntRange, &ParametersEngine::getAllIntRanges,
                          &ParametersEngine::registerIntRange> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::range,
                                                            "int-range",
                                                            "integer range",
@@ -121,6 +124,7 @@ struct IntRange : KindOf<IntRange, &ParametersEngine::getIntRange, &ParametersEn
 /// Ranges of strings. The bases are those of any text, of sets and of regular expressions.
 struct StringRange : KindOf<StringRange, &ParametersEngine::getStringRange, &ParametersEngine::getAllStringRanges,
                             &ParametersEngine::registerStringRange> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::range,
                                                            "string-range",
                                                            "string range",
@@ -133,6 +137,7 @@ struct StringRange : KindOf<StringRange, &ParametersEngine::getStringRange, &Par
 /// Disciplines.
 struct Discipline : KindOf<Discipline, &ParametersEngine::getDiscipline, &ParametersEngine::getAllDisciplines,
                            &ParametersEngine::registerDiscipline> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::taxon, "discipline", "discipline", "disciplines", {"norvex.spec:discipline-1.0.0"}, "Common"};
 };
@@ -140,6 +145,7 @@ struct Discipline : KindOf<Discipline, &ParametersEngine::getDiscipline, &Parame
 /// The specs of Boolean parameters.
 struct BoolSpec : KindOf<BoolSpec, &ParametersEngine::getBoolSpec, &ParametersEngine::getAllBoolSpecs,
                          &ParametersEngine::registerBoolSpec> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::spec, "bool-spec", "Boolean spec", "Boolean specs", {"norvex.spec:spec.bool-1.0.0"}, "Yes/No"};
 };
@@ -147,6 +153,7 @@ struct BoolSpec : KindOf<BoolSpec, &ParametersEngine::getBoolSpec, &ParametersEn
 /// The specs of enumeration parameters.
 struct GeneralSpec : KindOf<GeneralSpec, &ParametersEngine::getGeneralSpec, &ParametersEngine::getAllGeneralSpecs,
                             &ParametersEngine::registerGeneralSpec> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::spec, "general-spec", "general spec", "general specs", {"norvex.spec:spec-1.0.0"}};
 };
@@ -154,6 +161,7 @@ struct GeneralSpec : KindOf<GeneralSpec, &ParametersEngine::getGeneralSpec, &Par
 /// The specs of integer parameters.
 struct IntSpec : KindOf<IntSpec, &ParametersEngine::getIntSpec, &ParametersEngine::getAllIntSpecs,
                         &ParametersEngine::registerIntSpec> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::spec, "int-spec", "integer spec", "integer specs", {"norvex.spec:spec.int64-2.0.0"}, "Integer"};
 };
@@ -161,6 +169,7 @@ struct IntSpec : KindOf<IntSpec, &ParametersEngine::getIntSpec, &ParametersEngin
 /// The specs of measurable parameters.
 struct MeasurableSpec : KindOf<MeasurableSpec, &ParametersEngine::getMeasurableSpec,
                                &ParametersEngine::getAllMeasurableSpecs, &ParametersEngine::registerMeasurableSpec> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::spec,
                                                            "measurable-spec",
                                                            "measurable spec",
@@ -171,6 +180,7 @@ struct MeasurableSpec : KindOf<MeasurableSpec, &ParametersEngine::getMeasurableS
 /// The specs of reference parameters.
 struct ReferenceSpec : KindOf<ReferenceSpec, &ParametersEngine::getReferenceSpec,
                               &ParametersEngine::getAllReferenceSpecs, &ParametersEngine::registerReferenceSpec> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::spec, "reference-spec", "reference spec", "reference specs", {"norvex.spec:spec.reference-1.0.0"},
         "Reference"};
@@ -182,6 +192,7 @@ struct ReferenceSpec : KindOf<ReferenceSpec, &ParametersEngine::getReferenceSpec
 /// The specs of string parameters.
 struct StringSpec : KindOf<StringSpec, &ParametersEngine::getStringSpec, &ParametersEngine::getAllStringSpecs,
                            &ParametersEngine::registerStringSpec> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::spec, "string-spec", "string spec", "string specs", {"norvex.spec:spec.string-2.0.0"}, "Text"};
 };
@@ -189,6 +200,7 @@ struct StringSpec : KindOf<StringSpec, &ParametersEngine::getStringSpec, &Parame
 /// Groups.
 struct Group
     : KindOf<Group, &ParametersEngine::getGroup, &ParametersEngine::getAllGroups, &ParametersEngine::registerGroup> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::taxon, "group", "group", "groups", {"norvex.parameter:group-1.0.0"}, "Other"};
 };
@@ -197,6 +209,7 @@ struct Group
 struct EnumerationParameter
     : KindOf<EnumerationParameter, &ParametersEngine::getEnumerationParameter,
              &ParametersEngine::getAllEnumerationParameters, &ParametersEngine::registerEnumerationParameter> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::parameter,
                                                            "enumeration-parameter",
                                                            "enumeration parameter",
@@ -208,6 +221,7 @@ struct EnumerationParameter
 struct BoolParameter
     : ReadableKindOf<BoolParameter, &ParametersEngine::getBoolParameter, &ParametersEngine::getAllBoolParameters,
                      &ParametersEngine::registerBoolParameter, &ParametersEngine::readBoolParameter, Bool> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::parameter,
                                                            "bool-parameter",
                                                            "Boolean parameter",
@@ -219,6 +233,7 @@ struct BoolParameter
 struct IntParameter
     : ReadableKindOf<IntParameter, &ParametersEngine::getIntParameter, &ParametersEngine::getAllIntParameters,
                      &ParametersEngine::registerIntParameter, &ParametersEngine::readIntParameter, Int> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::parameter,
                                                            "int-parameter",
                                                            "integer parameter",
@@ -231,6 +246,7 @@ struct MeasurableParameter
     : ReadableKindOf<MeasurableParameter, &ParametersEngine::getMeasurableParameter,
                      &ParametersEngine::getAllMeasurableParameters, &ParametersEngine::registerMeasurableParameter,
                      &ParametersEngine::readMeasurableParameter, Measurable> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::parameter,
                                                            "measurable-parameter",
                                                            "measurable parameter",
@@ -243,6 +259,7 @@ struct ReferenceParameter
     : ReadableKindOf<ReferenceParameter, &ParametersEngine::getReferenceParameter,
                      &ParametersEngine::getAllReferenceParameters, &ParametersEngine::registerReferenceParameter,
                      &ParametersEngine::readReferenceParameter, Reference> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::parameter,
         "reference-parameter",
@@ -255,6 +272,7 @@ struct ReferenceParameter
 struct StringParameter
     : ReadableKindOf<StringParameter, &ParametersEngine::getStringParameter, &ParametersEngine::getAllStringParameters,
                      &ParametersEngine::registerStringParameter, &ParametersEngine::readStringParameter, String> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::parameter,
                                                            "string-parameter",
                                                            "string parameter",
@@ -265,6 +283,7 @@ struct StringParameter
 /// Domains.
 struct Domain : KindOf<Domain, &ParametersEngine::getDomain, &ParametersEngine::getAllDomains,
                        &ParametersEngine::registerDomain> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::taxon, "domain", "domain", "domains", {"norvex.talmo.category:domain-1.0.0"}};
 };
@@ -272,6 +291,7 @@ struct Domain : KindOf<Domain, &ParametersEngine::getDomain, &ParametersEngine::
 /// Categories. The bases are those of major categories and of subcategories.
 struct Category : KindOf<Category, &ParametersEngine::getCategory, &ParametersEngine::getAllCategories,
                          &ParametersEngine::registerCategory> {
+    /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::category,
         "category",

@@ -111,13 +111,18 @@ constexpr bool areBuiltBefore(KindList<Named...>) {
     return (isBuiltBefore<K, Named>() && ...);
 }
 
+template <class K, class... Ps>
+constexpr bool isListed(Kinds::List<Ps...>) {
+    static_assert((std::is_same_v<typename K::Public, Ps> || ...), "This kind is not in the public list, Kinds::All.");
+    return true;
+}
+
 template <class... Ks>
 constexpr bool areSound(KindList<Ks...>) {
-    return ((isKind<Ks>() && areBuiltBefore<Ks>(typename Ks::Names{})) && ...);
+    return ((isKind<Ks>() && isListed<Ks>(Kinds::All{}) && areBuiltBefore<Ks>(typename Ks::Names{})) && ...);
 }
 
 static_assert(areSound(ResolutionOrder{}));
-static_assert(ResolutionOrder::size == StoreOrder::size, "A kind in the resolution order is not in the public list.");
 
 } // namespace Detail
 

@@ -82,13 +82,20 @@ std::set<std::string> allSentences() {
     return all;
 }
 
-std::set<std::string> difference(const std::set<std::string>& a, const std::set<std::string>& b) {
-    std::set<std::string> result;
+template <class T>
+std::set<T> difference(const std::set<T>& a, const std::set<T>& b) {
+    std::set<T> result;
     std::set_difference(a.begin(), a.end(), b.begin(), b.end(), std::inserter(result, result.end()));
     return result;
 }
 
-TEST(PageOfErrors, ListsEveryMessageWithItsCodeAndNoOther) { EXPECT_EQ(messagesOfThePage(), messagesOfTheLibraries()); }
+TEST(PageOfErrors, ListsEveryMessageWithItsCode) {
+    EXPECT_THAT(difference(messagesOfTheLibraries(), messagesOfThePage()), IsEmpty());
+}
+
+TEST(PageOfErrors, ListsNoOtherMessage) {
+    EXPECT_THAT(difference(messagesOfThePage(), messagesOfTheLibraries()), IsEmpty());
+}
 
 TEST(PageOfErrors, ListsEveryReasonOfTheParser) {
     const auto codes = Documentation::codesOfFirstColumn(contentOf(top / "docs/errors.md"));
@@ -117,21 +124,18 @@ std::string textOfTheTests() {
     return std::regex_replace(text, std::regex("\"\\s*\n\\s*\""), "");
 }
 
-/// Returns the longest part of a sentence in which nothing is inserted.
-std::string longestPartOf(const std::string& sentence) {
+/// Returns whether each part of a sentence, between what is inserted, stands in a text.
+bool isQuoted(const std::string& sentence, const std::string& text) {
     const std::regex inserted("<[^>]*>");
-    std::string longest;
-    for (std::sregex_token_iterator part(sentence.begin(), sentence.end(), inserted, -1), end; part != end; ++part) {
-        longest = part->length() > static_cast<std::ptrdiff_t>(longest.size()) ? part->str() : longest;
-    }
-    return longest;
+    return std::all_of(std::sregex_token_iterator(sentence.begin(), sentence.end(), inserted, -1), {},
+                       [&](const auto& part) { return text.find(part.str()) != std::string::npos; });
 }
 
 TEST(Messages, AreQuotedByTests) {
     const std::string tests = textOfTheTests();
     std::vector<std::string> missing;
     for (const auto& [sentence, code] : messagesOfTheLibraries()) {
-        if (tests.find(longestPartOf(sentence)) == std::string::npos) {
+        if (!isQuoted(sentence, tests)) {
             missing.push_back(code);
         }
     }

@@ -226,8 +226,8 @@ TYPED_TEST(ReferencesOfEachKind, AreBuiltInObjectsWhereTheyAreLeftOut) {
         for (const Reference& reference : shape.form.references) {
             if (reference.required) {
                 expected.insert(sampleIdOf(reference.kind));
-            } else if (reference.mayBeBuiltIn() && !reference.several) {
-                expected.insert(std::string(reference.kind->bases()[0]));
+            } else if (const auto typeId = reference.defaultTypeId(); !typeId.empty()) {
+                expected.insert(std::string(typeId));
             }
         }
         EXPECT_EQ(TypeParam::getDependencies(engine, TypeParam::get(engine, "p")), expected);

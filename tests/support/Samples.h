@@ -30,9 +30,16 @@ struct Reference {
     bool several = false;       // a list of typeids
     bool property = false;      // stands among the properties, not among the constants
     std::string_view base = {}; // what the schema of what is named inherits; any base of its kind where this is empty
+    std::string_view ownDefault = {}; // what is named where it is left out, if that is not the kind's built-in object
 
     /// Returns whether an object of the kind is named even where none is registered, by some typeids.
     bool mayBeBuiltIn() const { return kind && !kind->builtInName().empty(); }
+
+    /// Returns the typeid that is named where the definition is left out; nothing where none is.
+    std::string_view defaultTypeId() const {
+        const bool isBuiltIn = !required && !several && mayBeBuiltIn();
+        return ownDefault.empty() && isBuiltIn ? kind->bases()[0] : ownDefault;
+    }
 };
 
 template <class Kind>
@@ -102,13 +109,15 @@ inline std::string nameConstant(const std::string& content) { return constant("n
 /// One of what has a name, which is its content.
 struct NamedSample {
     static constexpr bool hasName = true;
-    static constexpr std::size_t mainForm = 0; // of those that make objects with a content
+    static constexpr std::string_view reserved = {}; // an identifier that is taken besides the bases
+    static constexpr std::size_t mainForm = 0;       // of those that make objects with a content
     static constexpr const char* bareFault = "Schema x has an undefined name constant."; // of "x" with its base alone
 };
 
 /// One of what has no name.
 struct NamelessSample {
     static constexpr bool hasName = false;
+    static constexpr std::string_view reserved = {};
     static constexpr std::size_t mainForm = 0;
 };
 
@@ -243,6 +252,7 @@ struct Sample<Kinds::MeasurableSpec> : SpecSample<Kinds::MeasurableSpec> {
 
 template <>
 struct Sample<Kinds::ReferenceSpec> : SpecSample<Kinds::ReferenceSpec> {
+    static constexpr std::string_view reserved = Kinds::ReferenceSpec::familyType;
     static Parameters::ReferenceSpec of(const Parameters::SpecCore& core) { return {core, std::nullopt}; }
     static std::vector<Form> forms() {
         auto forms = SpecSample::forms();
