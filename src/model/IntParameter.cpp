@@ -6,7 +6,8 @@ IntParameter::IntParameter(const ParameterCore& core, const IntRange& range)
     : IntParameter(core, Internal::standInOf<Internal::IntSpecKind>(), range) {}
 
 IntParameter::IntParameter(const ParameterCore& core, const IntSpec& spec, const IntRange& range)
-    : IntParameter(Internal::IntParameterKind::make(Internal::Access::data(core), spec, range)) {}
+    : IntParameter(
+          Internal::IntParameterKind::make(Internal::ParameterCoreData(Internal::Access::data(core)), spec, range)) {}
 
 ParameterCore IntParameter::getCore() const { return Internal::parameterCoreOf(data_); }
 

@@ -3,7 +3,8 @@
 namespace Parameters {
 
 MeasurableParameter::MeasurableParameter(const ParameterCore& core, const MeasurableSpec& spec, const FloatRange& range)
-    : MeasurableParameter(Internal::MeasurableParameterKind::make(Internal::Access::data(core), spec, range)) {}
+    : MeasurableParameter(Internal::MeasurableParameterKind::make(
+          Internal::ParameterCoreData(Internal::Access::data(core)), spec, range)) {}
 
 ParameterCore MeasurableParameter::getCore() const { return Internal::parameterCoreOf(data_); }
 

@@ -95,7 +95,7 @@ public:
         return std::move(writer).finish();
     }
 
-    static Object make(ParameterCoreData core, const Spec& spec, const Range& range) {
+    static Object make(ParameterCoreData&& core, const Spec& spec, const Range& range) {
         using Data = RangedParameterData<Spec, Range>;
         return Access::make<Object>(std::make_shared<const Data>(Data{std::move(core), spec, range}));
     }

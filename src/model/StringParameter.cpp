@@ -6,7 +6,8 @@ StringParameter::StringParameter(const ParameterCore& core, const StringRange& r
     : StringParameter(core, Internal::standInOf<Internal::StringSpecKind>(), range) {}
 
 StringParameter::StringParameter(const ParameterCore& core, const StringSpec& spec, const StringRange& range)
-    : StringParameter(Internal::StringParameterKind::make(Internal::Access::data(core), spec, range)) {}
+    : StringParameter(Internal::StringParameterKind::make(Internal::ParameterCoreData(Internal::Access::data(core)),
+                                                          spec, range)) {}
 
 ParameterCore StringParameter::getCore() const { return Internal::parameterCoreOf(data_); }
 
