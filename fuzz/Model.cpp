@@ -13,19 +13,19 @@ bool contains(const std::string& typeId, std::string_view base) {
 }
 
 /// Whether a typeid is one of the kind that needs no object.
-template <class Kind>
-bool isReservedBy(const std::string& typeId) {
-    const auto isIn = [&](std::string_view identifier) { return contains(typeId, identifier); };
-    const bool isTaken = Kind::info.isRange() || !Kind::info.builtInName().empty();
-    const auto bases = Kind::info.bases();
-    const std::string_view reserved = Support::Sample<Kind>::reserved;
-    return (isTaken && std::any_of(bases.begin(), bases.end(), isIn)) || (!reserved.empty() && isIn(reserved));
+bool isReserved(const std::string& typeId, Parameters::KindInfo kind) {
+    return (kind.isRange() || !kind.builtInName().empty()) &&
+           std::any_of(kind.bases().begin(), kind.bases().end(),
+                       [&](std::string_view base) { return contains(typeId, base); });
 }
 
 /// Whether no object can have a typeid.
 bool isReserved(const std::string& typeId) {
     bool reserved = false;
-    Parameters::forEachKind([&](auto kind) { reserved = reserved || isReservedBy<decltype(kind)>(typeId); });
+    Parameters::forEachKind([&](auto kind) {
+        const std::string_view besides = Support::Sample<decltype(kind)>::reserved;
+        reserved = reserved || isReserved(typeId, kind.info) || (!besides.empty() && contains(typeId, besides));
+    });
     return reserved;
 }
 
