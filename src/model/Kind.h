@@ -26,6 +26,14 @@ constexpr KindList<As..., Bs...> operator+(KindList<As...>, KindList<Bs...>) {
     return {};
 }
 
+/// Returns the one base of a kind; does not compile for a kind of several, whose first is none to be taken for all.
+consteval std::string_view soleBaseOf(KindInfo info) {
+    if (info.bases().size() != 1) {
+        throw "This kind has several bases.";
+    }
+    return info.bases()[0];
+}
+
 /// What a kind has from its entry in the public list.
 template <class P>
 struct DescribedKind {
@@ -34,7 +42,7 @@ struct DescribedKind {
 
     static constexpr std::string_view word = P::info.word();
     /// What its schemas inherit. Kinds of several bases have them under names of their own.
-    static constexpr Ostra::Identifier base{P::info.bases()[0]};
+    static constexpr Ostra::Identifier base{soleBaseOf(P::info)};
     static constexpr bool hasBuiltIn = !P::info.builtInName().empty();
 };
 
