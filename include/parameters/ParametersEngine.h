@@ -6,6 +6,7 @@
 #include <parameters/Enumeration.h>
 #include <parameters/EnumerationParameter.h>
 #include <parameters/Export.h>
+#include <parameters/Fault.h>
 #include <parameters/FloatRange.h>
 #include <parameters/GeneralSpec.h>
 #include <parameters/IntParameter.h>
@@ -36,6 +37,7 @@
 #include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace Parameters {
 
@@ -229,6 +231,24 @@ public:
     ///         entries after it are not looked at, and nothing is resolved.
     /// @throws Units::ValidationException if the units engine refuses a schema that no kind of this engine accepts.
     void registerSchemas(const std::map<std::string, std::string>& schemas);
+
+    /// Returns everything that would be wrong if these texts, those of units among them, were registered and resolved in
+    /// this engine, and what in them is passed over: none that is an error exactly when they could be. Nothing is
+    /// changed. The keys are names for the texts, such as those of their files.
+    ///
+    /// The faults come by text in the order of the keys; within a text in the order in which it is read, then what it
+    /// names and is not there. A text that is no JSON or has no base of a known kind has no faults beyond that; of two
+    /// texts with one type identifier the second is at fault. What pending schemas of the engine lack is told by
+    /// findUnresolvable.
+    ///
+    /// Costs little more than registering and resolving in a copy of the engine, and time in proportion to the texts
+    /// whatever is wrong with them.
+    /// @snippet load_folder.cpp faults
+    std::vector<Fault> findFaults(const std::map<std::string, std::string>& texts) const;
+
+    /// Registers and resolves those of the texts that have no error, and returns the faults that findFaults would. What
+    /// is pending is resolved as far as it can be, and stays pending otherwise. Costs what findFaults does.
+    std::vector<Fault> registerSoundSchemas(const std::map<std::string, std::string>& texts);
 
     /// Turns all pending schemas, units first, into objects; schemas may name each other in whatever order they were
     /// registered. All or nothing: when it throws, pending schemas stay pending and no object is added, save that
