@@ -27,6 +27,12 @@ public:
         return *value_;
     }
 
+    /// Puts another value in the place of this one; copies keep theirs.
+    void replace(std::shared_ptr<T> value) noexcept {
+        value_ = std::move(value);
+        shared_.store(false, std::memory_order_relaxed);
+    }
+
 private:
     std::shared_ptr<T> value_;
     mutable std::atomic<bool> shared_ = false; // copying is reading: several threads may copy one engine

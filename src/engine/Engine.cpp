@@ -1,5 +1,9 @@
 #include "engine/Engine.h"
 
+#include "engine/Review.h"
+
+#include <algorithm>
+#include <memory>
 #include <optional>
 
 namespace Parameters::Internal {
@@ -101,16 +105,38 @@ void Engine::resolveSchemas() {
     registry.shrinkPending();
     Resolution resolution(registry, units_);
     if (const auto& faults = resolution.run(Resolution::Stop::afterFaultyKind); !faults.empty()) {
-        throw ValidationException(faults.begin()->second);
+        const auto& first = *std::min_element( // of the first record the first one
+            faults.begin(), faults.end(), [](const auto& one, const auto& other) { return one.typeId < other.typeId; });
+        throw ValidationException(first.cause.sentence);
     }
     registry.reserveForPending();
     forEachKind(StoreOrder{}, [&]<class K>() { registry.commit<K>(resolution.built<K>()); });
 }
 
-Resolution::Faults Engine::findUnresolvable() const {
+std::map<std::string, std::string> Engine::findUnresolvable() const {
     Units::UnitsEngine units = units_; // resolving units would change the engine
     units.resolveSchemas();
-    return Resolution(registry_.read(), units).run(Resolution::Stop::never);
+    Resolution resolution(registry_.read(), units);
+    std::map<std::string, std::string> unresolvable;
+    for (const auto& fault : resolution.run(Resolution::Stop::never)) {
+        unresolvable.emplace(fault.typeId, fault.cause.sentence); // the first one of each
+    }
+    return unresolvable;
+}
+
+std::vector<Fault> Engine::findFaults(const std::map<std::string, std::string>& texts) const {
+    Registry registry = registry_.read();
+    Units::UnitsEngine units = units_;
+    return review(texts, registry, units, Outcome::faults);
+}
+
+std::vector<Fault> Engine::registerSoundSchemas(const std::map<std::string, std::string>& texts) {
+    const auto registry = std::make_shared<Registry>(registry_.read());
+    Units::UnitsEngine units = units_;
+    auto faults = review(texts, *registry, units, Outcome::objects);
+    registry_.replace(registry);
+    units_ = std::move(units);
+    return faults;
 }
 
 bool Engine::discardPending(const std::string& typeId) {

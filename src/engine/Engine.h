@@ -8,6 +8,7 @@
 #include "model/ValidationExceptionFactory.h"
 #include "schema/Schema.h"
 
+#include <parameters/Fault.h>
 #include <parameters/UnrecognizedIdentifierException.h>
 #include <parameters/ValidationException.h>
 #include <parameters/ValueType.h>
@@ -18,6 +19,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace Parameters::Internal {
 
@@ -78,7 +80,9 @@ public:
     Missing registerSchema(const std::string& text);
     void registerSchemas(const std::map<std::string, std::string>& texts);
     void resolveSchemas();
-    Resolution::Faults findUnresolvable() const;
+    std::map<std::string, std::string> findUnresolvable() const;
+    std::vector<Fault> findFaults(const std::map<std::string, std::string>& texts) const;
+    std::vector<Fault> registerSoundSchemas(const std::map<std::string, std::string>& texts);
     bool discardPending(const std::string& typeId);
     std::set<std::string> dependenciesOf(const std::string& typeId) const;
     std::string schemaOf(const std::string& typeId) const;

@@ -14,6 +14,7 @@ struct EngineMessages {
         {"typeid-taken", "Schema with typeid <typeid> is already registered."},
         {"base-unrecognized", "Inheritance from an unrecognized base schema."},
         {"base-incorrect", "Inheritance from an incorrect base schema."},
+        {"unit-refused", "<what the units library says>"},
         {"any-object-unknown", "Could not find any object with typeid <typeid>."},
         {"engine-full", "An engine holds at most 2^31 objects."},
     });

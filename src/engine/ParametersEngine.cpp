@@ -245,6 +245,14 @@ void ParametersEngine::resolveSchemas() { engine_->resolveSchemas(); }
 
 std::map<std::string, std::string> ParametersEngine::findUnresolvable() const { return engine_->findUnresolvable(); }
 
+std::vector<Fault> ParametersEngine::findFaults(const std::map<std::string, std::string>& texts) const {
+    return engine_->findFaults(texts);
+}
+
+std::vector<Fault> ParametersEngine::registerSoundSchemas(const std::map<std::string, std::string>& texts) {
+    return engine_->registerSoundSchemas(texts);
+}
+
 bool ParametersEngine::discardPending(const std::string& typeId) { return engine_->discardPending(typeId); }
 
 std::set<std::string> ParametersEngine::getDependencies(const std::string& typeId) const {

@@ -157,32 +157,52 @@ public:
         });
     }
 
-    /// Puts the objects built for the pending records of a kind, in their order, in the records' place.
+    /// Puts the objects built for the pending records of a kind, in their order, in the records' place. Records for which
+    /// none was built stay pending.
     template <class K>
     void commit(std::vector<typename K::Object>& built) noexcept {
         auto& store = std::get<kindIndex<K>>(stores_);
         if (store.pending.empty()) {
             return;
         }
-        auto place = static_cast<std::uint32_t>(store.objects.size());
+        const std::size_t before = store.objects.size();
+        std::size_t left = 0;
+        std::size_t added = 0;
+        for (std::size_t place = 0; place < built.size(); ++place) {
+            Directory::Entry& entry = directory_[store.pending[place].entry];
+            if (Access::isNone(built[place])) {
+                entry.place = static_cast<std::uint32_t>(left);
+                moveDown(store.pending, place, left++);
+            } else {
+                assert(entry.typeId.data() == typeIdOf(built[place]).data()); // which stays: the texts are shared
+                entry.place = static_cast<std::uint32_t>(before + added);
+                entry.resolved = true;
+                moveDown(built, place, added++);
+            }
+        }
+        built.erase(built.begin() + static_cast<std::ptrdiff_t>(added), built.end());
+        store.pending.erase(store.pending.begin() + static_cast<std::ptrdiff_t>(left), store.pending.end());
+        if (left == 0) {
+            std::vector<typename Store<K>::Pending>().swap(store.pending);
+        }
         if (store.objects.empty()) {
             store.objects.swap(built);
         } else {
             store.objects.insert(store.objects.end(), built.begin(), built.end());
         }
-        for (const auto& pending : store.pending) {
-            Directory::Entry& entry = directory_[pending.entry];
-            assert(entry.typeId.data() == typeIdOf(store.objects[place]).data()); // which stays: the texts are shared
-            entry.place = place++;
-            entry.resolved = true;
-        }
         store.grown();
-        std::vector<typename Store<K>::Pending>().swap(store.pending);
     }
 
 private:
     template <class... Ks>
     static std::tuple<Store<Ks>...> storesOf(KindList<Ks...>);
+
+    template <class T>
+    static void moveDown(std::vector<T>& elements, std::size_t from, std::size_t to) noexcept {
+        if (from != to) {
+            elements[to] = std::move(elements[from]);
+        }
+    }
 
     Directory directory_;
     decltype(storesOf(StoreOrder{})) stores_;

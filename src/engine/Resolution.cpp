@@ -2,7 +2,6 @@
 
 #include "model/Access.h"
 
-#include <parameters/ValidationException.h>
 #include <units/ValidationException.h>
 
 #include <algorithm>
@@ -98,10 +97,11 @@ void Resolution::build(Stop stop) {
 template <class K>
 void Resolution::build(std::size_t place) {
     const auto& record = registry_.store<K>().pending[place].record;
-    try {
-        Access::put(K::build(record, finder_, nullptr), staging_.of<K>()[place]);
-    } catch (const ValidationException& fault) {
-        faults_.emplace(record.texts[0], fault.what());
+    auto object = K::build(record, finder_, nullptr);
+    if (!finder_.hasUnresolved()) {
+        Access::put(std::move(object), staging_.of<K>()[place]);
+    } else {
+        takeFaults(record);
     }
 }
 

@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace Parameters::Internal {
@@ -63,8 +64,14 @@ private:
 /// meanwhile.
 class Resolution {
 public:
-    /// The typeids of records that cannot be built, each with the message of its fault.
-    using Faults = std::map<std::string, std::string>;
+    /// What keeps a record from being built. Its views are good as long as the record.
+    struct Fault {
+        std::string_view typeId; // of the record
+        Unresolved cause;
+        std::size_t occurrence; // of what is named, among equal ones that the record names, in the order of reading
+    };
+    /// In the order in which they were met; those of one record one after the other.
+    using Faults = std::vector<Fault>;
     enum class Stop { afterFaultyKind, never };
 
     Resolution(const Registry& registry, const Units::UnitsEngine& units)
@@ -72,6 +79,15 @@ public:
 
     /// Builds kind by kind. What names a record that cannot be built cannot be built either.
     const Faults& run(Stop stop);
+
+    /// Returns what would keep a record that is not pending from being built, after a run.
+    template <class K>
+    Faults check(const typename K::Record& record) {
+        faults_.clear();
+        static_cast<void>(K::build(record, finder_, nullptr));
+        takeFaults(record);
+        return std::exchange(faults_, {});
+    }
 
     template <class K>
     Staging::Objects<K>& built() noexcept {
@@ -83,6 +99,8 @@ private:
     void build(Stop stop);
     template <class K>
     void build(std::size_t place);
+    template <class Record>
+    void takeFaults(const Record& record);
     bool isFaulty(Stop stop) const { return stop == Stop::afterFaultyKind && !faults_.empty(); }
 
     const Registry& registry_;
@@ -90,5 +108,29 @@ private:
     RegistryFinder finder_;
     Faults faults_;
 };
+
+template <class Record>
+void Resolution::takeFaults(const Record& record) {
+    for (Unresolved& cause : finder_.takeUnresolved()) {
+        std::size_t occurrence = 0;
+        const auto countIn = [&](const Texts& named) {
+            for (const std::string_view typeId : named) {
+                if (typeId.data() == cause.named.data()) {
+                    return false;
+                }
+                occurrence += typeId == cause.named ? 1 : 0;
+            }
+            return true;
+        };
+        bool goesOn = true;
+        if constexpr (requires { record.references; }) {
+            goesOn = countIn(record.references);
+        }
+        if constexpr (requires { record.units; }) {
+            goesOn = goesOn && countIn(record.units);
+        }
+        faults_.push_back({record.texts[0], std::move(cause), occurrence});
+    }
+}
 
 } // namespace Parameters::Internal

@@ -4,8 +4,6 @@
 #include "model/Writing.h"
 #include "schema/Constants.h"
 
-#include <parameters/ValidationException.h>
-
 #include <memory>
 #include <string>
 #include <utility>
@@ -85,10 +83,10 @@ MajorCategoryComponent buildMajor(const CategoryKind::Record& record, const Find
 
 SubCategoryComponent buildSub(const CategoryKind::Record& record, const Finder& finder) {
     const auto parent = finder.require<CategoryKind>(record.parent(), record.typeId());
-    if (Access::data(parent).major() == nullptr) {
+    if (!Access::isNone(parent) && Access::data(parent).major() == nullptr) {
         const auto& message = finder.binds() ? CategoryKind::messages("given-parent-not-major")
                                              : CategoryKind::messages("parent-not-major");
-        throw ValidationException(message.with({record.parent(), record.typeId()}));
+        finder.fail(message, {record.parent(), record.typeId()}, record.parent(), CategoryKind::word);
     }
     return subOf(record.parent());
 }
@@ -105,7 +103,7 @@ std::optional<CategoryKind::Record> CategoryKind::read(const Ostra::Schema& sche
     std::vector<std::string_view> references;
     if (major) {
         references = constants.optional<Ostra::TypedValues>("disciplines", {});
-        references.insert(references.begin(), constants.required<Ostra::TypedValue>("domain"));
+        references.push_back(constants.required<Ostra::TypedValue>("domain"));
     } else {
         references = {constants.required<Ostra::TypedValue>("parent")};
     }
@@ -118,10 +116,11 @@ CategoryKind::Record CategoryKind::recordOf(const Category& category) {
         return {data.texts, {parentOf(*data.sub())}, false};
     }
     const auto& [domain, disciplines] = Access::data(*data.major());
-    std::vector<std::string_view> references{typeIdOf(domain)};
+    std::vector<std::string_view> references;
     for (const Taxon& discipline : disciplines) {
         references.push_back(typeIdOf(discipline));
     }
+    references.push_back(typeIdOf(domain));
     return {data.texts, Texts(references), true};
 }
 

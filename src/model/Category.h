@@ -42,19 +42,19 @@ struct CategoryKind : DescribedKind<Kinds::Category> {
     using Names = KindList<DomainKind, DisciplineKind, CategoryKind>;
     struct Record {
         Texts texts;      // typeid, name
-        Texts references; // typeids: domain and disciplines, or the parent
+        Texts references; // typeids: disciplines and domain, as they are read, or the parent
         bool major;
 
         std::string_view typeId() const { return texts[0]; }
-        std::string_view domain() const { return references[0]; }
+        std::string_view domain() const { return references[references.size() - 1]; }
         std::size_t disciplines() const { return references.size() - 1; }
-        std::string_view discipline(std::size_t place) const { return references[place + 1]; }
+        std::string_view discipline(std::size_t place) const { return references[place]; }
         std::string_view parent() const { return references[0]; }
     };
 
     static constexpr auto messages = Ostra::Messages({
-        {"parent-not-major", "Parent <typeid> of subcategory schema <typeid> is not a major category."},
-        {"given-parent-not-major", "Parent <typeid> of subcategory <typeid> is not a major category."},
+        {"parent-not-major", "Parent <typeid> of subcategory schema <schema> is not a major category."},
+        {"given-parent-not-major", "Parent <typeid> of subcategory <schema> is not a major category."},
     });
 
     static constexpr Ostra::Identifier majorBase{Public::info.bases()[0]};

@@ -55,11 +55,15 @@ namespace {
 /// Returns the integer of a value in a schema.
 std::int64_t readInteger(std::string_view enumeration, std::string_view identifier, Ostra::JSONView definition) {
     if (identifier.empty()) {
-        definition.fail(EnumerationKind::messages("enumeration-id-empty"), {enumeration});
+        definition.member("id")->report(EnumerationKind::messages("enumeration-id-empty"), {enumeration});
     }
+    const auto& missing = EnumerationKind::messages("enumeration-integer-missing");
     const auto integer = definition.member("value");
-    if (!integer || !integer->isInteger()) {
-        definition.fail(EnumerationKind::messages("enumeration-integer-missing"), {identifier, enumeration});
+    if (!integer) {
+        return definition.failLacking({"value", "typedValue"}, missing, {identifier, enumeration});
+    }
+    if (!integer->isInteger()) {
+        return integer->fail(missing, {identifier, enumeration});
     }
     return integer->integer();
 }
@@ -93,8 +97,11 @@ std::optional<EnumerationKind::Record> EnumerationKind::read(const Ostra::Schema
         integers.push_back(readInteger(schema.typeId(), identifier, definition));
         texts.push_back(identifier);
     }
-    if (integers.empty()) {
-        schema.fail(messages("enumeration-empty"), {schema.typeId()});
+    const auto& properties = schema.properties().array();
+    if (!properties) {
+        static_cast<void>(schema.failUndefinedProperty({}, messages("enumeration-empty"), {schema.typeId()}));
+    } else if (properties->size() == 0) {
+        properties->report(messages("enumeration-empty"), {schema.typeId()});
     }
     return Record{Texts(texts), std::move(integers)};
 }
@@ -108,7 +115,7 @@ Enumeration EnumerationKind::build(const Record& record, const Finder& finder, c
 
 std::string EnumerationKind::write(const Enumeration& enumeration) {
     const EnumerationData& data = Access::data(enumeration);
-    Ostra::SchemaWriter writer(data.typeId(), base, *ValidationExceptionFactory::shared());
+    Ostra::SchemaWriter writer(data.typeId(), base, ValidationExceptionFactory::shared());
     for (std::size_t value = 0; value < data.integers.size(); ++value) {
         writer.property(data.identifier(value)).integer(data.integers[value]);
     }

@@ -30,9 +30,9 @@ struct EnumerationKind : DescribedKind<Kinds::Enumeration> {
     using Record = EnumerationData;
 
     static constexpr auto messages = Ostra::Messages({
-        {"enumeration-empty", "Enumeration schema <typeid> must specify at least one value."},
-        {"enumeration-id-empty", "ID of value in enumeration schema <typeid> must not be empty."},
-        {"enumeration-integer-missing", "Value <id> in enumeration schema <typeid> must specify an integer value."},
+        {"enumeration-empty", "Enumeration schema <schema> must specify at least one value."},
+        {"enumeration-id-empty", "ID of value in enumeration schema <schema> must not be empty."},
+        {"enumeration-integer-missing", "Value <id> in enumeration schema <schema> must specify an integer value."},
         {"given-enumeration-empty", "Enumeration must specify at least one value."},
         {"given-enumeration-id-empty", "ID of value in enumeration must not be empty."},
     });

@@ -43,38 +43,58 @@ std::optional<Ostra::JSONView> typedValueIn(Ostra::JSONView definition) {
 
 bool isEmptyObject(Ostra::JSONView value) { return value.isObject() && value.size() == 0; }
 
+std::string_view readSpecTypeId(const Ostra::Schema& schema, Ostra::JSONView typedValue) {
+    const auto& missing = EnumerationParameterKind::messages("spec-typeid-missing");
+    const auto spec = typedValue.member("typeid");
+    if (!spec) {
+        return typedValue.failLacking({"typeid"}, missing, {schema.typeId()});
+    }
+    if (!spec->isString() || spec->string().empty()) {
+        return spec->fail(missing, {schema.typeId()});
+    }
+    spec->noteReference();
+    return spec->string();
+}
+
 /// Returns the typeid of the general spec.
 std::string_view readSpec(const Ostra::Schema& schema) {
     const auto definition = schema.constants().find("spec");
     if (!definition) {
-        schema.fail(EnumerationParameterKind::messages("spec-undefined"), {schema.typeId()});
+        return schema.failUndefinedConstant("spec", EnumerationParameterKind::messages("spec-undefined"),
+                                            {schema.typeId()});
     }
     const auto typedValue = typedValueIn(*definition);
     if (!typedValue) {
-        schema.fail(EnumerationParameterKind::messages("spec-value-missing"));
+        return definition->failLacking({"typedValue", "value"},
+                                       EnumerationParameterKind::messages("spec-value-missing"));
     }
-    const auto spec = typedValue->member("typeid");
-    if (!spec || !spec->isString() || spec->string().empty()) {
-        schema.fail(EnumerationParameterKind::messages("spec-typeid-missing"), {schema.typeId()});
-    }
+    const std::string_view spec = readSpecTypeId(schema, *typedValue);
     const auto beside = definition->hasMember("typedValue") ? definition->member("value") : std::nullopt;
     const auto inside = typedValue->member("value");
-    if ((beside && !isEmptyObject(*beside)) || (inside && !isEmptyObject(*inside))) {
-        schema.fail(EnumerationParameterKind::messages("spec-value-misplaced"), {schema.typeId()});
+    for (const auto& value : {beside, inside}) {
+        if (value && !isEmptyObject(*value)) {
+            value->report(EnumerationParameterKind::messages("spec-value-misplaced"), {schema.typeId()});
+        }
     }
-    return spec->string();
+    return spec;
 }
 
 /// Returns the typeid of the enumeration.
 std::string_view readEnumeration(const Ostra::Schema& schema) {
     const auto definition = schema.properties().find("value");
     if (!definition) {
-        schema.fail(EnumerationParameterKind::messages("value-property-undefined"), {schema.typeId()});
+        return schema.failUndefinedProperty("value", EnumerationParameterKind::messages("value-property-undefined"),
+                                            {schema.typeId()});
     }
     const auto typedValue = typedValueIn(*definition);
-    const auto enumeration = (typedValue ? *typedValue : Ostra::Schema::valueOf(*definition)).member("typeid");
+    if (!typedValue) {
+        static_cast<void>(Ostra::Schema::valueOf(*definition)); // fails: it has neither
+        return {};
+    }
+    const auto enumeration = typedValue->member("typeid");
     if (!enumeration) {
-        schema.fail(EnumerationParameterKind::messages("value-property-typeid-missing"), {schema.typeId()});
+        return typedValue->failLacking({"typeid"}, EnumerationParameterKind::messages("value-property-typeid-missing"),
+                                       {schema.typeId()});
     }
     return Ostra::readTypeId(*enumeration);
 }

@@ -26,15 +26,15 @@ struct EnumerationParameterKind : DescribedKind<Kinds::EnumerationParameter> {
     using Names = KindList<GroupKind, GeneralSpecKind, EnumerationKind>;
 
     static constexpr auto messages = Ostra::Messages({
-        {"spec-undefined", "Enumeration parameter schema <typeid> has an undefined spec constant."},
+        {"spec-undefined", "Enumeration parameter schema <schema> has an undefined spec constant."},
         {"spec-value-missing", "A spec definition must contain either a value or a typedValue."},
         {"spec-typeid-missing",
-         "Spec constant in enumeration parameter schema <typeid> must specify a nonempty typeid string."},
+         "Spec constant in enumeration parameter schema <schema> must specify a nonempty typeid string."},
         {"spec-value-misplaced",
-         "Value of spec constant in enumeration parameter schema <typeid> must be an empty object."},
-        {"value-property-undefined", "Enumeration parameter schema <typeid> has an undefined value property."},
+         "Value of spec constant in enumeration parameter schema <schema> must be an empty object."},
+        {"value-property-undefined", "Enumeration parameter schema <schema> has an undefined value property."},
         {"value-property-typeid-missing",
-         "Value property in enumeration parameter schema <typeid> must specify a nonempty typeid string."},
+         "Value property in enumeration parameter schema <schema> must specify a nonempty typeid string."},
     });
 
     struct Record : ParameterRecord {

@@ -6,22 +6,36 @@
 
 namespace Parameters::Internal {
 
-Units::Unit Finder::requireUnit(std::string_view typeId, std::string_view inConstant,
-                                std::string_view schemaTypeId) const {
+std::optional<Units::Unit> Finder::requireUnit(std::string_view typeId, std::string_view inConstant,
+                                               std::string_view schemaTypeId) const {
+    constexpr std::string_view word = "unit";
     if (auto unit = findUnit(std::string(typeId))) {
-        return *unit;
+        return unit;
     }
     if (binds()) {
-        failMissing("unit", typeId, schemaTypeId);
+        failMissing(word, typeId, schemaTypeId);
+    } else {
+        fail(messages("unit-missing"), {typeId, inConstant, schemaTypeId}, typeId, word);
     }
-    throw ValidationException(messages("unit-missing").with({typeId, inConstant, schemaTypeId}));
+    return std::nullopt;
 }
 
 void Finder::failMissing(std::string_view word, std::string_view typeId, std::string_view schemaTypeId) const {
     if (binds()) {
-        throw ValidationException(messages("object-unknown").with({word, typeId}));
+        fail(messages("object-unknown"), {word, typeId}, typeId, word);
+    } else {
+        fail(messages("dependency-missing"), {typeId, schemaTypeId}, typeId, word);
     }
-    throw ValidationException(messages("dependency-missing").with({typeId, schemaTypeId}));
+}
+
+void Finder::fail(const Ostra::Message& message, std::initializer_list<std::string_view> inserted,
+                  std::string_view named, std::string_view expected) const {
+    if (binds()) {
+        throw ValidationException(message.with(inserted));
+    }
+    if (!named.empty()) {
+        unresolved_.push_back({&message, message.with(inserted), named, expected});
+    }
 }
 
 } // namespace Parameters::Internal

@@ -1,14 +1,19 @@
 #pragma once
 
+#include "model/Access.h"
 #include "schema/Immortal.h"
+#include "schema/Message.h"
 
 #include <parameters/Kinds.h>
 #include <units/Unit.h>
 
 #include <cstddef>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace Parameters::Internal {
 
@@ -26,11 +31,19 @@ typename K::Object standInOf(std::string_view typeId = K::base.full()) {
     return K::standIn(typeId);
 }
 
+/// Something that a record names and that is not there, or does not fit.
+struct Unresolved {
+    const Ostra::Message* message;
+    std::string sentence;
+    std::string_view named;    // as it stands in the record
+    std::string_view expected; // the word of what had to be there
+};
+
 /// Answers what object a typeid names. Kinds build their objects with it and know nothing of where it looks.
 ///
-/// There are two purposes, which differ in where a finder looks and in the message with which it fails: resolution
-/// builds what is pending from objects that are registered or built in the same pass; binding checks one object
-/// against what is registered.
+/// There are two purposes, which differ in where a finder looks and in how it fails: resolution builds what is pending
+/// from objects that are registered or built in the same pass, and keeps what is wrong with it; binding checks one
+/// object against what is registered, and throws.
 class Finder {
 public:
     enum class Purpose { resolution, binding };
@@ -48,14 +61,15 @@ public:
         return static_cast<const typename K::Object*>(lookUp(kindIndex<K>, typeId));
     }
 
-    /// Returns the object of that kind and typeid, which the schema names.
-    /// @throws ValidationException if there is none.
+    /// Returns the object of that kind and typeid, which the schema names. Fails when there is none; what resolution
+    /// then returns is a handle without data, and what is built with it must not leave the library.
     template <class K>
     typename K::Object require(std::string_view typeId, std::string_view schemaTypeId) const {
         if (const auto* object = find<K>(typeId)) {
             return *object;
         }
         failMissing(K::word, typeId, schemaTypeId);
+        return Access::none<typename K::Object>();
     }
 
     /// As require, but a typeid of the kind's base needs no object: for it stands the given one or else
@@ -68,6 +82,7 @@ public:
         }
         if (!K::base.isIn(typeId)) {
             failMissing(K::word, typeId, schemaTypeId);
+            return Access::none<typename K::Object>();
         }
         return given != nullptr ? *given : standInOf<K>(typeId);
     }
@@ -79,9 +94,19 @@ public:
         return requireOrStandIn<K>(usual ? K::base.full() : typeId, schemaTypeId);
     }
 
-    /// Returns the unit of that typeid, which a measurable spec's schema names in a constant.
-    /// @throws ValidationException if there is none.
-    Units::Unit requireUnit(std::string_view typeId, std::string_view inConstant, std::string_view schemaTypeId) const;
+    /// Returns the unit of that typeid, which a measurable spec's schema names in a constant. Fails when there is none;
+    /// resolution then returns nothing.
+    std::optional<Units::Unit> requireUnit(std::string_view typeId, std::string_view inConstant,
+                                           std::string_view schemaTypeId) const;
+
+    /// Fails because of what a record names. What its text does not say in a readable way is no fault of the finder's.
+    /// @throws ValidationException when binding.
+    void fail(const Ostra::Message& message, std::initializer_list<std::string_view> inserted, std::string_view named,
+              std::string_view expected) const;
+
+    /// Returns what failed since it was last asked, in the order in which it was looked for.
+    std::vector<Unresolved> takeUnresolved() const { return std::exchange(unresolved_, {}); }
+    bool hasUnresolved() const { return !unresolved_.empty(); }
 
 private:
     /// Returns the unit of that typeid, unless it is unknown or not resolved.
@@ -89,9 +114,10 @@ private:
     /// Returns the object of the kind of that number, or null.
     virtual const void* lookUp(std::size_t kind, std::string_view typeId) const = 0;
 
-    [[noreturn]] void failMissing(std::string_view word, std::string_view typeId, std::string_view schemaTypeId) const;
+    void failMissing(std::string_view word, std::string_view typeId, std::string_view schemaTypeId) const;
 
     Purpose purpose_;
+    mutable std::vector<Unresolved> unresolved_;
 };
 
 /// Two things that were found, each made in its place: handles can only be copied, and a copy costs a count.

@@ -35,7 +35,7 @@ namespace Internal {
 namespace {
 
 struct FoundUnits {
-    Units::Unit storage;
+    std::optional<Units::Unit> storage; // none where it is not there
     std::vector<Units::Unit> applicable;
 };
 
@@ -43,8 +43,9 @@ FoundUnits findUnits(const MeasurableSpecKind::Record& record, const Finder& fin
     FoundUnits found{finder.requireUnit(record.storageUnit(), "for storageUnit", record.typeId()), {}};
     found.applicable.reserve(record.applicableUnits());
     for (std::size_t place = 0; place < record.applicableUnits(); ++place) {
-        found.applicable.push_back(
-            finder.requireUnit(record.applicableUnit(place), "in applicableUnits", record.typeId()));
+        if (const auto unit = finder.requireUnit(record.applicableUnit(place), "in applicableUnits", record.typeId())) {
+            found.applicable.push_back(*unit);
+        }
     }
     return found;
 }
@@ -58,16 +59,17 @@ std::optional<MeasurableSpecKind::Record> MeasurableSpecKind::read(const Ostra::
     const Ostra::Constants constants(schema);
     const auto common = SpecConstants::read(constants);
     auto units = constants.optional<Ostra::TypedValues>("applicableUnits", {});
-    units.insert(units.begin(), constants.required<Ostra::TypedValue>("storageUnit"));
+    units.push_back(constants.required<Ostra::TypedValue>("storageUnit"));
     return Record(schema.typeId(), common, units);
 }
 
 MeasurableSpecKind::Record MeasurableSpecKind::recordOf(const MeasurableSpec& spec) {
     const auto& [core, applicableUnits, storageUnit] = Access::data(spec);
-    std::vector<std::string> typeIds{storageUnit.getTypeId()};
+    std::vector<std::string> typeIds;
     for (const Units::Unit& unit : applicableUnits) {
         typeIds.push_back(unit.getTypeId());
     }
+    typeIds.push_back(storageUnit.getTypeId());
     return Record(core, std::vector<std::string_view>(typeIds.begin(), typeIds.end()));
 }
 
@@ -75,7 +77,8 @@ MeasurableSpec MeasurableSpecKind::build(const Record& record, const Finder& fin
     auto [units, core] = findBoth(
         finder, [&] { return findUnits(record, finder); },
         [&] { return buildSpecCore(record, finder, given != nullptr ? &Access::data(*given).core : nullptr); });
-    return specOf({std::move(core), std::move(units.applicable), units.storage});
+    return units.storage ? specOf({std::move(core), std::move(units.applicable), *units.storage})
+                         : Access::none<MeasurableSpec>();
 }
 
 std::string MeasurableSpecKind::write(const MeasurableSpec& spec) {

@@ -25,15 +25,15 @@ struct MeasurableSpecData {
 struct MeasurableSpecKind : DescribedKind<Kinds::MeasurableSpec> {
     using Names = KindList<DisciplineKind>;
     struct Record : SpecRecord {
-        Texts units; // typeids: storage unit, applicable units
+        Texts units; // typeids: applicable units and storage unit, as they are read
 
         Record(std::string_view typeId, const SpecConstants& constants, std::span<const std::string_view> named)
             : SpecRecord(typeId, constants), units(named) {}
         Record(const SpecCoreData& core, std::span<const std::string_view> named) : SpecRecord(core), units(named) {}
 
-        std::string_view storageUnit() const { return units[0]; }
+        std::string_view storageUnit() const { return units[units.size() - 1]; }
         std::size_t applicableUnits() const { return units.size() - 1; }
-        std::string_view applicableUnit(std::size_t place) const { return units[place + 1]; }
+        std::string_view applicableUnit(std::size_t place) const { return units[place]; }
     };
 
     static std::optional<Record> read(const Ostra::Schema& schema);

@@ -3,6 +3,7 @@
 #include "model/Access.h"
 #include "model/Finder.h"
 #include "model/Kind.h"
+#include "model/Messages.h"
 #include "model/RangeConstant.h"
 #include "model/Texts.h"
 #include "model/Writing.h"
@@ -57,6 +58,9 @@ public:
         const bool fromTop = constants.required<Ostra::Boolean>("fromTop");
         const Number bottom = constants.optional<typename Traits::Reader>("bottomBoundary", 0);
         const Number top = constants.optional<typename Traits::Reader>("topBoundary", 0);
+        if (schema.view().isInspected()) [[unlikely]] {
+            inspect([&constants](std::string_view id) { return constants.find(id); });
+        }
         return Record{{schema.typeId()}, fromBottom, bottom, fromTop, top};
     }
 
@@ -78,6 +82,9 @@ public:
         const Number bottom = readInlineBoundary(value, "bottomBoundary");
         const bool fromTop = readInlineFlag(value, "fromTop");
         const Number top = readInlineBoundary(value, "topBoundary");
+        if (value.isInspected()) [[unlikely]] {
+            inspect([&value](std::string_view name) { return value.member(name); });
+        }
         return Object(fromBottom, bottom, fromTop, top);
     }
 
@@ -144,8 +151,11 @@ private:
 
     static bool readInlineFlag(Ostra::JSONView value, std::string_view name) {
         const auto flag = value.member(name);
-        if (!flag || !flag->isBoolean()) {
-            value.fail(messages("inline-range-flag-missing"), {name});
+        if (!flag) {
+            return value.failLacking({name}, messages("inline-range-flag-missing"), {name});
+        }
+        if (!flag->isBoolean()) {
+            return flag->fail(messages("inline-range-flag-missing"), {name});
         }
         return flag->boolean();
     }
@@ -153,6 +163,33 @@ private:
     static Number readInlineBoundary(Ostra::JSONView value, std::string_view name) {
         const auto boundary = value.member(name);
         return boundary ? Number{Traits::Reader::read(*boundary)} : Number{};
+    }
+
+    /// Warns of what the sides of a range say in vain; find returns the value of a flag or boundary.
+    template <class Find>
+    static void inspect(Find find) {
+        const auto bottom = inspectSide(find, "fromBottom", "bottomBoundary");
+        const auto top = inspectSide(find, "fromTop", "topBoundary");
+        if (bottom && top && Traits::Reader::read(*bottom) > Traits::Reader::read(*top)) {
+            top->reportBeside(*bottom, Internal::messages("range-empty"));
+        }
+    }
+
+    /// Returns the boundary of a side, if it has one that counts. One of 0 is as good as none where none counts.
+    template <class Find>
+    static std::optional<Ostra::JSONView> inspectSide(Find find, std::string_view flagId, std::string_view boundaryId) {
+        const auto flag = find(flagId);
+        const auto boundary = find(boundaryId);
+        if (!flag || !flag->isBoolean()) {
+            return std::nullopt;
+        }
+        if (flag->boolean() && !boundary) {
+            flag->report(Internal::messages("boundary-missing"), {flagId, boundaryId});
+        }
+        if (!flag->boolean() && boundary && Traits::Reader::read(*boundary) != 0) {
+            boundary->report(Internal::messages("boundary-ignored"), {boundaryId, flagId});
+        }
+        return flag->boolean() ? boundary : std::nullopt;
     }
 };
 

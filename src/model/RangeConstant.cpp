@@ -8,26 +8,26 @@ namespace Parameters::Internal {
 std::string_view readRangeTypeId(const Ostra::Schema& schema, Ostra::JSONView typedValue) {
     const auto typeId = typedValue.member("typeid");
     if (!typeId) {
-        schema.fail(messages("range-typeid-missing"), {schema.typeId()});
+        return typedValue.failLacking({"typeid"}, messages("range-typeid-missing"), {schema.typeId()});
     }
     return Ostra::readTypeId(*typeId);
 }
 
-Ostra::JSONView readInlineValue(std::string_view typeId, Ostra::JSONView typedValue) {
+std::optional<Ostra::JSONView> readInlineValue(std::string_view typeId, Ostra::JSONView typedValue) {
     const auto value = typedValue.member("value");
     if (!value) {
-        typedValue.fail(messages("inline-range-missing"), {typeId});
+        return typedValue.failLacking({"value"}, messages("inline-range-missing"), {typeId}).none();
     }
     if (!value->isObject()) {
-        typedValue.fail(messages("inline-range-object-expected"));
+        return value->fail(messages("inline-range-object-expected")).none();
     }
-    return *value;
+    return value;
 }
 
 void refuseInlineValue(std::string_view typeId, Ostra::JSONView typedValue) {
     const auto value = typedValue.member("value");
     if (value && (!value->isObject() || value->size() != 0)) {
-        typedValue.fail(messages("inline-range-misplaced"), {typeId});
+        value->report(messages("inline-range-misplaced"), {typeId});
     }
 }
 

@@ -27,20 +27,26 @@ struct InlineRangeBase {
 
 /// Returns the typeid that the typedValue of a range constant names.
 std::string_view readRangeTypeId(const Ostra::Schema& schema, Ostra::JSONView typedValue);
-/// Returns the inline value that must stand beside the typeid of a base.
-Ostra::JSONView readInlineValue(std::string_view typeId, Ostra::JSONView typedValue);
+/// Returns the inline value that must stand beside the typeid of a base, or nothing where faults are kept.
+std::optional<Ostra::JSONView> readInlineValue(std::string_view typeId, Ostra::JSONView typedValue);
 /// Checks that no inline value stands beside the typeid of a registered range.
 void refuseInlineValue(std::string_view typeId, Ostra::JSONView typedValue);
 
-/// Reads the typedValue of a range constant. Where its typeid fits several bases, the last one's range counts.
+/// Reads the typedValue of a range constant. Where its typeid fits several bases, the last one's range counts. Where
+/// faults are kept and it cannot be read, the range has no data.
 template <class Range>
 RangeReference<Range> readRangeConstant(const Ostra::Schema& schema, Ostra::JSONView typedValue,
                                         std::initializer_list<InlineRangeBase<Range>> bases) {
     const std::string_view typeId = readRangeTypeId(schema, typedValue);
+    if (typeId.empty()) {
+        typedValue.notePassedOver(); // what should stand beside it is not known
+        return {std::nullopt, Access::none<Range>()};
+    }
     std::optional<Range> own;
     for (const auto& base : bases) {
         if (base.identifier.isIn(typeId)) {
-            own = base.readInline(readInlineValue(typeId, typedValue));
+            const auto value = readInlineValue(typeId, typedValue);
+            own = value ? base.readInline(*value) : Access::none<Range>();
         }
     }
     if (own) {

@@ -50,15 +50,20 @@ bool isFamilyType(std::string_view spec) { return ReferenceSpecKind::familyTypeB
 std::string_view readCategory(std::string_view spec, Ostra::JSONView typedValue) {
     const auto inlined = typedValue.member("typedValue");
     if (!inlined) {
-        typedValue.fail(ReferenceParameterKind::messages("family-type-inline-missing"), {spec});
+        return typedValue.failLacking({"typedValue"}, ReferenceParameterKind::messages("family-type-inline-missing"),
+                                      {spec});
     }
     if (!inlined->isObject()) {
-        typedValue.fail(ReferenceParameterKind::messages("family-type-object-expected"));
+        return inlined->fail(ReferenceParameterKind::messages("family-type-object-expected"));
     }
+    const auto& missing = ReferenceParameterKind::messages("family-type-category-missing");
     const auto category = inlined->member("category");
-    const auto typeId = category ? category->member("typeid") : std::nullopt;
+    if (!category) {
+        return inlined->failLacking({"category"}, missing);
+    }
+    const auto typeId = category->member("typeid");
     if (!typeId) {
-        typedValue.fail(ReferenceParameterKind::messages("family-type-category-missing"));
+        return category->failLacking({"typeid"}, missing);
     }
     return Ostra::readTypeId(*typeId);
 }
@@ -75,14 +80,22 @@ SpecReference readSpec(const Ostra::Schema& schema, const Ostra::Constants& cons
     }
     const auto typeId = typedValue->member("typeid");
     if (!typeId) {
-        schema.fail(ReferenceParameterKind::messages("reference-spec-typeid-missing"), {schema.typeId()});
+        const auto& missing = ReferenceParameterKind::messages("reference-spec-typeid-missing");
+        typedValue->notePassedOver();
+        return {typedValue->failLacking({"typeid"}, missing, {schema.typeId()}), std::nullopt};
     }
     const std::string_view spec = Ostra::readTypeId(*typeId);
+    if (spec.empty()) {
+        typedValue->notePassedOver(); // what should stand beside it is not known
+        return {spec, std::nullopt};
+    }
     if (isFamilyType(spec)) {
         return {spec, readCategory(spec, *typedValue)};
     }
-    if (typedValue->hasMember("value") || typedValue->hasMember("typedValue")) {
-        schema.fail(ReferenceParameterKind::messages("inline-spec-misplaced"), {spec});
+    for (const std::string_view name : {"value", "typedValue"}) {
+        if (const auto inlined = typedValue->member(name)) {
+            inlined->report(ReferenceParameterKind::messages("inline-spec-misplaced"), {spec});
+        }
     }
     return {spec, std::nullopt};
 }

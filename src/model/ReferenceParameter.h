@@ -27,7 +27,7 @@ struct ReferenceParameterKind : DescribedKind<Kinds::ReferenceParameter> {
 
     static constexpr auto messages = Ostra::Messages({
         {"reference-spec-typeid-missing",
-         "Parameter schema <typeid> must specify a typeid string attribute in its spec constant typedValue."},
+         "Parameter schema <schema> must specify a typeid string attribute in its spec constant typedValue."},
         {"inline-spec-misplaced", "Inline value override for spec <typeid> is not permitted."},
         {"family-type-inline-missing", "Inline typedValue override is required when specifying the family type base "
                                        "schema <typeid> in spec constant typedValue."},

@@ -107,11 +107,22 @@ void writeAllowedValues(Ostra::SchemaWriter& writer, const SetStringRangeCompone
     writer.endArray();
 }
 
+/// Warns of a set that allows nothing at all.
+void inspectSet(std::optional<Ostra::JSONView> allowedValues) {
+    if (allowedValues && allowedValues->isArray() && allowedValues->size() == 0) {
+        allowedValues->report(messages("range-empty"));
+    }
+}
+
 StringRange readInlineSet(Ostra::JSONView value) {
     const auto allowedValues = value.member("allowedValues");
-    // An empty set, as no set, would allow nothing at all.
-    if (!allowedValues || (allowedValues->isArray() && allowedValues->size() == 0)) {
-        value.fail(StringRangeKind::messages("inline-range-values-missing"));
+    const auto& missing = StringRangeKind::messages("inline-range-values-missing");
+    if (!allowedValues) {
+        static_cast<void>(value.failLacking({"allowedValues"}, missing));
+        return Access::none<StringRange>();
+    }
+    if (allowedValues->isArray() && allowedValues->size() == 0) {
+        allowedValues->report(missing); // an empty set, as no set, would allow nothing at all
     }
     return StringRange(setOf(Ostra::UniqueStrings::read(*allowedValues)));
 }
@@ -119,14 +130,15 @@ StringRange readInlineSet(Ostra::JSONView value) {
 StringRange readInlineRegex(Ostra::JSONView value) {
     const auto regex = value.member("regex");
     if (!regex) {
-        value.fail(StringRangeKind::messages("inline-range-regex-missing"));
+        static_cast<void>(value.failLacking({"regex"}, StringRangeKind::messages("inline-range-regex-missing")));
+        return Access::none<StringRange>();
     }
     return StringRange(regexOf(Ostra::String::read(*regex)));
 }
 
 StringRange readInlineDefault(Ostra::JSONView value) {
     if (value.size() != 0) {
-        value.fail(StringRangeKind::messages("inline-range-not-empty"));
+        value.report(StringRangeKind::messages("inline-range-not-empty"));
     }
     return StringRange();
 }
@@ -136,6 +148,9 @@ StringRange readInlineDefault(Ostra::JSONView value) {
 std::optional<StringRangeKind::Record> StringRangeKind::read(const Ostra::Schema& schema) {
     const Ostra::Constants constants(schema);
     if (schema.inherits(setBase)) {
+        if (schema.view().isInspected()) [[unlikely]] {
+            inspectSet(constants.find("allowedValues"));
+        }
         return Record{{schema.typeId()}, setOf(constants.required<Ostra::UniqueStrings>("allowedValues"))};
     }
     if (schema.inherits(regexBase)) {

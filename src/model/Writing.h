@@ -10,7 +10,7 @@ namespace Parameters::Internal {
 
 /// Returns a writer for the schema of that typeid, whose faults are this library's.
 inline Ostra::SchemaWriter schemaWriter(std::string_view typeId, const Ostra::Identifier& base) {
-    return {typeId, base.full(), *ValidationExceptionFactory::shared()};
+    return {typeId, base.full(), ValidationExceptionFactory::shared()};
 }
 
 } // namespace Parameters::Internal

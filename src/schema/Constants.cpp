@@ -2,85 +2,121 @@
 
 #include "schema/Messages.h"
 
-#include <set>
+#include <algorithm>
+#include <map>
+#include <utility>
 
 namespace Ostra {
 
+namespace {
+
+/// Warns of typeids that stand twice in a list.
+void tellRepeated(std::vector<JSONView> typeIds) {
+    const auto key = [](JSONView typeId) { return std::pair(typeId.string().size(), typeId.string()); };
+    const auto isBefore = [key](JSONView one, JSONView other) { return key(one) < key(other); };
+    std::stable_sort(typeIds.begin(), typeIds.end(), isBefore);
+    for (std::size_t place = 1; place < typeIds.size(); ++place) {
+        if (!isBefore(typeIds[place - 1], typeIds[place])) {
+            typeIds[place].reportBeside(typeIds[place - 1], messages("typeid-repeated"), {typeIds[place].string()});
+        }
+    }
+}
+
+/// Returns the member "typeid" of a typedValue, or nothing where faults are kept and it has one.
+std::optional<JSONView> readOnlyTypeId(JSONView typedValue) {
+    if (!typedValue.isObject()) {
+        return typedValue.fail(messages("typed-value-object-expected")).none();
+    }
+    if (typedValue.size() != 1) {
+        return typedValue.fail(messages("typed-value-typeid-only")).none();
+    }
+    const auto typeId = typedValue.member("typeid");
+    if (!typeId) {
+        return typedValue.failLacking({"typeid"}, messages("typed-value-typeid-missing")).none();
+    }
+    if (!typeId->isString() || typeId->string().empty()) {
+        return typeId->fail(messages("typed-value-typeid-empty")).none();
+    }
+    typeId->noteReference();
+    return typeId;
+}
+
+} // namespace
+
 std::string_view String::read(JSONView value) {
     if (!value.isString()) {
-        value.fail(messages("string-expected"));
+        return value.fail(messages("string-expected"));
     }
     return value.string();
 }
 
 std::string_view NonEmptyString::read(JSONView value) {
     if (!value.isString() || value.string().empty()) {
-        value.fail(messages("non-empty-string-expected"));
+        return value.fail(messages("non-empty-string-expected"));
     }
     return value.string();
 }
 
 bool Boolean::read(JSONView value) {
     if (!value.isBoolean()) {
-        value.fail(messages("boolean-expected"));
+        return value.fail(messages("boolean-expected"));
     }
     return value.boolean();
 }
 
 std::int64_t Integer::read(JSONView value) {
     if (!value.isInteger()) {
-        value.fail(messages("integer-expected"));
+        return value.fail(messages("integer-expected"));
     }
     return value.integer();
 }
 
 double Number::read(JSONView value) {
     if (!value.isNumber()) {
-        value.fail(messages("number-expected"));
+        return value.fail(messages("number-expected"));
     }
     return value.number();
 }
 
 std::string_view TypedValue::read(JSONView value) {
-    if (!value.isObject()) {
-        value.fail(messages("typed-value-object-expected"));
-    }
-    if (value.size() != 1) {
-        value.fail(messages("typed-value-typeid-only"));
-    }
-    const auto typeId = value.member("typeid");
-    if (!typeId) {
-        value.fail(messages("typed-value-typeid-missing"));
-    }
-    if (!typeId->isString() || typeId->string().empty()) {
-        value.fail(messages("typed-value-typeid-empty"));
-    }
-    return typeId->string();
+    const auto typeId = readOnlyTypeId(value);
+    return typeId ? typeId->string() : std::string_view();
 }
 
 std::vector<std::string_view> TypedValues::read(JSONView value) {
     if (!value.isArray()) {
-        value.fail(messages("array-of-typed-values-expected"));
+        return value.fail(messages("array-of-typed-values-expected"));
     }
     std::vector<std::string_view> typeIds;
     typeIds.reserve(value.size());
-    value.forEachElement([&](JSONView element) { typeIds.push_back(TypedValue::read(element)); });
+    std::vector<JSONView> inspected;
+    value.forEachElement([&](JSONView element) {
+        if (const auto typeId = readOnlyTypeId(element)) {
+            typeIds.push_back(typeId->string());
+            if (value.isInspected()) [[unlikely]] {
+                inspected.push_back(*typeId);
+            }
+        }
+    });
+    tellRepeated(std::move(inspected));
     return typeIds;
 }
 
 std::vector<std::string_view> UniqueStrings::read(JSONView value) {
     if (!value.isArray()) {
-        value.fail(messages("array-expected"));
+        return value.fail(messages("array-expected"));
     }
     std::vector<std::string_view> strings;
     strings.reserve(value.size());
-    std::set<std::string_view> seen;
+    std::map<std::string_view, JSONView> seen;
     value.forEachElement([&](JSONView element) {
         if (!element.isString()) {
-            value.fail(messages("array-of-strings-expected"));
+            element.report(messages("array-of-strings-expected"));
+            return;
         }
-        if (!seen.insert(element.string()).second) {
-            value.fail(messages("array-of-unique-strings-expected"));
+        const auto [first, isNew] = seen.try_emplace(element.string(), element);
+        if (!isNew) {
+            element.reportBeside(first->second, messages("array-of-unique-strings-expected"));
         }
         strings.push_back(element.string());
     });
@@ -88,16 +124,26 @@ std::vector<std::string_view> UniqueStrings::read(JSONView value) {
 }
 
 std::string_view readTypeId(JSONView typeId) {
-    return String::read(typeId).empty() ? NonEmptyString::read(typeId) : typeId.string();
+    if (!typeId.isString()) {
+        return typeId.fail(messages("string-expected"));
+    }
+    if (typeId.string().empty()) {
+        return typeId.fail(messages("non-empty-string-expected"));
+    }
+    typeId.noteReference();
+    return typeId.string();
 }
 
 std::optional<JSONView> Constants::find(std::string_view id) const {
     const auto definition = schema_.constants().find(id);
-    return definition ? std::optional(Schema::valueOf(*definition)) : std::nullopt;
+    return definition ? Schema::valueOf(*definition) : std::nullopt;
 }
 
-void Constants::failUndefined(std::string_view id) const {
-    schema_.fail(messages("constant-undefined"), {schema_.typeId(), id});
+Nothing Constants::failUndefined(std::string_view id) const {
+    if (schema_.constants().find(id)) {
+        return {}; // it is defined, and what its definition lacks has been told
+    }
+    return schema_.failUndefinedConstant(id, messages("constant-undefined"), {schema_.typeId(), id});
 }
 
 } // namespace Ostra

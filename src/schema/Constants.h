@@ -38,7 +38,7 @@ struct Number {
     static Value read(JSONView value);
 };
 
-/// The object {"typeid": T}, with that one member only; its value is T.
+/// The object {"typeid": T}, with that one member only; its value is T, the typeid of an object that the schema names.
 struct TypedValue {
     using Value = std::string_view;
     static Value read(JSONView value);
@@ -56,8 +56,8 @@ struct UniqueStrings {
     static Value read(JSONView value);
 };
 
-/// Returns the typeid that is the "typeid" of a typedValue of a looser form; a wrong type and an empty string have
-/// messages of their own here.
+/// Returns the typeid that is the "typeid" of a typedValue of a looser form, and names an object; a wrong type and an
+/// empty string have messages of their own here.
 std::string_view readTypeId(JSONView typeId);
 
 /// The constants of a schema, read one by one. The order of the calls is the order in which faults are reported.
@@ -69,10 +69,7 @@ public:
     template <class Reader>
     typename Reader::Value required(std::string_view id) const {
         const auto value = find(id);
-        if (!value) {
-            failUndefined(id);
-        }
-        return Reader::read(*value);
+        return value ? Reader::read(*value) : typename Reader::Value(failUndefined(id));
     }
 
     /// Returns the value of a constant, or the default when it is not defined.
@@ -86,7 +83,7 @@ public:
     std::optional<JSONView> find(std::string_view id) const;
 
 private:
-    [[noreturn]] void failUndefined(std::string_view id) const;
+    Nothing failUndefined(std::string_view id) const;
 
     const Schema& schema_;
 };

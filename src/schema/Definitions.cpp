@@ -5,7 +5,7 @@
 namespace Ostra {
 
 bool Definitions::add(std::string_view id, JSONView definition) {
-    if (find(id)) {
+    if (search(id) != nullptr) {
         return false;
     }
     definitions_.push_back({id, definition});
@@ -18,22 +18,27 @@ bool Definitions::add(std::string_view id, JSONView definition) {
     return true;
 }
 
-std::optional<JSONView> Definitions::find(std::string_view id) const {
+const Definitions::Definition* Definitions::search(std::string_view id) const {
     if ((sizes_ & sizeBit(id)) == 0) {
-        return std::nullopt;
+        return nullptr;
     }
     if (definitions_.size() > few) {
         const auto found = index_.find(id);
-        return found != index_.end() ? std::optional(definitions_[found->second].definition) : std::nullopt;
+        return found != index_.end() ? &definitions_[found->second] : nullptr;
     }
     const auto found = std::find_if(definitions_.begin(), definitions_.end(),
                                     [id](const Definition& definition) { return definition.id == id; });
-    return found != definitions_.end() ? std::optional(found->definition) : std::nullopt;
+    return found != definitions_.end() ? &*found : nullptr;
 }
 
 std::vector<Definitions::Definition> Definitions::sorted() const {
     std::vector<Definition> sorted(definitions_.begin(), definitions_.end());
     std::sort(sorted.begin(), sorted.end(), [](const Definition& a, const Definition& b) { return a.id < b.id; });
+    if (array_ && array_->isInspected()) {
+        for (const Definition& definition : definitions_) {
+            definition.definition.member("id")->noteRead();
+        }
+    }
     return sorted;
 }
 

@@ -22,25 +22,42 @@ public:
 
     explicit Definitions(std::pmr::memory_resource* memory) : definitions_(memory), index_(memory) {}
 
-    /// Makes room for so many definitions in all.
-    void reserve(std::size_t count) { definitions_.reserve(count); }
+    /// Makes room for the definitions of an array.
+    void begin(JSONView array) {
+        array_ = array;
+        definitions_.reserve(array.size());
+    }
     /// Adds a definition; returns false if there is one of that id.
     bool add(std::string_view id, JSONView definition);
     /// Returns the definition of that id, or nothing.
-    std::optional<JSONView> find(std::string_view id) const;
+    std::optional<JSONView> find(std::string_view id) const {
+        const Definition* const found = search(id);
+        if (array_ && array_->isInspected()) [[unlikely]] {
+            array_->noteLookForDefinition(id, found != nullptr ? found->definition.member("id") : std::nullopt);
+        }
+        return found != nullptr ? std::optional(found->definition) : std::nullopt;
+    }
+    /// Says that there is something in place of the array, which has been told.
+    void setFaulty() { isFaulty_ = true; }
+    bool isFaulty() const { return isFaulty_; }
+    /// Returns the array in which they stand, if there is one.
+    const std::optional<JSONView>& array() const { return array_; }
 
     std::size_t size() const { return definitions_.size(); }
     bool empty() const { return definitions_.empty(); }
     auto begin() const { return definitions_.begin(); }
     auto end() const { return definitions_.end(); }
-    /// Returns the definitions in ascending byte order of their ids.
+    /// Returns the definitions in ascending byte order of their ids; all of them are to be read.
     std::vector<Definition> sorted() const;
 
 private:
     static constexpr std::size_t few = 16; // up to so many, looking at one after the other is faster than any index
 
+    const Definition* search(std::string_view id) const;
     static std::uint64_t sizeBit(std::string_view id) { return std::uint64_t{1} << (id.size() % 64); }
 
+    std::optional<JSONView> array_;
+    bool isFaulty_ = false;
     std::pmr::vector<Definition> definitions_;
     std::uint64_t sizes_ = 0; // a bit for each size of an id: most ids that are not there are of none of them
     std::pmr::map<std::string_view, std::size_t> index_; // of all definitions, once they are more than a few

@@ -1,5 +1,6 @@
 #include "schema/JSON.h"
 
+#include "schema/Inspection.h"
 #include "schema/JSONParser.h"
 #include "schema/JSONWriter.h"
 #include "schema/Messages.h"
@@ -90,27 +91,78 @@ std::map<std::string, std::string> JSONView::toStringMap() const {
     std::map<std::string, std::string> strings;
     for (const auto& member : value_->GetObject()) {
         if (!member.name.IsString()) {
-            fail(messages("map-key-string-expected"));
+            return fail(messages("map-key-string-expected"));
         }
         if (!member.value.IsString()) {
-            fail(messages("map-value-string-expected"));
+            return fail(messages("map-value-string-expected"));
         }
-        strings.emplace(JSONView(member.name, factory_).string(), JSONView(member.value, factory_).string());
+        strings.emplace(JSONView(member.name, *handler_).string(), JSONView(member.value, *handler_).string());
     }
     return strings;
 }
 
 std::string JSONView::toText() const { return ValueWriter().write(*value_); }
 
-void JSONView::fail(const Message& message, std::initializer_list<std::string_view> inserted) const {
-    factory_->raise(message, inserted);
+Nothing JSONView::failLacking(std::initializer_list<std::string_view> names, const Message& message,
+                              std::initializer_list<std::string_view> inserted) const {
+    handler_->handle({message, inserted, *value_, names});
+    return {};
 }
 
-// NOLINTNEXTLINE(bugprone-throw-keyword-missing): what is made of the factory is no exception
-JSON::JSON(std::string_view text, std::shared_ptr<const ExceptionFactory> factory) : factory_(std::move(factory)) {
-    if (const auto result = parseText(text, memory_.pool(), value_); result.IsError()) {
-        factory_->raise(messages("json-syntax"),
-                        {std::to_string(result.Offset()), rapidjson::GetParseError_En(result.Code())});
+void JSONView::report(const Message& message, std::initializer_list<std::string_view> inserted) const {
+    handler_->handle({message, inserted, *value_});
+}
+
+void JSONView::reportBeside(JSONView other, const Message& message,
+                            std::initializer_list<std::string_view> inserted) const {
+    handler_->handle({message, inserted, *value_, {}, other.value_});
+}
+
+void JSONView::noteRead() const {
+    if (isInspected()) {
+        handler_->inspection()->read(*value_);
+    }
+}
+
+void JSONView::noteLookForDefinition(std::string_view id, const std::optional<JSONView>& found) const {
+    handler_->inspection()->lookedForDefinition(*value_, id);
+    if (found) {
+        found->noteRead();
+    }
+}
+
+void JSONView::noteIfUnread(JSONView definition, JSONView id, const Message& message) const {
+    if (!handler_->inspection()->isRead(*id.value_)) {
+        handler_->inspection()->unread(*value_, *definition.value_, *id.value_, message);
+    }
+}
+
+void JSONView::noteReadWhole() const { handler_->inspection()->readAll(); }
+
+void JSONView::notePassedOver() const {
+    if (isInspected()) {
+        handler_->inspection()->passOver(*value_);
+    }
+}
+
+void JSONView::noteLook(std::string_view name, const JSONMember* found) const {
+    handler_->inspection()->looked(*value_, name, found);
+}
+
+void JSONView::noteName() const { handler_->inspection()->named(*value_); }
+
+JSON::JSON(std::string_view text, FaultHandler& handler) : handler_(handler) {
+    const ParsedText parsed = parseText(text, memory_.pool(), value_);
+    if (Inspection* const inspection = handler.inspection()) {
+        inspection->begin(text, parsed.copy, value_);
+    }
+    if (parsed.result.IsError()) {
+        isParsed_ = false;
+        handler.handle({.message = messages("json-syntax"),
+                        .inserted = {std::to_string(parsed.result.Offset()),
+                                     rapidjson::GetParseError_En(parsed.result.Code())},
+                        .value = value_,
+                        .offset = parsed.result.Offset()});
     }
 }
 

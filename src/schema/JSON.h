@@ -1,6 +1,6 @@
 #pragma once
 
-#include "schema/ExceptionFactory.h"
+#include "schema/FaultHandler.h"
 #include "schema/Memory.h"
 #include "schema/Message.h"
 
@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <initializer_list>
 #include <map>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,7 +17,7 @@ namespace Ostra {
 /// A read-only look at one value of a document; valid as long as the JSON it came from.
 class JSONView {
 public:
-    JSONView(const JSONValue& value, const ExceptionFactory* factory) : value_(&value), factory_(factory) {}
+    JSONView(const JSONValue& value, FaultHandler& handler) : value_(&value), handler_(&handler) {}
 
     bool isObject() const { return value_->IsObject(); }
     bool isArray() const { return value_->IsArray(); }
@@ -33,14 +32,11 @@ public:
 
     /// Returns the first member of that name, or nothing when there is none or the value is no object.
     std::optional<JSONView> member(std::string_view name) const {
-        if (isObject()) {
-            for (const auto& member : value_->GetObject()) {
-                if (JSONView(member.name, factory_).string() == name) {
-                    return JSONView(member.value, factory_);
-                }
-            }
+        const JSONMember* const found = isObject() ? findMember(name) : nullptr;
+        if (isInspected()) [[unlikely]] {
+            noteLook(name, found);
         }
-        return std::nullopt;
+        return found != nullptr ? std::optional(JSONView(found->value, *handler_)) : std::nullopt;
     }
     bool hasMember(std::string_view name) const { return member(name).has_value(); }
 
@@ -48,14 +44,14 @@ public:
     template <class Visitor>
     void forEachMember(Visitor&& visit) const {
         for (const auto& member : value_->GetObject()) {
-            visit(JSONView(member.name, factory_).string(), JSONView(member.value, factory_));
+            visit(JSONView(member.name, *handler_).string(), JSONView(member.value, *handler_));
         }
     }
     /// Calls visit(element) for each element of an array in order.
     template <class Visitor>
     void forEachElement(Visitor&& visit) const {
         for (const JSONValue& element : value_->GetArray()) {
-            visit(JSONView(element, factory_));
+            visit(JSONView(element, *handler_));
         }
     }
 
@@ -73,22 +69,69 @@ public:
     /// @throws std::domain_error if a number is not finite.
     std::string toText() const;
 
-    /// Throws the exception of the library that had the document read.
-    [[noreturn]] void fail(const Message& message, std::initializer_list<std::string_view> inserted = {}) const;
+    /// Whether faults are kept while the document is read, so that what is only needed for them is worth finding out.
+    bool isInspected() const { return handler_->inspection() != nullptr; }
+
+    /// Tells that the value is faulty. Throws the exception of the library that had the document read; where faults are
+    /// kept, what is returned makes up for the value.
+    [[nodiscard]] Nothing fail(const Message& message, std::initializer_list<std::string_view> inserted = {}) const {
+        report(message, inserted);
+        return {};
+    }
+    /// As fail, of a value that lacks a member, or one of several, or, if it is an array, a definition of that id.
+    [[nodiscard]] Nothing failLacking(std::initializer_list<std::string_view> names, const Message& message,
+                                      std::initializer_list<std::string_view> inserted = {}) const;
+    /// As fail, for readers that can go on. Warnings go no further where the first error is thrown.
+    void report(const Message& message, std::initializer_list<std::string_view> inserted = {}) const;
+    /// As report, of a value that another one stands in the way of.
+    void reportBeside(JSONView other, const Message& message,
+                      std::initializer_list<std::string_view> inserted = {}) const;
+
+    /// Notes that the value, a string, names an object by its typeid.
+    void noteReference() const {
+        if (isInspected()) [[unlikely]] {
+            noteName();
+        }
+    }
+    /// Notes that the definition whose id this is was read.
+    void noteRead() const;
+    /// Notes that a definition was looked for in this array.
+    void noteLookForDefinition(std::string_view id, const std::optional<JSONView>& found) const;
+    /// Notes that a definition in this array, of that id, was not read unless that was noted.
+    void noteIfUnread(JSONView definition, JSONView id, const Message& message) const;
+    /// Notes that all has been read that will be.
+    void noteReadWhole() const;
+    /// Notes that what is in this value is not going to be read.
+    void notePassedOver() const;
 
 private:
+    using JSONMember = JSONValue::Member;
+
+    const JSONMember* findMember(std::string_view name) const {
+        for (const auto& member : value_->GetObject()) {
+            if (std::string_view(member.name.GetString(), member.name.GetStringLength()) == name) {
+                return &member;
+            }
+        }
+        return nullptr;
+    }
+    void noteLook(std::string_view name, const JSONMember* found) const;
+    void noteName() const;
+
     const JSONValue* value_;
-    const ExceptionFactory* factory_;
+    FaultHandler* handler_;
 };
 
 /// A parsed document. It owns the memory in which its values lie.
 class JSON {
 public:
     /// Parses a whole text. Neither this nor destruction recurses with the depth of the text.
-    /// Fails through the factory with "JSON parsing error at offset N: reason".
-    JSON(std::string_view text, std::shared_ptr<const ExceptionFactory> factory);
+    /// Fails through the handler, which must live as long, with "JSON parsing error at offset N: reason".
+    JSON(std::string_view text, FaultHandler& handler);
 
-    JSONView view() const { return {value_, factory_.get()}; }
+    /// False for what is no JSON, where faults are kept.
+    bool isParsed() const { return isParsed_; }
+    JSONView view() const { return {value_, handler_}; }
 
     /// Returns the value as text without blanks (see JSONView::toText).
     std::string toText() const { return view().toText(); }
@@ -96,7 +139,8 @@ public:
 private:
     JSONMemory memory_;
     JSONValue value_;
-    std::shared_ptr<const ExceptionFactory> factory_;
+    FaultHandler& handler_;
+    bool isParsed_ = true;
 };
 
 } // namespace Ostra

@@ -103,32 +103,33 @@ char* copyOf(std::string_view text, JSONPool& pool) {
 
 /// Parses a text that is at most so deep; returns nothing for a deeper one.
 template <unsigned flags>
-std::optional<ParseResult> parseWith(std::string_view text, JSONPool& pool, JSONValue& value, int maxDepth) {
-    TextStream stream(copyOf(text, pool));
+std::optional<ParsedText> parseWith(std::string_view text, JSONPool& pool, JSONValue& value, int maxDepth) {
+    char* const copy = copyOf(text, pool);
+    TextStream stream(copy);
     Reader reader(&pool);
     Document document(&pool, 1024, &pool);
-    std::optional<ParseResult> result;
+    std::optional<ParsedText> parsed;
     auto generate = [&](Document& target) {
         ValueHandler handler(target, maxDepth);
-        const ParseResult parsed = reader.Parse<flags>(stream, handler);
+        const ParseResult result = reader.Parse<flags>(stream, handler);
         if (!handler.isTooDeep()) {
-            result = adjusted(parsed, stream.Tell(), text.size());
+            parsed = {adjusted(result, stream.Tell(), text.size()), copy};
         }
-        return result && !result->IsError();
+        return parsed && !parsed->result.IsError();
     };
     document.Populate(generate);
     value.Swap(document);
-    return result;
+    return parsed;
 }
 
 } // namespace
 
-ParseResult parseText(std::string_view text, JSONPool& pool, JSONValue& value) {
+ParsedText parseText(std::string_view text, JSONPool& pool, JSONValue& value) {
     if (text.size() > maxTextSize) {
         throw std::length_error(messages("json-text-too-long").with({}));
     }
-    if (const auto result = parseWith<parseFlags>(text, pool, value, maxRecursion)) {
-        return *result;
+    if (const auto parsed = parseWith<parseFlags>(text, pool, value, maxRecursion)) {
+        return *parsed;
     }
     constexpr int anyDepth = std::numeric_limits<int>::max(); // more than a text of that size has
     return *parseWith<parseFlags | rapidjson::kParseIterativeFlag>(text, pool, value, anyDepth);

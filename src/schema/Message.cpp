@@ -15,4 +15,16 @@ std::string Message::with(std::initializer_list<std::string_view> inserted) cons
     return text.append(rest);
 }
 
+std::string_view Message::subjectOf(std::initializer_list<std::string_view> inserted) const {
+    std::string_view rest = sentence;
+    for (const std::string_view each : inserted) {
+        rest.remove_prefix(rest.find('<') + 1);
+        const std::string_view placeholder = rest.substr(0, rest.find('>'));
+        if (placeholder != "schema" && placeholder != "offset" && placeholder != "reason") {
+            return each;
+        }
+    }
+    return {};
+}
+
 } // namespace Ostra

@@ -9,14 +9,22 @@
 
 namespace Ostra {
 
+/// What a message does where the first fault of a document is thrown: a warning is passed over.
+enum class Severity { error, warning };
+
 /// A sentence of the library, and the stable short name of the rule that it speaks of. What stands in <...> in the
 /// sentence is inserted.
 struct Message {
     std::string_view code;
     std::string_view sentence;
+    Severity severity = Severity::error;
 
     /// Returns the sentence with the texts, byte for byte, in its <...> in order; there must be as many as those.
     std::string with(std::initializer_list<std::string_view> inserted) const;
+
+    /// Returns what the message is about: the first of the inserted texts, apart from those in <schema>, which is the
+    /// typeid of the schema itself, and in <offset> and <reason>. Empty where there is no other.
+    std::string_view subjectOf(std::initializer_list<std::string_view> inserted) const;
 };
 
 /// The messages of one room, looked up by code while the room is compiled: a message that is in no table, or whose code

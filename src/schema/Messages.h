@@ -22,7 +22,7 @@ inline constexpr Messages messages({
     {"definition-value-missing", "A property definition must contain either a value or a typedValue."},
 
     // A value is wrong.
-    {"constant-undefined", "Schema <typeid> has an undefined <constant> constant."},
+    {"constant-undefined", "Schema <schema> has an undefined <constant> constant."},
     {"string-expected", "Expected a string."},
     {"non-empty-string-expected", "Expected a non-empty string."},
     {"boolean-expected", "Expected a Boolean value."},
@@ -37,7 +37,15 @@ inline constexpr Messages messages({
     {"typed-value-typeid-only", "A typedValue object may not be empty and must contain a typeid attribute only."},
     {"typed-value-typeid-missing", "A typedValue did not contain a typeid attribute."},
     {"typed-value-typeid-empty", "A typeid attribute in a typedValue object may not be empty."},
-    {"number-not-finite", "Schema <typeid> has a number that is not finite."},
+    {"number-not-finite", "Schema <schema> has a number that is not finite."},
+
+    // What no reader looks at, or cannot be meant.
+    {"member-unknown", "Nothing reads member <member> here.", Severity::warning},
+    {"constant-unknown", "Nothing reads constant <constant> in a schema of this base.", Severity::warning},
+    {"property-unknown", "Nothing reads property <property> in a schema of this base.", Severity::warning},
+    {"member-duplicate", "Member <member> stands here more than once: the first one counts.", Severity::warning},
+    {"value-ignored", "Of value and typedValue only the other one is read here, not <member>.", Severity::warning},
+    {"typeid-repeated", "Typeid <typeid> stands more than once in this list.", Severity::warning},
 
     // A limit is exceeded.
     {"json-text-too-long", "A JSON text is too long."},

@@ -1,8 +1,7 @@
 #include "schema/Schema.h"
 
+#include "schema/Inspection.h"
 #include "schema/Messages.h"
-
-#include <utility>
 
 namespace Ostra {
 
@@ -10,87 +9,145 @@ namespace {
 
 std::string_view readTypeId(JSONView schema) {
     const auto typeId = schema.member("typeid");
-    if (!typeId || !typeId->isString()) {
-        schema.fail(messages("typeid-missing"));
+    if (!typeId) {
+        return schema.failLacking({"typeid"}, messages("typeid-missing"));
+    }
+    if (!typeId->isString()) {
+        return typeId->fail(messages("typeid-missing"));
     }
     if (typeId->string().empty()) {
-        schema.fail(messages("typeid-empty"));
+        return typeId->fail(messages("typeid-empty"));
     }
     return typeId->string();
 }
 
-std::string_view readBase(JSONView schema) {
+/// Returns the one base, or nothing where faults are kept and this has one.
+std::optional<std::string_view> readBase(JSONView schema) {
     const auto inherits = schema.member("inherits");
     if (!inherits) {
-        schema.fail(messages("inherits-missing"));
+        return schema.failLacking({"inherits"}, messages("inherits-missing")).none();
     }
     if (!inherits->isArray()) {
-        schema.fail(messages("array-expected"));
+        return inherits->fail(messages("array-expected")).none();
     }
-    std::string_view base;
+    std::optional<std::string_view> base;
     inherits->forEachElement([&](JSONView element) {
+        base = std::nullopt;
         if (!element.isString()) {
-            schema.fail(messages("array-of-strings-expected"));
+            element.report(messages("array-of-strings-expected"));
+        } else if (element.string().empty()) {
+            element.report(messages("array-of-non-empty-strings-expected"));
+        } else {
+            base = element.string();
         }
-        if (element.string().empty()) {
-            schema.fail(messages("array-of-non-empty-strings-expected"));
-        }
-        base = element.string();
     });
     if (inherits->size() != 1) {
-        schema.fail(messages("single-base-expected"));
+        return inherits->fail(messages("single-base-expected")).none();
     }
     return base;
 }
 
-std::string_view readId(JSONView definition) {
+/// Returns the id of a definition, or nothing where faults are kept and this has one.
+std::optional<JSONView> readId(JSONView definition) {
     if (!definition.isObject()) {
-        definition.fail(messages("definition-object-expected"));
+        return definition.fail(messages("definition-object-expected")).none();
     }
     const auto id = definition.member("id");
     if (!id) {
-        definition.fail(messages("definition-id-missing"));
+        return definition.failLacking({"id"}, messages("definition-id-missing")).none();
     }
     if (!id->isString()) {
-        definition.fail(messages("definition-id-string-expected"));
+        return id->fail(messages("definition-id-string-expected")).none();
     }
-    return id->string();
+    return id;
 }
 
 } // namespace
 
-Schema::Schema(std::string_view text, std::shared_ptr<const ExceptionFactory> factory)
-    : document_(text, std::move(factory)), typeId_(readTypeId(document_.view())), base_(readBase(document_.view())),
-      beginsOnly_(Identifier::findStart(base_, 1) == std::string_view::npos) {
-    readDefinitions("constants", constants_);
-    readDefinitions("properties", properties_);
+Schema::Schema(std::string_view text, FaultHandler& handler) : document_(text, handler) {
+    isReadable_ = document_.isParsed() && readHead();
+    if (isReadable_) {
+        readDefinitions("constants", constants_);
+        readDefinitions("properties", properties_);
+    }
+}
+
+/// Returns false for what is no schema at all.
+bool Schema::readHead() {
+    typeId_ = readTypeId(view());
+    if (!view().isObject()) {
+        return false; // which has been told: it has no typeid
+    }
+    const auto base = readBase(view());
+    base_ = base.value_or(std::string_view());
+    beginsOnly_ = Identifier::findStart(base_, 1) == std::string_view::npos;
+    return base.has_value();
 }
 
 void Schema::readDefinitions(const char* name, Definitions& definitions) {
-    const auto array = document_.view().member(name);
+    const auto array = view().member(name);
     if (!array) {
         return;
     }
     if (!array->isArray()) {
-        fail(messages("definitions-array-expected"), {name});
+        array->report(messages("definitions-array-expected"), {name});
+        definitions.setFaulty();
+        return;
     }
-    definitions.reserve(array->size());
+    definitions.begin(*array);
     array->forEachElement([&](JSONView definition) {
-        const std::string_view id = readId(definition);
-        if (!definitions.add(id, definition)) {
-            fail(messages("definition-duplicate"), {id, name});
+        const auto id = readId(definition);
+        if (!id) {
+            definition.notePassedOver();
+        } else if (!definitions.add(id->string(), definition)) {
+            id->reportBeside(*definitions.find(id->string())->member("id"), messages("definition-duplicate"),
+                             {id->string(), name});
+            definition.notePassedOver();
         }
     });
 }
 
-JSONView Schema::valueOf(JSONView definition) {
+std::optional<JSONView> Schema::valueOf(JSONView definition) {
     if (const auto value = definition.member("value")) {
-        return *value;
+        return value;
     }
     if (const auto typedValue = definition.member("typedValue")) {
-        return *typedValue;
+        return typedValue;
     }
-    definition.fail(messages("definition-value-missing"));
+    return definition.failLacking({"value", "typedValue"}, messages("definition-value-missing")).none();
+}
+
+Nothing Schema::failUndefinedConstant(std::string_view id, const Message& message,
+                                      std::initializer_list<std::string_view> inserted) const {
+    return failUndefined(constants_, "constants", id, message, inserted);
+}
+
+Nothing Schema::failUndefinedProperty(std::string_view id, const Message& message,
+                                      std::initializer_list<std::string_view> inserted) const {
+    return failUndefined(properties_, "properties", id, message, inserted);
+}
+
+Nothing Schema::failUndefined(const Definitions& definitions, std::string_view name, std::string_view id,
+                              const Message& message, std::initializer_list<std::string_view> inserted) const {
+    if (definitions.isFaulty()) {
+        return {};
+    }
+    const auto& array = definitions.array();
+    return array ? array->failLacking({id}, message, inserted) : view().failLacking({name}, message, inserted);
+}
+
+void Schema::tellUnread() const {
+    if (!view().isInspected()) {
+        return;
+    }
+    view().noteReadWhole();
+    for (const auto* table : {&constants_, &properties_}) {
+        const Message& message =
+            table == &constants_ ? messages("constant-unknown") : messages("property-unknown");
+        for (const auto& [id, definition] : *table) {
+            table->array()->noteIfUnread(definition, *definition.member("id"), message);
+        }
+    }
 }
 
 } // namespace Ostra

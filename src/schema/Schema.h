@@ -7,7 +7,6 @@
 #include <array>
 #include <cstddef>
 #include <initializer_list>
-#include <memory>
 #include <memory_resource>
 #include <string>
 #include <string_view>
@@ -18,11 +17,13 @@ namespace Ostra {
 /// Everything that it hands out refers into the text's document and lives as long as the record.
 class Schema {
 public:
-    /// Reads a text; every fault in its structure is raised through the factory.
-    Schema(std::string_view text, std::shared_ptr<const ExceptionFactory> factory);
+    /// Reads a text; every fault in its structure goes to the handler, which must live as long.
+    Schema(std::string_view text, FaultHandler& handler);
     Schema(const Schema&) = delete;
     Schema& operator=(const Schema&) = delete;
 
+    /// False where faults are kept and one of them makes the rest meaningless: the text is no JSON or has no base.
+    bool isReadable() const { return isReadable_; }
     std::string_view typeId() const { return typeId_; }
     /// True when the base is of that built-in identifier's major version.
     bool inherits(const Identifier& base) const { return beginsOnly_ ? base.begins(base_) : base.isIn(base_); }
@@ -30,20 +31,35 @@ public:
     const Definitions& constants() const { return constants_; }
     const Definitions& properties() const { return properties_; }
 
-    /// Returns the value of a definition: its "value", else its "typedValue"; fails when it has neither.
-    static JSONView valueOf(JSONView definition);
+    /// Returns the value of a definition: its "value", else its "typedValue"; fails when it has neither, and returns
+    /// nothing where faults are kept.
+    static std::optional<JSONView> valueOf(JSONView definition);
 
-    [[noreturn]] void fail(const Message& message, std::initializer_list<std::string_view> inserted = {}) const {
-        document_.view().fail(message, inserted);
-    }
+    /// Returns the whole of the document.
+    JSONView view() const { return document_.view(); }
+
+    /// Fails because a constant or property is not defined.
+    /// @{
+    [[nodiscard]] Nothing failUndefinedConstant(std::string_view id, const Message& message,
+                                                std::initializer_list<std::string_view> inserted) const;
+    [[nodiscard]] Nothing failUndefinedProperty(std::string_view id, const Message& message,
+                                                std::initializer_list<std::string_view> inserted) const;
+    /// @}
+
+    /// Says that a kind has read all of the schema that it reads: where faults are kept, the rest is told.
+    void tellUnread() const;
 
 private:
+    bool readHead();
+    Nothing failUndefined(const Definitions& definitions, std::string_view name, std::string_view id,
+                          const Message& message, std::initializer_list<std::string_view> inserted) const;
     void readDefinitions(const char* name, Definitions& definitions);
 
     JSON document_;
+    bool isReadable_ = false;
     std::string_view typeId_;
     std::string_view base_;
-    bool beginsOnly_; // an identifier can be in the base at its beginning alone, which is sooner seen than searched
+    bool beginsOnly_ = false; // an identifier can be in the base at its beginning alone, which is sooner seen than searched
     std::array<std::byte, 2048> buffer_; // the definitions of most schemas fit
     // What does not fit comes from operator new: the default resource is the application's, and its threads share it.
     std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size(), std::pmr::new_delete_resource()};

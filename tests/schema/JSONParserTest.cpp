@@ -144,7 +144,7 @@ class NumberType : public testing::TestWithParam<Classified> {};
 TEST_P(NumberType, IsThatOfTheDefaultFlags) {
     JSONPool pool;
     JSONValue value;
-    ASSERT_FALSE(parseText(GetParam().text, pool, value).IsError());
+    ASSERT_FALSE(parseText(GetParam().text, pool, value).result.IsError());
     EXPECT_TRUE(value.IsNumber());
     EXPECT_EQ(value.IsInt(), GetParam().int32);
     EXPECT_EQ(value.IsUint(), GetParam().unsigned32);

@@ -184,7 +184,7 @@ protected:
         object_.AddMember("second", 2, pool_);
     }
 
-    JSONView view() const { return {object_, ExceptionFactoryOf<Refusal>::shared().get()}; }
+    JSONView view() const { return {object_, ExceptionFactoryOf<Refusal>::shared()}; }
 
     JSONPool pool_;
     JSONValue object_;

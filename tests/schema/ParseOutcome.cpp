@@ -103,7 +103,7 @@ ParseOutcome outcomeByDefaultFlags(const std::string& text) {
 ParseOutcome outcomeOf(const std::string& text) {
     JSONPool pool(1024);
     JSONValue value;
-    const rapidjson::ParseResult result = parseText(text, pool, value);
+    const rapidjson::ParseResult result = parseText(text, pool, value).result;
     Recorder recorder;
     if (!result.IsError()) {
         value.Accept(recorder);

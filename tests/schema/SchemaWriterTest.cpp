@@ -25,32 +25,32 @@ std::string textOf(SchemaWriter&& writer) { return std::move(writer).finish(); }
 
 /// Returns the text of a schema whose one constant, "x", has the given value.
 std::string textWith(void (*writeValue)(SchemaWriter&)) {
-    SchemaWriter schema("t", "b", *Complaints::shared());
+    SchemaWriter schema("t", "b", Complaints::shared());
     writeValue(schema.constant("x"));
     return textOf(std::move(schema));
 }
 
 TEST(SchemaWriter, LeavesOutTablesWithoutElements) {
-    EXPECT_EQ(textOf(SchemaWriter("plant.group:safety-1.0.0", "norvex.parameter:group-1.0.0", *Complaints::shared())),
+    EXPECT_EQ(textOf(SchemaWriter("plant.group:safety-1.0.0", "norvex.parameter:group-1.0.0", Complaints::shared())),
               R"({"typeid":"plant.group:safety-1.0.0","inherits":["norvex.parameter:group-1.0.0"]})");
 }
 
 TEST(SchemaWriter, WritesConstantsAfterTheBase) {
-    SchemaWriter schema("t", "b", *Complaints::shared());
+    SchemaWriter schema("t", "b", Complaints::shared());
     schema.constant("name").string("Safety");
     EXPECT_EQ(textOf(std::move(schema)),
               R"({"typeid":"t","inherits":["b"],"constants":[{"id":"name","value":"Safety"}]})");
 }
 
 TEST(SchemaWriter, WritesPropertiesAfterTheBaseWhereThereIsNoConstant) {
-    SchemaWriter schema("t", "b", *Complaints::shared());
+    SchemaWriter schema("t", "b", Complaints::shared());
     schema.property("value").boolean(true);
     EXPECT_EQ(textOf(std::move(schema)),
               R"({"typeid":"t","inherits":["b"],"properties":[{"id":"value","value":true}]})");
 }
 
 TEST(SchemaWriter, WritesPropertiesAfterConstants) {
-    SchemaWriter schema("t", "b", *Complaints::shared());
+    SchemaWriter schema("t", "b", Complaints::shared());
     schema.constant("c").integer(2);
     schema.property("p").integer(1);
     EXPECT_EQ(
@@ -59,14 +59,14 @@ TEST(SchemaWriter, WritesPropertiesAfterConstants) {
 }
 
 TEST(SchemaWriter, RefusesConstantsAfterProperties) {
-    SchemaWriter schema("t", "b", *Complaints::shared());
+    SchemaWriter schema("t", "b", Complaints::shared());
     schema.property("p").integer(1);
     EXPECT_EQ(messageOf<std::logic_error>([&] { schema.constant("c"); }),
               "A schema's constants are written before its properties.");
 }
 
 TEST(SchemaWriter, KeepsTheOrderOfDefinitions) {
-    SchemaWriter schema("t", "b", *Complaints::shared());
+    SchemaWriter schema("t", "b", Complaints::shared());
     schema.constant("b").integer(1);
     schema.typedConstant("a").typedValue("x");
     schema.constant("b").integer(2);
@@ -79,7 +79,7 @@ TEST(SchemaWriter, KeepsTheOrderOfDefinitions) {
 }
 
 TEST(SchemaWriter, WritesArraysAndObjectsAsValues) {
-    SchemaWriter schema("t", "b", *Complaints::shared());
+    SchemaWriter schema("t", "b", Complaints::shared());
     schema.constant("x").beginObject();
     schema.name("list");
     schema.beginArray();
@@ -102,7 +102,7 @@ TEST(SchemaWriter, WritesArraysAndObjectsAsValues) {
 }
 
 TEST(SchemaWriter, WritesIntegersInDecimal) {
-    SchemaWriter schema("t", "b", *Complaints::shared());
+    SchemaWriter schema("t", "b", Complaints::shared());
     schema.constant("a").integer(std::numeric_limits<std::int64_t>::min());
     schema.constant("b").integer(std::numeric_limits<std::int64_t>::max());
     EXPECT_EQ(textOf(std::move(schema)), R"({"typeid":"t","inherits":["b"],"constants":[)"
@@ -111,7 +111,7 @@ TEST(SchemaWriter, WritesIntegersInDecimal) {
 }
 
 TEST(SchemaWriter, WritesNumbersAsDoubles) {
-    SchemaWriter schema("t", "b", *Complaints::shared());
+    SchemaWriter schema("t", "b", Complaints::shared());
     schema.constant("a").number(3);
     schema.constant("b").number(-2.5);
     schema.constant("c").number(0.1);
@@ -132,14 +132,14 @@ TEST(SchemaWriter, RefusesNumbersThatAreNotFinite) {
     for (const double number : {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
                                 std::numeric_limits<double>::quiet_NaN()}) {
         EXPECT_EQ(
-            messageOf<Complaint>([&] { SchemaWriter("t", "b", *Complaints::shared()).constant("x").number(number); }),
+            messageOf<Complaint>([&] { SchemaWriter("t", "b", Complaints::shared()).constant("x").number(number); }),
             "Schema t has a number that is not finite.");
     }
 }
 
 TEST(SchemaWriter, NamesATypeIdWholeWhenItRefusesANumber) {
     const std::string typeId("t\0u", 3);
-    SchemaWriter schema(typeId, "b", *Complaints::shared());
+    SchemaWriter schema(typeId, "b", Complaints::shared());
     EXPECT_EQ(complaintOf([&] { schema.number(std::numeric_limits<double>::infinity()); }),
               std::string("Schema t\0u has a number that is not finite.", 43));
 }
@@ -156,14 +156,14 @@ TEST(SchemaWriter, LeavesBytesBeyondAsciiAsTheyAre) {
 }
 
 TEST(SchemaWriter, EscapesInEveryPlaceOfAString) {
-    SchemaWriter schema("\"", "\\", *Complaints::shared());
+    SchemaWriter schema("\"", "\\", Complaints::shared());
     schema.typedConstant(std::string("\0", 1)).typedValue("\n");
     EXPECT_EQ(textOf(std::move(schema)),
               R"({"typeid":"\"","inherits":["\\"],"constants":[{"id":"\u0000","typedValue":{"typeid":"\n"}}]})");
 }
 
 TEST(SchemaWriter, WritesWhatTheReaderReads) {
-    SchemaWriter schema("\"t\xff", "b\\", *Complaints::shared());
+    SchemaWriter schema("\"t\xff", "b\\", Complaints::shared());
     schema.constant(std::string("a\0b", 3)).string("\x1f");
     schema.typedProperty("\xc3\xa4").typedValue("c");
     const Schema read(textOf(std::move(schema)), Complaints::shared());

@@ -15,14 +15,17 @@ constexpr Ostra::Identifier unitBase("norvex.unit:unit-1.0.0");
 
 } // namespace
 
-Unit readUnit(const Ostra::Schema& schema) {
+std::optional<Unit> readUnit(const Ostra::Schema& schema) {
     if (!schema.inherits(unitBase)) {
-        schema.fail(messages("base-unrecognized"));
+        schema.view().member("inherits")->forEachElement(
+            [](Ostra::JSONView base) { base.report(messages("base-unrecognized")); });
+        return std::nullopt;
     }
     const Ostra::Constants constants(schema);
     std::string name(constants.required<Ostra::NonEmptyString>("name"));
     std::string symbol(constants.optional<Ostra::String>("symbol", ""));
-    return {std::string(schema.typeId()), std::move(name), std::move(symbol)};
+    schema.tellUnread();
+    return Unit(std::string(schema.typeId()), std::move(name), std::move(symbol));
 }
 
 } // namespace Units::Internal

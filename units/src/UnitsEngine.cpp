@@ -4,14 +4,32 @@
 #include "UnitSchema.h"
 #include "schema/ExceptionFactory.h"
 #include "schema/Hash.h"
+#include "schema/Inspection.h"
 #include "schema/Schema.h"
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <unordered_map>
 #include <utility>
 
 namespace Units {
+
+namespace {
+
+Fault::Place toPlace(Ostra::Spot&& spot) { return {std::move(spot.pointer), spot.begin, spot.end}; }
+
+Fault toFault(Ostra::DocumentFault&& fault) {
+    return {fault.message->code,
+            fault.message->severity == Ostra::Severity::error,
+            std::move(fault.sentence),
+            std::move(fault.name),
+            std::move(fault.nearest),
+            toPlace(std::move(fault.place)),
+            fault.other ? std::optional(toPlace(*std::move(fault.other))) : std::nullopt};
+}
+
+} // namespace
 
 /// The units in the order in which they were registered. A unit is built when its schema is registered, and only handed
 /// out later, so that resolving is one assignment, which cannot fail.
@@ -19,8 +37,16 @@ class UnitsEngine::Registry {
 public:
     bool holds(std::string_view typeId) const { return entries_.contains(typeId); }
 
-    void add(const std::string& typeId, const Unit& unit) {
-        entries_.try_emplace(typeId, Entry{unit, entries_.size()});
+    /// Registers a schema that has no fault.
+    void add(const Ostra::Schema& schema, const Ostra::Inspection* inspection = nullptr) {
+        std::string typeId(schema.typeId());
+        if (holds(typeId)) {
+            schema.view().member("typeid")->report(Internal::messages("typeid-taken"), {typeId});
+        }
+        const auto unit = Internal::readUnit(schema);
+        if (unit && (inspection == nullptr || !inspection->hasErrors())) {
+            entries_.try_emplace(std::move(typeId), Entry{*unit, entries_.size()});
+        }
     }
 
     void resolve() noexcept { resolved_ = entries_.size(); }
@@ -77,13 +103,21 @@ UnitsEngine::~UnitsEngine() = default;
 bool UnitsEngine::isRegistered(std::string_view typeId) const { return registry_->holds(typeId); }
 
 std::set<std::string> UnitsEngine::registerSchema(const std::string& schemaText) {
-    const Ostra::Schema schema(schemaText, Ostra::ExceptionFactoryOf<ValidationException>::shared());
-    const std::string typeId(schema.typeId());
-    if (registry_->holds(typeId)) {
-        schema.fail(Internal::messages("typeid-taken"), {typeId});
-    }
-    registry_->add(typeId, Internal::readUnit(schema));
+    registry_->add(Ostra::Schema(schemaText, Ostra::ExceptionFactoryOf<ValidationException>::shared()));
     return {};
+}
+
+std::vector<Fault> UnitsEngine::registerSoundSchema(const std::string& schemaText) {
+    Ostra::Inspection inspection;
+    const Ostra::Schema schema(schemaText, inspection);
+    if (schema.isReadable()) {
+        registry_->add(schema, &inspection);
+    }
+    std::vector<Fault> faults;
+    for (Ostra::DocumentFault& fault : inspection.faults()) {
+        faults.push_back(toFault(std::move(fault)));
+    }
+    return faults;
 }
 
 void UnitsEngine::resolveSchemas() { registry_->resolve(); }

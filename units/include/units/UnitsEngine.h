@@ -1,6 +1,7 @@
 #pragma once
 
 #include <units/Export.h>
+#include <units/Fault.h>
 #include <units/Unit.h>
 #include <units/ValidationException.h>
 
@@ -9,6 +10,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Units {
 
@@ -44,6 +46,10 @@ public:
     /// @throws ValidationException "Inheritance from an unrecognized base schema."
     /// @throws ValidationException "Schema with typeid T is already registered."
     std::set<std::string> registerSchema(const std::string& schemaText);
+
+    /// Registers one unit schema unless something is wrong with it, and returns everything that is, and what in it is
+    /// passed over, in the order in which the text is read. Costs what registerSchema does, and little more.
+    std::vector<Fault> registerSoundSchema(const std::string& schemaText);
 
     /// Makes units of all registered schemas. Costs the same however many there are.
     void resolveSchemas();

@@ -1,0 +1,143 @@
+#include "schema/Places.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace Ostra {
+
+namespace {
+
+std::string_view stringIn(const JSONValue& value) { return {value.GetString(), value.GetStringLength()}; }
+
+/// Members that every definition or typed value has: they tell nothing of what they belong to.
+bool isStructure(std::string_view member) {
+    constexpr std::array<std::string_view, 7> names{"typeid",     "inherits", "constants", "properties",
+                                                    "id", "value",    "typedValue"};
+    return std::find(names.begin(), names.end(), member) != names.end();
+}
+
+/// Walks through a text, which is known to be JSON, and the values that were made of it side by side.
+class Walk {
+public:
+    Walk(std::string_view text, Places& places) : text_(text), places_(places) {}
+
+    void through(const JSONValue& root) {
+        enter(root);
+        while (!open_.empty()) {
+            Container& container = open_.back();
+            if (container.next == container.size) {
+                leave();
+            } else if (container.value->IsObject()) {
+                skipString();
+                enter(container.value->MemberBegin()[container.next++].value);
+            } else {
+                enter(container.value->Begin()[container.next++]);
+            }
+        }
+    }
+
+private:
+    struct Container {
+        const JSONValue* value;
+        rapidjson::SizeType size;
+        rapidjson::SizeType next; // the one behind that which is walked through
+        Spot* spot;               // to be closed, if it is wanted
+    };
+
+    void enter(const JSONValue& value) {
+        skipBetween();
+        Spot* const spot = begin(value);
+        if (value.IsObject() || value.IsArray()) {
+            ++offset_;
+            open_.push_back({&value, value.IsObject() ? value.MemberCount() : value.Size(), 0, spot});
+            return;
+        }
+        if (value.IsString()) {
+            skipString();
+        } else {
+            offset_ = std::min(text_.find_first_of(",]} \t\n\r", offset_), text_.size());
+        }
+        end(spot);
+    }
+
+    void leave() {
+        skipBetween();
+        ++offset_;
+        end(open_.back().spot);
+        open_.pop_back();
+    }
+
+    Spot* begin(const JSONValue& value) {
+        const auto wanted = places_.find(&value);
+        if (wanted == places_.end()) {
+            return nullptr;
+        }
+        Spot& spot = wanted->second;
+        spot.begin = offset_;
+        for (const Container& container : open_) {
+            describeStep(container, spot);
+        }
+        return &spot;
+    }
+
+    void describeStep(const Container& container, Spot& spot) const {
+        spot.pointer += '/';
+        if (container.value->IsArray()) {
+            spot.pointer += std::to_string(container.next - 1);
+            return;
+        }
+        const std::string_view name = stringIn(container.value->MemberBegin()[container.next - 1].name);
+        for (const char character : name) {
+            if (character == '~' || character == '/') {
+                spot.pointer += character == '~' ? "~0" : "~1";
+            } else {
+                spot.pointer += character;
+            }
+        }
+        if (&container == &open_[0] && (name == "constants" || name == "properties") && open_.size() > 2) {
+            labelByDefinition(*open_[2].value, spot);
+        } else if (!isStructure(name)) {
+            spot.label = name;
+        }
+    }
+
+    /// Takes the id of a definition for the label of what lies in it.
+    static void labelByDefinition(const JSONValue& definition, Spot& spot) {
+        if (!definition.IsObject()) {
+            return;
+        }
+        const auto id = definition.FindMember("id");
+        if (id != definition.MemberEnd() && id->value.IsString()) {
+            spot.label = stringIn(id->value);
+        }
+    }
+
+    void end(Spot* spot) const {
+        if (spot != nullptr) {
+            spot->end = offset_;
+        }
+    }
+
+    void skipBetween() { offset_ = std::min(text_.find_first_not_of(" \t\n\r,:", offset_), text_.size()); }
+
+    void skipString() {
+        skipBetween();
+        ++offset_;
+        while (text_[offset_] != '"') {
+            offset_ += text_[offset_] == '\\' ? 2 : 1;
+        }
+        ++offset_;
+    }
+
+    std::string_view text_;
+    Places& places_;
+    std::size_t offset_ = 0;
+    std::vector<Container> open_;
+};
+
+} // namespace
+
+void locate(std::string_view text, const JSONValue& root, Places& places) { Walk(text, places).through(root); }
+
+} // namespace Ostra
