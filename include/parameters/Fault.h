@@ -62,8 +62,8 @@ public:
     /// Returns what the fault is about, as far as it has a name: the type identifier that is missing or taken, the
     /// constant that is undefined or wrong, the member that nothing reads; else empty.
     const std::string& name() const noexcept;
-    /// Returns what an object that is named had to be, in the words of messages: "group", "integer range", "unit"; empty
-    /// where no object is named.
+    /// Returns what an object that is named had to be, in the words of messages: "group", "integer range", "unit";
+    /// empty where no object is named.
     std::string_view expectedKind() const noexcept;
     /// Returns, for something that nothing reads, the name nearest to its own that would be read there, and for
     /// something that is undefined, the name under which it seems to be there; empty where none is near.
@@ -73,8 +73,8 @@ public:
     /// is the place, the one that does not; of a type identifier that is missing, the schema among the texts that has
     /// it. Nothing where there is none.
     const std::optional<Place>& otherPlace() const noexcept;
-    /// Returns, for an error that is but the consequence of others, the place of the first of those: the fault goes when
-    /// they are mended. Nothing for an error of its own.
+    /// Returns, for an error that is but the consequence of others, the place of the first of those: the fault goes
+    /// when they are mended. Nothing for an error of its own.
     const std::optional<Place>& root() const noexcept;
 
 private:

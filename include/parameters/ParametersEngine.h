@@ -232,8 +232,8 @@ public:
     /// @throws Units::ValidationException if the units engine refuses a schema that no kind of this engine accepts.
     void registerSchemas(const std::map<std::string, std::string>& schemas);
 
-    /// Returns everything that would be wrong if these texts, those of units among them, were registered and resolved in
-    /// this engine, and what in them is passed over: none that is an error exactly when they could be. Nothing is
+    /// Returns everything that would be wrong if these texts, those of units among them, were registered and resolved
+    /// in this engine, and what in them is passed over: none that is an error exactly when they could be. Nothing is
     /// changed. The keys are names for the texts, such as those of their files.
     ///
     /// The faults come by text in the order of the keys; within a text in the order in which it is read, then what it

@@ -157,8 +157,8 @@ public:
         });
     }
 
-    /// Puts the objects built for the pending records of a kind, in their order, in the records' place. Records for which
-    /// none was built stay pending.
+    /// Puts the objects built for the pending records of a kind, in their order, in the records' place. Records for
+    /// which none was built stay pending.
     template <class K>
     void commit(std::vector<typename K::Object>& built) noexcept {
         auto& store = std::get<kindIndex<K>>(stores_);

@@ -54,7 +54,9 @@ std::tuple<std::vector<Aside<Ks>>...> asidesOf(KindList<Ks...>);
 
 /// Whether a units library tells what is wrong with a text as ours does.
 template <class Engine>
-constexpr bool tellsFaults = requires(Engine& engine, const std::string& text) { engine.registerSoundSchema(text); };
+constexpr bool tellsFaults = requires(Engine& engine, const std::string& text) {
+    engine.registerSoundSchema(text);
+};
 
 class Review {
 public:
@@ -131,7 +133,8 @@ void Review::read(const std::string& key, const std::string& text) {
         schema.view().member("typeid")->report(EngineMessages::messages("typeid-taken"), {schema.typeId()});
     }
     texts_.push_back({&key, &text});
-    const bool isAccepted = schema.isReadable() && anyKind(OfferingOrder{}, [&]<class K>() { return readAs<K>(schema, id); });
+    const bool isAccepted =
+        schema.isReadable() && anyKind(OfferingOrder{}, [&]<class K>() { return readAs<K>(schema, id); });
     if (!isAccepted && !schema.typeId().empty()) {
         texts_[id].texts = Texts{schema.typeId()};
     }
@@ -165,8 +168,8 @@ bool Review::readAs(const Ostra::Schema& schema, TextId id) {
     return true;
 }
 
-/// Lets the units library judge a text that is of no kind. Ours reads again what was read here, and more; another one may
-/// have nothing but its exceptions.
+/// Lets the units library judge a text that is of no kind. Ours reads again what was read here, and more; another one
+/// may have nothing but its exceptions.
 void Review::readUnit(TextId id, bool isTaken) {
     const std::string& text = *texts_[id].text;
     std::vector<FaultData> found = faultsOf(id, inspection_.faults());
@@ -319,8 +322,8 @@ void Review::tellMissing() {
     std::stable_sort(missing_.begin(), missing_.end(),
                      [](const Missing& one, const Missing& other) { return one.text < other.text; });
     for (auto begin = missing_.begin(); begin != missing_.end();) {
-        const auto end = std::find_if(begin, missing_.end(),
-                                      [&](const Missing& missing) { return missing.text != begin->text; });
+        const auto end =
+            std::find_if(begin, missing_.end(), [&](const Missing& missing) { return missing.text != begin->text; });
         tellMissing(std::span(begin, end));
         begin = end;
     }

@@ -35,9 +35,12 @@ void Inspection::begin(std::string_view text, const char* copy, const JSONValue&
 }
 
 void Inspection::handle(const Finding& finding) {
-    kept_.push_back({&finding.message, finding.message.with(finding.inserted),
-                     std::string(finding.message.subjectOf(finding.inserted)), &finding.value, finding.lacking,
-                     finding.other, finding.offset});
+    std::string_view name = finding.message.subjectOf(finding.inserted);
+    if (name.empty() && finding.lacking.size() > 0) {
+        name = *finding.lacking.begin();
+    }
+    kept_.push_back({&finding.message, finding.message.with(finding.inserted), std::string(name), &finding.value,
+                     finding.lacking, finding.other, finding.offset});
     hasErrors_ = hasErrors_ || finding.message.severity == Severity::error;
     if (finding.lacking.size() == 0) {
         passedOver_.insert(&finding.value); // what is in a value that is wrong as a whole is not looked at
@@ -74,10 +77,9 @@ std::vector<DocumentFault> Inspection::faults() {
     if (isJSON) {
         locate(text_, *root_, places);
     }
-    std::stable_sort(kept_.begin() + static_cast<std::ptrdiff_t>(toldByReaders), kept_.end(),
-                     [&](const Kept& one, const Kept& other) {
-                         return places.at(one.value).begin < places.at(other.value).begin;
-                     });
+    std::stable_sort(
+        kept_.begin() + static_cast<std::ptrdiff_t>(toldByReaders), kept_.end(),
+        [&](const Kept& one, const Kept& other) { return places.at(one.value).begin < places.at(other.value).begin; });
     std::vector<DocumentFault> faults;
     faults.reserve(kept_.size());
     for (Kept& kept : kept_) {
@@ -174,12 +176,12 @@ void Inspection::explainLacking() {
 }
 
 /// Returns what seems to be meant by something that is lacking: what stands in its place under a name that is near, or
-/// alone there, or under its own name in the other array of definitions.
+/// alone where a typeid belongs, or under its own name in the other array of definitions.
 Inspection::Unread* Inspection::misspelt(const Kept& kept, const UnreadByHolder& unread) {
     if (const auto beside = unread.find(kept.value); beside != unread.end()) {
         for (const std::string_view lacking : kept.lacking) {
             for (Unread* const candidate : beside->second) {
-                const bool isAlone = kept.value->IsObject() && kept.value->MemberCount() == 1 && kept.value != root_;
+                const bool isAlone = lacking == "typeid" && kept.value->MemberCount() == 1 && kept.value != root_;
                 if (isAlone || !nearest(candidate->name, {lacking}).empty()) {
                     return candidate;
                 }
@@ -240,8 +242,8 @@ DocumentFault Inspection::located(Kept&& kept, const Places& places) const {
         return {kept.message, std::move(kept.sentence), {}, {}, {"", *kept.offset, text_.size()}, std::nullopt};
     }
     const Spot& place = places.at(kept.value);
-    DocumentFault fault{kept.message,           std::move(kept.sentence), std::move(kept.name),
-                        std::move(kept.nearest), place,                    std::nullopt};
+    DocumentFault fault{kept.message, std::move(kept.sentence), std::move(kept.name), std::move(kept.nearest), place,
+                        std::nullopt};
     if (fault.name.empty() && place.pointer.starts_with("/inherits/") && kept.value->IsString()) {
         fault.name = stringIn(*kept.value);
     } else if (fault.name.empty()) {

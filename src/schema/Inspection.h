@@ -102,9 +102,7 @@ private:
     using UnreadByHolder = std::unordered_map<const JSONValue*, std::vector<Unread*>>;
 
     static std::string_view stringIn(const JSONValue& value) { return {value.GetString(), value.GetStringLength()}; }
-    std::size_t placeIn(const JSONValue& string) const {
-        return static_cast<std::size_t>(string.GetString() - copy_);
-    }
+    std::size_t placeIn(const JSONValue& string) const { return static_cast<std::size_t>(string.GetString() - copy_); }
     void mark(const JSONValue& string) { marks_[placeIn(string) / 64] |= std::uint64_t{1} << (placeIn(string) % 64); }
     bool isMarked(const JSONValue& string) const {
         return ((marks_[placeIn(string) / 64] >> (placeIn(string) % 64)) & 1) != 0;

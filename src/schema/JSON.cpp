@@ -158,11 +158,11 @@ JSON::JSON(std::string_view text, FaultHandler& handler) : handler_(handler) {
     }
     if (parsed.result.IsError()) {
         isParsed_ = false;
-        handler.handle({.message = messages("json-syntax"),
-                        .inserted = {std::to_string(parsed.result.Offset()),
-                                     rapidjson::GetParseError_En(parsed.result.Code())},
-                        .value = value_,
-                        .offset = parsed.result.Offset()});
+        handler.handle(
+            {.message = messages("json-syntax"),
+             .inserted = {std::to_string(parsed.result.Offset()), rapidjson::GetParseError_En(parsed.result.Code())},
+             .value = value_,
+             .offset = parsed.result.Offset()});
     }
 }
 

@@ -11,7 +11,7 @@ namespace Ostra {
 /// What came of parsing a text.
 struct ParsedText {
     rapidjson::ParseResult result; ///< Where the text is no JSON and why.
-    const char* copy;              ///< Where the copy of the text begins. Strings begin in it where they do in the text.
+    const char* copy; ///< Where the copy of the text begins. Strings begin in it where they do in the text.
 };
 
 /// Parses a whole text into a value. The value and a copy of the text, in which its strings lie, go into the pool.

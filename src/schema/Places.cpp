@@ -12,8 +12,8 @@ std::string_view stringIn(const JSONValue& value) { return {value.GetString(), v
 
 /// Members that every definition or typed value has: they tell nothing of what they belong to.
 bool isStructure(std::string_view member) {
-    constexpr std::array<std::string_view, 7> names{"typeid",     "inherits", "constants", "properties",
-                                                    "id", "value",    "typedValue"};
+    constexpr std::array<std::string_view, 7> names{"typeid", "inherits", "constants", "properties",
+                                                    "id",     "value",    "typedValue"};
     return std::find(names.begin(), names.end(), member) != names.end();
 }
 

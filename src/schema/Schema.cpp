@@ -142,8 +142,7 @@ void Schema::tellUnread() const {
     }
     view().noteReadWhole();
     for (const auto* table : {&constants_, &properties_}) {
-        const Message& message =
-            table == &constants_ ? messages("constant-unknown") : messages("property-unknown");
+        const Message& message = table == &constants_ ? messages("constant-unknown") : messages("property-unknown");
         for (const auto& [id, definition] : *table) {
             table->array()->noteIfUnread(definition, *definition.member("id"), message);
         }

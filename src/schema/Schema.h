@@ -59,7 +59,8 @@ private:
     bool isReadable_ = false;
     std::string_view typeId_;
     std::string_view base_;
-    bool beginsOnly_ = false; // an identifier can be in the base at its beginning alone, which is sooner seen than searched
+    bool beginsOnly_ =
+        false; // an identifier can be in the base at its beginning alone, which is sooner seen than searched
     std::array<std::byte, 2048> buffer_; // the definitions of most schemas fit
     // What does not fit comes from operator new: the default resource is the application's, and its threads share it.
     std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size(), std::pmr::new_delete_resource()};
