@@ -97,7 +97,7 @@ std::optional<EnumerationKind::Record> EnumerationKind::read(const Ostra::Schema
         integers.push_back(readInteger(schema.typeId(), identifier, definition));
         texts.push_back(identifier);
     }
-    const auto& properties = schema.properties().array();
+    const auto properties = schema.properties().array();
     if (!properties) {
         static_cast<void>(schema.failUndefinedProperty({}, messages("enumeration-empty"), {schema.typeId()}));
     } else if (properties->size() == 0) {

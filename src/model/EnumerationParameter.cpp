@@ -36,7 +36,7 @@ namespace {
 
 /// Returns the definition's "typedValue" if it has one, else its "value". Unlike a constant that is plainly typed, the
 /// "value" beside a "typedValue" is an inline value.
-std::optional<Ostra::JSONView> typedValueIn(Ostra::JSONView definition) {
+Ostra::MaybeView typedValueIn(Ostra::JSONView definition) {
     const auto typedValue = definition.member("typedValue");
     return typedValue ? typedValue : definition.member("value");
 }

@@ -177,7 +177,7 @@ private:
 
     /// Returns the boundary of a side, if it has one that counts. One of 0 is as good as none where none counts.
     template <class Find>
-    static std::optional<Ostra::JSONView> inspectSide(Find find, std::string_view flagId, std::string_view boundaryId) {
+    static Ostra::MaybeView inspectSide(Find find, std::string_view flagId, std::string_view boundaryId) {
         const auto flag = find(flagId);
         const auto boundary = find(boundaryId);
         if (!flag || !flag->isBoolean()) {

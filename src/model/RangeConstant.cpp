@@ -13,7 +13,7 @@ std::string_view readRangeTypeId(const Ostra::Schema& schema, Ostra::JSONView ty
     return Ostra::readTypeId(*typeId);
 }
 
-std::optional<Ostra::JSONView> readInlineValue(std::string_view typeId, Ostra::JSONView typedValue) {
+Ostra::MaybeView readInlineValue(std::string_view typeId, Ostra::JSONView typedValue) {
     const auto value = typedValue.member("value");
     if (!value) {
         return typedValue.failLacking({"value"}, messages("inline-range-missing"), {typeId}).none();

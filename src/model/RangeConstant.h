@@ -28,7 +28,7 @@ struct InlineRangeBase {
 /// Returns the typeid that the typedValue of a range constant names.
 std::string_view readRangeTypeId(const Ostra::Schema& schema, Ostra::JSONView typedValue);
 /// Returns the inline value that must stand beside the typeid of a base, or nothing where faults are kept.
-std::optional<Ostra::JSONView> readInlineValue(std::string_view typeId, Ostra::JSONView typedValue);
+Ostra::MaybeView readInlineValue(std::string_view typeId, Ostra::JSONView typedValue);
 /// Checks that no inline value stands beside the typeid of a registered range.
 void refuseInlineValue(std::string_view typeId, Ostra::JSONView typedValue);
 

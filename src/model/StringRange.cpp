@@ -108,7 +108,7 @@ void writeAllowedValues(Ostra::SchemaWriter& writer, const SetStringRangeCompone
 }
 
 /// Warns of a set that allows nothing at all.
-void inspectSet(std::optional<Ostra::JSONView> allowedValues) {
+void inspectSet(Ostra::MaybeView allowedValues) {
     if (allowedValues && allowedValues->isArray() && allowedValues->size() == 0) {
         allowedValues->report(messages("range-empty"));
     }

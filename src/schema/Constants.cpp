@@ -23,7 +23,7 @@ void tellRepeated(std::vector<JSONView> typeIds) {
 }
 
 /// Returns the member "typeid" of a typedValue, or nothing where faults are kept and it has one.
-std::optional<JSONView> readOnlyTypeId(JSONView typedValue) {
+MaybeView readOnlyTypeId(JSONView typedValue) {
     if (!typedValue.isObject()) {
         return typedValue.fail(messages("typed-value-object-expected")).none();
     }
@@ -134,7 +134,7 @@ std::string_view readTypeId(JSONView typeId) {
     return typeId.string();
 }
 
-std::optional<JSONView> Constants::find(std::string_view id) const {
+MaybeView Constants::find(std::string_view id) const {
     const auto definition = schema_.constants().find(id);
     return definition ? Schema::valueOf(*definition) : std::nullopt;
 }

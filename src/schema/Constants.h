@@ -80,7 +80,7 @@ public:
     }
 
     /// Returns the value of a constant for a reader of its own, or nothing when it is not defined.
-    std::optional<JSONView> find(std::string_view id) const;
+    MaybeView find(std::string_view id) const;
 
 private:
     Nothing failUndefined(std::string_view id) const;

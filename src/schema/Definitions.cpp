@@ -34,7 +34,7 @@ const Definitions::Definition* Definitions::search(std::string_view id) const {
 std::vector<Definitions::Definition> Definitions::sorted() const {
     std::vector<Definition> sorted(definitions_.begin(), definitions_.end());
     std::sort(sorted.begin(), sorted.end(), [](const Definition& a, const Definition& b) { return a.id < b.id; });
-    if (array_ && array_->isInspected()) {
+    if (isInspected_) {
         for (const Definition& definition : definitions_) {
             definition.definition.member("id")->noteRead();
         }

@@ -25,23 +25,24 @@ public:
     /// Makes room for the definitions of an array.
     void begin(JSONView array) {
         array_ = array;
+        isInspected_ = array.isInspected();
         definitions_.reserve(array.size());
     }
     /// Adds a definition; returns false if there is one of that id.
     bool add(std::string_view id, JSONView definition);
     /// Returns the definition of that id, or nothing.
-    std::optional<JSONView> find(std::string_view id) const {
+    MaybeView find(std::string_view id) const {
         const Definition* const found = search(id);
-        if (array_ && array_->isInspected()) [[unlikely]] {
+        if (isInspected_) [[unlikely]] {
             array_->noteLookForDefinition(id, found != nullptr ? found->definition.member("id") : std::nullopt);
         }
-        return found != nullptr ? std::optional(found->definition) : std::nullopt;
+        return found != nullptr ? MaybeView(found->definition) : std::nullopt;
     }
     /// Says that there is something in place of the array, which has been told.
     void setFaulty() { isFaulty_ = true; }
     bool isFaulty() const { return isFaulty_; }
     /// Returns the array in which they stand, if there is one.
-    const std::optional<JSONView>& array() const { return array_; }
+    MaybeView array() const { return array_; }
 
     std::size_t size() const { return definitions_.size(); }
     bool empty() const { return definitions_.empty(); }
@@ -56,7 +57,8 @@ private:
     const Definition* search(std::string_view id) const;
     static std::uint64_t sizeBit(std::string_view id) { return std::uint64_t{1} << (id.size() % 64); }
 
-    std::optional<JSONView> array_;
+    MaybeView array_ = std::nullopt;
+    bool isInspected_ = false;
     bool isFaulty_ = false;
     std::pmr::vector<Definition> definitions_;
     std::uint64_t sizes_ = 0; // a bit for each size of an id: most ids that are not there are of none of them

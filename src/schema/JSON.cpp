@@ -124,7 +124,7 @@ void JSONView::noteRead() const {
     }
 }
 
-void JSONView::noteLookForDefinition(std::string_view id, const std::optional<JSONView>& found) const {
+void JSONView::noteLookForDefinition(std::string_view id, MaybeView found) const {
     handler_->inspection()->lookedForDefinition(*value_, id);
     if (found) {
         found->noteRead();

@@ -14,6 +14,8 @@
 
 namespace Ostra {
 
+class MaybeView;
+
 /// A read-only look at one value of a document; valid as long as the JSON it came from.
 class JSONView {
 public:
@@ -31,14 +33,8 @@ public:
     std::size_t size() const { return isObject() ? value_->MemberCount() : value_->Size(); }
 
     /// Returns the first member of that name, or nothing when there is none or the value is no object.
-    std::optional<JSONView> member(std::string_view name) const {
-        const JSONMember* const found = isObject() ? findMember(name) : nullptr;
-        if (isInspected()) [[unlikely]] {
-            noteLook(name, found);
-        }
-        return found != nullptr ? std::optional(JSONView(found->value, *handler_)) : std::nullopt;
-    }
-    bool hasMember(std::string_view name) const { return member(name).has_value(); }
+    MaybeView member(std::string_view name) const;
+    bool hasMember(std::string_view name) const;
 
     /// Calls visit(name, value) for each member of an object in document order.
     template <class Visitor>
@@ -96,7 +92,7 @@ public:
     /// Notes that the definition whose id this is was read.
     void noteRead() const;
     /// Notes that a definition was looked for in this array.
-    void noteLookForDefinition(std::string_view id, const std::optional<JSONView>& found) const;
+    void noteLookForDefinition(std::string_view id, MaybeView found) const;
     /// Notes that a definition in this array, of that id, was not read unless that was noted.
     void noteIfUnread(JSONView definition, JSONView id, const Message& message) const;
     /// Notes that all has been read that will be.
@@ -105,6 +101,9 @@ public:
     void notePassedOver() const;
 
 private:
+    friend class MaybeView;
+    JSONView() = default; // of nothing
+
     using JSONMember = JSONValue::Member;
 
     const JSONMember* findMember(std::string_view name) const {
@@ -118,9 +117,36 @@ private:
     void noteLook(std::string_view name, const JSONMember* found) const;
     void noteName() const;
 
-    const JSONValue* value_;
-    FaultHandler* handler_;
+    const JSONValue* value_ = nullptr;
+    FaultHandler* handler_ = nullptr;
 };
+
+/// A value that may not be there. As wide as the view itself, so that it travels in registers, where an optional one
+/// would take a detour through memory a dozen times a schema.
+class MaybeView {
+public:
+    // NOLINTBEGIN(google-explicit-constructor): a value is one that is there
+    MaybeView(JSONView view) : view_(view) {}
+    MaybeView(std::nullopt_t) {}
+    // NOLINTEND(google-explicit-constructor)
+
+    explicit operator bool() const { return view_.value_ != nullptr; }
+    const JSONView& operator*() const { return view_; }
+    const JSONView* operator->() const { return &view_; }
+
+private:
+    JSONView view_;
+};
+
+inline MaybeView JSONView::member(std::string_view name) const {
+    const JSONMember* const found = isObject() ? findMember(name) : nullptr;
+    if (isInspected()) [[unlikely]] {
+        noteLook(name, found);
+    }
+    return found != nullptr ? MaybeView(JSONView(found->value, *handler_)) : std::nullopt;
+}
+
+inline bool JSONView::hasMember(std::string_view name) const { return static_cast<bool>(member(name)); }
 
 /// A parsed document. It owns the memory in which its values lie.
 class JSON {

@@ -48,7 +48,7 @@ std::optional<std::string_view> readBase(JSONView schema) {
 }
 
 /// Returns the id of a definition, or nothing where faults are kept and this has one.
-std::optional<JSONView> readId(JSONView definition) {
+MaybeView readId(JSONView definition) {
     if (!definition.isObject()) {
         return definition.fail(messages("definition-object-expected")).none();
     }
@@ -107,7 +107,7 @@ void Schema::readDefinitions(const char* name, Definitions& definitions) {
     });
 }
 
-std::optional<JSONView> Schema::valueOf(JSONView definition) {
+MaybeView Schema::valueOf(JSONView definition) {
     if (const auto value = definition.member("value")) {
         return value;
     }
@@ -132,7 +132,7 @@ Nothing Schema::failUndefined(const Definitions& definitions, std::string_view n
     if (definitions.isFaulty()) {
         return {};
     }
-    const auto& array = definitions.array();
+    const auto array = definitions.array();
     return array ? array->failLacking({id}, message, inserted) : view().failLacking({name}, message, inserted);
 }
 

@@ -33,7 +33,7 @@ public:
 
     /// Returns the value of a definition: its "value", else its "typedValue"; fails when it has neither, and returns
     /// nothing where faults are kept.
-    static std::optional<JSONView> valueOf(JSONView definition);
+    static MaybeView valueOf(JSONView definition);
 
     /// Returns the whole of the document.
     JSONView view() const { return document_.view(); }

@@ -2,6 +2,7 @@
 
 #include "AllocationWatch.h"
 #include "SmallStack.h"
+#include "schema/ExceptionFactory.h"
 #include "schema/JSON.h"
 #include "support/Messages.h"
 #include "support/RowNames.h"

@@ -1,3 +1,4 @@
+#include "schema/ExceptionFactory.h"
 #include "schema/JSON.h"
 
 #include "AllocationWatch.h"

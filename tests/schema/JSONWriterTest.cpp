@@ -1,6 +1,7 @@
 #include "schema/JSONWriter.h"
 
 #include "AllocationWatch.h"
+#include "schema/ExceptionFactory.h"
 #include "schema/JSON.h"
 #include "support/Messages.h"
 
