@@ -122,6 +122,9 @@ Spot Inspection::placeOfTypeId() const {
 }
 
 void Inspection::findUnread() {
+    if (!root_->IsObject() && !root_->IsArray()) {
+        return;
+    }
     toWalk_.assign(1, root_);
     while (!toWalk_.empty()) {
         const JSONValue& value = *toWalk_.back();
