@@ -55,8 +55,9 @@ void Generator::addNumericRange(SchemaText& schema, const Stock& ranges, std::st
         const std::string value = percent(30) ? object("") : "";
         schema.reference("range", oneOf(ranges, 1), value);
     } else if (percent(70)) {
-        std::string members = R"("fromBottom":true,"bottomBoundary":)" + boundary(isFloat);
-        members += percent(60) ? R"(,"fromTop":true,"topBoundary":)" + boundary(isFloat) : R"(,"fromTop":false)";
+        const auto [bottom, top] = boundaries(isFloat);
+        std::string members = R"("fromBottom":true,"bottomBoundary":)" + bottom;
+        members += percent(60) ? R"(,"fromTop":true,"topBoundary":)" + top : R"(,"fromTop":false)";
         schema.reference("range", base, object(members));
     }
 }
@@ -76,20 +77,29 @@ void Generator::addStringRange(SchemaText& schema) {
 }
 
 void Generator::addBounds(SchemaText& schema, bool isFloat) {
+    const auto [bottom, top] = boundaries(isFloat);
     const bool fromBottom = percent(80);
     schema.value("fromBottom", fromBottom ? "true" : "false");
     if (fromBottom) {
-        schema.value("bottomBoundary", boundary(isFloat));
+        schema.value("bottomBoundary", bottom);
     }
     const bool fromTop = percent(70);
     schema.value("fromTop", fromTop ? "true" : "false");
     if (fromTop) {
-        schema.value("topBoundary", boundary(isFloat));
+        schema.value("topBoundary", top);
     }
 }
 
 std::string Generator::oneOf(const Stock& stock, std::uint32_t step) {
     return nameOf(stock.vocabulary, step * random_.below(stock.count / step)).typeId;
+}
+
+std::pair<std::string, std::string> Generator::boundaries(bool isFloat) {
+    std::pair<std::string, std::string> both{boundary(isFloat), boundary(isFloat)};
+    if (std::stod(both.first) > std::stod(both.second)) {
+        std::swap(both.first, both.second); // else nothing lies between them
+    }
+    return both;
 }
 
 std::string Generator::boundary(bool isFloat) {

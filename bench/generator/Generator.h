@@ -88,6 +88,7 @@ private:
     void addBounds(SchemaText& schema, bool isFloat);
     void addNumericRange(SchemaText& schema, const Stock& ranges, std::string_view base, bool isFloat);
     void addStringRange(SchemaText& schema);
+    std::pair<std::string, std::string> boundaries(bool isFloat);
     std::string boundary(bool isFloat);
     std::string sentence();
 

@@ -83,6 +83,8 @@ private:
     };
 
     bool isTaken(const Directory::Key& key);
+    static void tellTaken(const Ostra::Schema& schema);
+    std::vector<Ostra::DocumentFault> faultsReadAgain(TextId id, bool isTaken);
     template <class K>
     bool readAs(const Ostra::Schema& schema, TextId id);
     void readUnit(TextId id, bool isTaken);
@@ -130,7 +132,7 @@ void Review::read(const std::string& key, const std::string& text) {
     const Ostra::Schema schema(text, inspection_);
     const bool taken = schema.isReadable() && isTaken(schema.typeId());
     if (taken) {
-        schema.view().member("typeid")->report(EngineMessages::messages("typeid-taken"), {schema.typeId()});
+        tellTaken(schema);
     }
     texts_.push_back({&key, &text});
     const bool isAccepted =
@@ -141,9 +143,25 @@ void Review::read(const std::string& key, const std::string& text) {
     if (schema.isReadable() && !isAccepted) {
         readUnit(id, taken);
     } else {
-        addFaults(id, faultsOf(id, inspection_.faults()));
+        addFaults(id, faultsOf(id, inspection_.wantsLooks() ? faultsReadAgain(id, taken) : inspection_.faults()));
     }
     hasFaulty_ = hasFaulty_ || texts_[id].isFaulty;
+}
+
+void Review::tellTaken(const Ostra::Schema& schema) {
+    schema.view().member("typeid")->report(EngineMessages::messages("typeid-taken"), {schema.typeId()});
+}
+
+/// Returns the faults of a text that has something that nobody reads.
+std::vector<Ostra::DocumentFault> Review::faultsReadAgain(TextId id, bool isTaken) {
+    inspection_.noteLooks();
+    const Ostra::Schema schema(*texts_[id].text, inspection_);
+    if (isTaken) {
+        tellTaken(schema);
+    }
+    withKind(texts_[id].kind, [&]<class K>() { static_cast<void>(K::read(schema)); });
+    schema.tellUnread();
+    return inspection_.faults();
 }
 
 template <class K>

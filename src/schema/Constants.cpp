@@ -10,35 +10,26 @@ namespace Ostra {
 
 namespace {
 
-/// Warns of typeids that stand twice in a list.
-void tellRepeated(std::vector<JSONView> typeIds) {
-    const auto key = [](JSONView typeId) { return std::pair(typeId.string().size(), typeId.string()); };
-    const auto isBefore = [key](JSONView one, JSONView other) { return key(one) < key(other); };
+/// Warns of typeids that stand twice in a list of typedValues.
+void tellRepeated(JSONView typedValues) {
+    std::vector<JSONView> typeIds;
+    typedValues.forEachElement([&](JSONView element) {
+        const auto typeId = element.isObject() ? element.member("typeid") : std::nullopt;
+        if (typeId && typeId->isString()) {
+            typeIds.push_back(*typeId);
+        }
+    });
+    const auto isBefore = [](JSONView one, JSONView other) {
+        const std::string_view first = one.string();
+        const std::string_view second = other.string();
+        return std::pair(first.size(), first) < std::pair(second.size(), second);
+    };
     std::stable_sort(typeIds.begin(), typeIds.end(), isBefore);
     for (std::size_t place = 1; place < typeIds.size(); ++place) {
         if (!isBefore(typeIds[place - 1], typeIds[place])) {
             typeIds[place].reportBeside(typeIds[place - 1], messages("typeid-repeated"), {typeIds[place].string()});
         }
     }
-}
-
-/// Returns the member "typeid" of a typedValue, or nothing where faults are kept and it has one.
-MaybeView readOnlyTypeId(JSONView typedValue) {
-    if (!typedValue.isObject()) {
-        return typedValue.fail(messages("typed-value-object-expected")).none();
-    }
-    if (typedValue.size() != 1) {
-        return typedValue.fail(messages("typed-value-typeid-only")).none();
-    }
-    const auto typeId = typedValue.member("typeid");
-    if (!typeId) {
-        return typedValue.failLacking({"typeid"}, messages("typed-value-typeid-missing")).none();
-    }
-    if (!typeId->isString() || typeId->string().empty()) {
-        return typeId->fail(messages("typed-value-typeid-empty")).none();
-    }
-    typeId->noteReference();
-    return typeId;
 }
 
 } // namespace
@@ -79,8 +70,21 @@ double Number::read(JSONView value) {
 }
 
 std::string_view TypedValue::read(JSONView value) {
-    const auto typeId = readOnlyTypeId(value);
-    return typeId ? typeId->string() : std::string_view();
+    if (!value.isObject()) {
+        return value.fail(messages("typed-value-object-expected"));
+    }
+    if (value.size() != 1) {
+        return value.fail(messages("typed-value-typeid-only"));
+    }
+    const auto typeId = value.member("typeid");
+    if (!typeId) {
+        return value.failLacking({"typeid"}, messages("typed-value-typeid-missing"));
+    }
+    if (!typeId->isString() || typeId->string().empty()) {
+        return typeId->fail(messages("typed-value-typeid-empty"));
+    }
+    typeId->noteReference();
+    return typeId->string();
 }
 
 std::vector<std::string_view> TypedValues::read(JSONView value) {
@@ -89,16 +93,10 @@ std::vector<std::string_view> TypedValues::read(JSONView value) {
     }
     std::vector<std::string_view> typeIds;
     typeIds.reserve(value.size());
-    std::vector<JSONView> inspected;
-    value.forEachElement([&](JSONView element) {
-        if (const auto typeId = readOnlyTypeId(element)) {
-            typeIds.push_back(typeId->string());
-            if (value.isInspected()) [[unlikely]] {
-                inspected.push_back(*typeId);
-            }
-        }
-    });
-    tellRepeated(std::move(inspected));
+    value.forEachElement([&](JSONView element) { typeIds.push_back(TypedValue::read(element)); });
+    if (value.isInspected()) [[unlikely]] {
+        tellRepeated(value);
+    }
     return typeIds;
 }
 
@@ -132,11 +130,6 @@ std::string_view readTypeId(JSONView typeId) {
     }
     typeId.noteReference();
     return typeId.string();
-}
-
-MaybeView Constants::find(std::string_view id) const {
-    const auto definition = schema_.constants().find(id);
-    return definition ? Schema::valueOf(*definition) : std::nullopt;
 }
 
 Nothing Constants::failUndefined(std::string_view id) const {

@@ -80,7 +80,10 @@ public:
     }
 
     /// Returns the value of a constant for a reader of its own, or nothing when it is not defined.
-    MaybeView find(std::string_view id) const;
+    MaybeView find(std::string_view id) const {
+        const auto definition = schema_.constants().find(id);
+        return definition ? Schema::valueOf(*definition) : std::nullopt;
+    }
 
 private:
     Nothing failUndefined(std::string_view id) const;

@@ -5,7 +5,7 @@
 namespace Ostra {
 
 bool Definitions::add(std::string_view id, JSONView definition) {
-    if (search(id) != nullptr) {
+    if (hasSizeOf(id) && search(id)) {
         return false;
     }
     definitions_.push_back({id, definition});
@@ -18,17 +18,23 @@ bool Definitions::add(std::string_view id, JSONView definition) {
     return true;
 }
 
-const Definitions::Definition* Definitions::search(std::string_view id) const {
-    if ((sizes_ & sizeBit(id)) == 0) {
-        return nullptr;
-    }
+MaybeView Definitions::search(std::string_view id) const {
     if (definitions_.size() > few) {
         const auto found = index_.find(id);
-        return found != index_.end() ? &definitions_[found->second] : nullptr;
+        return found != index_.end() ? MaybeView(definitions_[found->second].definition) : std::nullopt;
     }
-    const auto found = std::find_if(definitions_.begin(), definitions_.end(),
-                                    [id](const Definition& definition) { return definition.id == id; });
-    return found != definitions_.end() ? &*found : nullptr;
+    for (const Definition& definition : definitions_) {
+        if (definition.id == id) {
+            return definition.definition;
+        }
+    }
+    return std::nullopt;
+}
+
+MaybeView Definitions::findAndNote(std::string_view id) const {
+    const MaybeView found = search(id);
+    array_->noteLookForDefinition(id, found ? found->member("id") : std::nullopt);
+    return found;
 }
 
 std::vector<Definitions::Definition> Definitions::sorted() const {

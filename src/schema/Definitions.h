@@ -32,11 +32,10 @@ public:
     bool add(std::string_view id, JSONView definition);
     /// Returns the definition of that id, or nothing.
     MaybeView find(std::string_view id) const {
-        const Definition* const found = search(id);
         if (isInspected_) [[unlikely]] {
-            array_->noteLookForDefinition(id, found != nullptr ? found->definition.member("id") : std::nullopt);
+            return findAndNote(id);
         }
-        return found != nullptr ? MaybeView(found->definition) : std::nullopt;
+        return hasSizeOf(id) ? search(id) : std::nullopt;
     }
     /// Says that there is something in place of the array, which has been told.
     void setFaulty() { isFaulty_ = true; }
@@ -54,7 +53,9 @@ public:
 private:
     static constexpr std::size_t few = 16; // up to so many, looking at one after the other is faster than any index
 
-    const Definition* search(std::string_view id) const;
+    bool hasSizeOf(std::string_view id) const { return (sizes_ & sizeBit(id)) != 0; }
+    MaybeView search(std::string_view id) const;
+    MaybeView findAndNote(std::string_view id) const;
     static std::uint64_t sizeBit(std::string_view id) { return std::uint64_t{1} << (id.size() % 64); }
 
     MaybeView array_ = std::nullopt;

@@ -20,11 +20,12 @@ struct Hash {
 
 } // namespace
 
-void Inspection::begin(std::string_view text, const char* copy, const JSONValue& root) {
+void Inspection::begin(std::string_view text, const ParsedText& parsed, const JSONValue& root) {
     text_ = text;
-    copy_ = copy;
+    parsed_ = parsed;
     root_ = &root;
     marks_.assign(text.size() / 64 + 1, 0);
+    markCount_ = 0;
     looks_.clear();
     references_.clear();
     kept_.clear();
@@ -32,6 +33,7 @@ void Inspection::begin(std::string_view text, const char* copy, const JSONValue&
     passedOver_.clear();
     hasErrors_ = false;
     isReadWhole_ = false;
+    isAllMarked_ = false;
 }
 
 void Inspection::handle(const Finding& finding) {
@@ -54,8 +56,9 @@ void Inspection::unread(const JSONValue& array, const JSONValue& definition, con
 }
 
 std::vector<DocumentFault> Inspection::faults() {
+    notesLooks_ = false;
     const bool isJSON = kept_.empty() || !kept_.front().offset;
-    if (isJSON && (isReadWhole_ || !kept_.empty())) {
+    if (isJSON && (wantsLooks() || !kept_.empty())) {
         findUnread();
     }
     if (kept_.empty() && unread_.empty()) {

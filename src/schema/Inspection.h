@@ -1,6 +1,7 @@
 #pragma once
 
 #include "schema/FaultHandler.h"
+#include "schema/JSONParser.h"
 #include "schema/Memory.h"
 #include "schema/Message.h"
 #include "schema/Places.h"
@@ -27,40 +28,58 @@ struct DocumentFault {
     std::optional<Spot> other;
 };
 
-/// Reads along with the readers of one document after another: keeps every fault, and notes what they look at, so that
+/// Reads along with the readers of one document after another: keeps every fault, and marks what they look at, so that
 /// it can tell what none of them looks at.
+///
+/// What has no fault is to cost next to nothing: readers only set bits. The names that they looked for, of which one
+/// may be meant by something that nobody reads, are noted when a document is read once more.
 class Inspection final : public FaultHandler {
 public:
     Inspection() : FaultHandler(this) {}
 
     /// @name Told by readers
     /// @{
-    /// Begins with a document; its copy is where the strings of its values lie.
-    void begin(std::string_view text, const char* copy, const JSONValue& root);
+    /// Begins with a document.
+    void begin(std::string_view text, const ParsedText& parsed, const JSONValue& root);
     void handle(const Finding& finding) override;
     /// Somebody looked for a member.
     void looked(const JSONValue& object, std::string_view name, const JSONValue::Member* found) {
-        looks_.push_back({&object, name, found != nullptr ? &found->value : nullptr});
         if (found != nullptr) {
             mark(found->name);
         }
+        if (notesLooks_) {
+            looks_.push_back({&object, name, found != nullptr ? &found->value : nullptr});
+        }
     }
-    /// Somebody looked for a definition; if there is one, its id is marked as read.
-    void lookedForDefinition(const JSONValue& array, std::string_view id) { looks_.push_back({&array, id, nullptr}); }
-    /// The id of a definition was read.
+    /// Somebody looked for a definition in an array.
+    void lookedForDefinition(const JSONValue& array, std::string_view id) {
+        if (notesLooks_) {
+            looks_.push_back({&array, id, nullptr});
+        }
+    }
+    /// A definition is read; this is its id.
     void read(const JSONValue& id) { mark(id); }
     /// A string was read as the typeid of an object that the document names.
     void named(const JSONValue& typeId) { references_.push_back(&typeId); }
     /// Nobody is going to read what is in this value.
     void passOver(const JSONValue& value) { passedOver_.insert(&value); }
-    /// All was read that will be: a definition whose id is not marked was not, nor was a member that nobody looked for.
-    void readAll() { isReadWhole_ = true; }
+    /// All was read that will be, of so many definitions in all: the rest is passed over.
+    void readAll(std::size_t definitions) {
+        isReadWhole_ = true;
+        isAllMarked_ = markCount_ == parsed_.members + definitions;
+    }
+    bool isAllMarked() const { return isAllMarked_; }
     bool isRead(const JSONValue& id) const { return isMarked(id); }
     /// A definition was not read.
     void unread(const JSONValue& array, const JSONValue& definition, const JSONValue& id, const Message& message);
     /// @}
 
     bool hasErrors() const { return hasErrors_; }
+    /// Whether the document has something that nobody looked at, and is to be read once more after noteLooks, so that
+    /// more can be said of it.
+    bool wantsLooks() const { return isReadWhole_ && !isAllMarked_; }
+    /// Notes names until faults are asked for.
+    void noteLooks() { notesLooks_ = true; }
     /// Returns what is wrong with the document and, once all is read, what nobody looked at: in the order in which
     /// readers came upon it, then in the order of the text.
     std::vector<DocumentFault> faults();
@@ -102,8 +121,15 @@ private:
     using UnreadByHolder = std::unordered_map<const JSONValue*, std::vector<Unread*>>;
 
     static std::string_view stringIn(const JSONValue& value) { return {value.GetString(), value.GetStringLength()}; }
-    std::size_t placeIn(const JSONValue& string) const { return static_cast<std::size_t>(string.GetString() - copy_); }
-    void mark(const JSONValue& string) { marks_[placeIn(string) / 64] |= std::uint64_t{1} << (placeIn(string) % 64); }
+    std::size_t placeIn(const JSONValue& string) const {
+        return static_cast<std::size_t>(string.GetString() - parsed_.copy);
+    }
+    void mark(const JSONValue& string) {
+        std::uint64_t& marks = marks_[placeIn(string) / 64];
+        const std::uint64_t mark = std::uint64_t{1} << (placeIn(string) % 64);
+        markCount_ += (marks & mark) == 0 ? 1 : 0;
+        marks |= mark;
+    }
     bool isMarked(const JSONValue& string) const {
         return ((marks_[placeIn(string) / 64] >> (placeIn(string) % 64)) & 1) != 0;
     }
@@ -118,9 +144,10 @@ private:
     DocumentFault located(Kept&& kept, const Places& places) const;
 
     std::string_view text_;
-    const char* copy_ = nullptr;
+    ParsedText parsed_{};
     const JSONValue* root_ = nullptr;
     std::vector<std::uint64_t> marks_; // a bit for each byte of the text: a name that was looked for begins there
+    std::size_t markCount_ = 0;
     std::vector<Look> looks_;
     std::vector<const JSONValue*> references_;
     std::vector<Kept> kept_;
@@ -129,6 +156,8 @@ private:
     std::vector<const JSONValue*> toWalk_;
     bool hasErrors_ = false;
     bool isReadWhole_ = false;
+    bool isAllMarked_ = false;
+    bool notesLooks_ = false;
 };
 
 } // namespace Ostra

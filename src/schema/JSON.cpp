@@ -137,7 +137,10 @@ void JSONView::noteIfUnread(JSONView definition, JSONView id, const Message& mes
     }
 }
 
-void JSONView::noteReadWhole() const { handler_->inspection()->readAll(); }
+bool JSONView::noteReadWhole(std::size_t definitions) const {
+    handler_->inspection()->readAll(definitions);
+    return handler_->inspection()->isAllMarked();
+}
 
 void JSONView::notePassedOver() const {
     if (isInspected()) {
@@ -154,7 +157,7 @@ void JSONView::noteName() const { handler_->inspection()->named(*value_); }
 JSON::JSON(std::string_view text, FaultHandler& handler) : handler_(handler) {
     const ParsedText parsed = parseText(text, memory_.pool(), value_);
     if (Inspection* const inspection = handler.inspection()) {
-        inspection->begin(text, parsed.copy, value_);
+        inspection->begin(text, parsed, value_);
     }
     if (parsed.result.IsError()) {
         isParsed_ = false;

@@ -95,8 +95,8 @@ public:
     void noteLookForDefinition(std::string_view id, MaybeView found) const;
     /// Notes that a definition in this array, of that id, was not read unless that was noted.
     void noteIfUnread(JSONView definition, JSONView id, const Message& message) const;
-    /// Notes that all has been read that will be.
-    void noteReadWhole() const;
+    /// Notes that all has been read that will be, of so many definitions in all; returns whether nothing is left.
+    bool noteReadWhole(std::size_t definitions) const;
     /// Notes that what is in this value is not going to be read.
     void notePassedOver() const;
 

@@ -38,6 +38,7 @@ public:
     ValueHandler(Document& document, int maxDepth) : document_(document), depthLeft_(maxDepth) {}
 
     bool isTooDeep() const { return depthLeft_ < 0; }
+    std::size_t members() const { return members_; }
 
     bool Null() { return document_.Null(); }
     bool Bool(bool value) { return document_.Bool(value); }
@@ -46,6 +47,7 @@ public:
     bool Key(const char* text, SizeType length, bool copy) { return document_.Key(text, length, copy); }
     bool EndObject(SizeType memberCount) {
         ++depthLeft_;
+        members_ += memberCount;
         return document_.EndObject(memberCount);
     }
     bool StartArray() { return --depthLeft_ >= 0 && document_.StartArray(); }
@@ -77,6 +79,7 @@ public:
 private:
     Document& document_;
     int depthLeft_;
+    std::size_t members_ = 0;
 };
 
 /// Returns the result that the reader's default flags give, and treats a byte 0 as a byte like any other: the reader
@@ -113,7 +116,7 @@ std::optional<ParsedText> parseWith(std::string_view text, JSONPool& pool, JSONV
         ValueHandler handler(target, maxDepth);
         const ParseResult result = reader.Parse<flags>(stream, handler);
         if (!handler.isTooDeep()) {
-            parsed = {adjusted(result, stream.Tell(), text.size()), copy};
+            parsed = {adjusted(result, stream.Tell(), text.size()), handler.members(), copy};
         }
         return parsed && !parsed->result.IsError();
     };

@@ -4,6 +4,7 @@
 
 #include <rapidjson/document.h>
 
+#include <cstddef>
 #include <string_view>
 
 namespace Ostra {
@@ -11,6 +12,7 @@ namespace Ostra {
 /// What came of parsing a text.
 struct ParsedText {
     rapidjson::ParseResult result; ///< Where the text is no JSON and why.
+    std::size_t members;           ///< How many members all objects have together.
     const char* copy; ///< Where the copy of the text begins. Strings begin in it where they do in the text.
 };
 

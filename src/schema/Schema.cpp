@@ -21,18 +21,18 @@ std::string_view readTypeId(JSONView schema) {
     return typeId->string();
 }
 
-/// Returns the one base, or nothing where faults are kept and this has one.
-std::optional<std::string_view> readBase(JSONView schema) {
+/// Returns the one base; an empty text where faults are kept and this has one.
+std::string_view readBase(JSONView schema) {
     const auto inherits = schema.member("inherits");
     if (!inherits) {
-        return schema.failLacking({"inherits"}, messages("inherits-missing")).none();
+        return schema.failLacking({"inherits"}, messages("inherits-missing"));
     }
     if (!inherits->isArray()) {
-        return inherits->fail(messages("array-expected")).none();
+        return inherits->fail(messages("array-expected"));
     }
-    std::optional<std::string_view> base;
+    std::string_view base;
     inherits->forEachElement([&](JSONView element) {
-        base = std::nullopt;
+        base = {};
         if (!element.isString()) {
             element.report(messages("array-of-strings-expected"));
         } else if (element.string().empty()) {
@@ -42,7 +42,7 @@ std::optional<std::string_view> readBase(JSONView schema) {
         }
     });
     if (inherits->size() != 1) {
-        return inherits->fail(messages("single-base-expected")).none();
+        return inherits->fail(messages("single-base-expected"));
     }
     return base;
 }
@@ -78,10 +78,9 @@ bool Schema::readHead() {
     if (!view().isObject()) {
         return false; // which has been told: it has no typeid
     }
-    const auto base = readBase(view());
-    base_ = base.value_or(std::string_view());
+    base_ = readBase(view());
     beginsOnly_ = Identifier::findStart(base_, 1) == std::string_view::npos;
-    return base.has_value();
+    return !base_.empty();
 }
 
 void Schema::readDefinitions(const char* name, Definitions& definitions) {
@@ -140,7 +139,9 @@ void Schema::tellUnread() const {
     if (!view().isInspected()) {
         return;
     }
-    view().noteReadWhole();
+    if (view().noteReadWhole(constants_.size() + properties_.size())) {
+        return;
+    }
     for (const auto* table : {&constants_, &properties_}) {
         const Message& message = table == &constants_ ? messages("constant-unknown") : messages("property-unknown");
         for (const auto& [id, definition] : *table) {

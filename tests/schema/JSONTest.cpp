@@ -1,5 +1,5 @@
-#include "schema/ExceptionFactory.h"
 #include "schema/JSON.h"
+#include "schema/ExceptionFactory.h"
 
 #include "AllocationWatch.h"
 #include "schema/Messages.h"

@@ -29,6 +29,15 @@ Fault toFault(Ostra::DocumentFault&& fault) {
             fault.other ? std::optional(toPlace(*std::move(fault.other))) : std::nullopt};
 }
 
+std::vector<Fault> toFaults(std::vector<Ostra::DocumentFault>&& found) {
+    std::vector<Fault> faults;
+    faults.reserve(found.size());
+    for (Ostra::DocumentFault& fault : found) {
+        faults.push_back(toFault(std::move(fault)));
+    }
+    return faults;
+}
+
 } // namespace
 
 /// The units in the order in which they were registered. A unit is built when its schema is registered, and only handed
@@ -37,16 +46,16 @@ class UnitsEngine::Registry {
 public:
     bool holds(std::string_view typeId) const { return entries_.contains(typeId); }
 
-    /// Registers a schema that has no fault.
-    void add(const Ostra::Schema& schema, const Ostra::Inspection* inspection = nullptr) {
-        std::string typeId(schema.typeId());
-        if (holds(typeId)) {
-            schema.view().member("typeid")->report(Internal::messages("typeid-taken"), {typeId});
+    /// Reads a schema that is to be registered.
+    std::optional<Unit> read(const Ostra::Schema& schema) const {
+        if (holds(schema.typeId())) {
+            schema.view().member("typeid")->report(Internal::messages("typeid-taken"), {schema.typeId()});
         }
-        const auto unit = Internal::readUnit(schema);
-        if (unit && (inspection == nullptr || !inspection->hasErrors())) {
-            entries_.try_emplace(std::move(typeId), Entry{*unit, entries_.size()});
-        }
+        return Internal::readUnit(schema);
+    }
+
+    void add(const Ostra::Schema& schema, const Unit& unit) {
+        entries_.try_emplace(std::string(schema.typeId()), Entry{unit, entries_.size()});
     }
 
     void resolve() noexcept { resolved_ = entries_.size(); }
@@ -103,19 +112,30 @@ UnitsEngine::~UnitsEngine() = default;
 bool UnitsEngine::isRegistered(std::string_view typeId) const { return registry_->holds(typeId); }
 
 std::set<std::string> UnitsEngine::registerSchema(const std::string& schemaText) {
-    registry_->add(Ostra::Schema(schemaText, Ostra::ExceptionFactoryOf<ValidationException>::shared()));
+    const Ostra::Schema schema(schemaText, Ostra::ExceptionFactoryOf<ValidationException>::shared());
+    registry_->add(schema, *registry_->read(schema));
     return {};
 }
 
 std::vector<Fault> UnitsEngine::registerSoundSchema(const std::string& schemaText) {
     Ostra::Inspection inspection;
     const Ostra::Schema schema(schemaText, inspection);
-    if (schema.isReadable()) {
-        registry_->add(schema, &inspection);
+    if (!schema.isReadable()) {
+        return toFaults(inspection.faults());
     }
+    const auto unit = registry_->read(schema);
+    const bool isSound = !inspection.hasErrors();
     std::vector<Fault> faults;
-    for (Ostra::DocumentFault& fault : inspection.faults()) {
-        faults.push_back(toFault(std::move(fault)));
+    if (inspection.wantsLooks()) {
+        inspection.noteLooks();
+        const Ostra::Schema again(schemaText, inspection);
+        static_cast<void>(registry_->read(again));
+        faults = toFaults(inspection.faults());
+    } else {
+        faults = toFaults(inspection.faults());
+    }
+    if (unit && isSound) {
+        registry_->add(schema, *unit);
     }
     return faults;
 }
