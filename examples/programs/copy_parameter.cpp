@@ -36,7 +36,7 @@ int main(int argc, char** argv) {
     }
     try {
         ParametersEngine catalogue;
-        catalogue.registerSchemas(textsIn(argv[1]));
+        printErrors(std::cerr, catalogue.registerSoundSchemas(textsIn(argv[1])));
 
         ParametersEngine project;
         project.getUnitsEngine() = catalogue.getUnitsEngine(); // units have no schema to be had, and are copied as one

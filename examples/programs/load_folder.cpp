@@ -5,49 +5,21 @@
 #include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>
 
+#include <algorithm>
 #include <cstddef>
-#include <exception>
-#include <filesystem>
 #include <iostream>
-#include <string>
 
 using namespace Parameters;
 
 namespace {
 
-/// Units belong to the units engine; this catalogue has them in folders called "units".
-void registerText(ParametersEngine& engine, const std::filesystem::path& file, const std::string& text) {
-    if (file.parent_path().filename() == "units") {
-        engine.getUnitsEngine().registerSchema(text);
-    } else {
-        engine.registerSchema(text);
-    }
-}
-
-bool registerFiles(ParametersEngine& engine, const std::filesystem::path& folder) {
-    bool sound = true;
-    for (const auto& [file, text] : textsIn(folder)) {
-        try {
-            registerText(engine, file, text);
-        } catch (const std::exception& fault) {
-            std::cout << std::filesystem::path(file).filename().string() << ": " << fault.what() << '\n';
-            sound = false;
-        }
-    }
-    return sound;
-}
-
-bool resolve(ParametersEngine& engine) {
+/// Returns whether all files are sound.
+bool load(ParametersEngine& engine, const char* folder) {
     //! [faults]
-    engine.getUnitsEngine().resolveSchemas();
-    const auto faults = engine.findUnresolvable();
-    for (const auto& [typeId, message] : faults) {
-        std::cout << message << '\n';
-        engine.discardPending(typeId);
-    }
-    engine.resolveSchemas();
+    const auto faults = engine.registerSoundSchemas(textsIn(folder)); // those of units, too
+    printErrors(std::cout, faults);
     //! [faults]
-    return faults.empty();
+    return std::none_of(faults.begin(), faults.end(), [](const Fault& fault) { return fault.isError(); });
 }
 
 std::size_t countParameters(const ParametersEngine& engine) {
@@ -66,8 +38,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     ParametersEngine engine;
-    const bool readable = registerFiles(engine, argv[1]);
-    const bool resolvable = resolve(engine);
+    const bool isSound = load(engine, argv[1]);
     std::cout << countParameters(engine) << " parameters in " << engine.getAllGroups().size() << " groups\n";
-    return readable && resolvable ? 0 : 1;
+    return isSound ? 0 : 1;
 }

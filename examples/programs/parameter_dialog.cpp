@@ -173,7 +173,7 @@ int main(int argc, char** argv) {
     }
     try {
         ParametersEngine engine;
-        engine.registerSchemas(textsIn(argv[1]));
+        printErrors(std::cerr, engine.registerSoundSchemas(textsIn(argv[1])));
         return run(engine, argc, argv);
     } catch (const std::exception& fault) {
         std::cerr << fault.what() << '\n';

@@ -86,7 +86,7 @@ int main(int argc, char** argv) {
     }
     try {
         ParametersEngine engine;
-        engine.registerSchemas(textsIn(argv[1])); // units go to the units engine by themselves
+        printErrors(std::cerr, engine.registerSoundSchemas(textsIn(argv[1])));
         forEachKind(Kinds::Parameters{}, [&](auto kind) {
             const auto parameters = kind.getAll(engine);
             if (!parameters.empty()) {

@@ -225,29 +225,30 @@ public:
     std::pair<std::set<std::string>, std::set<std::string>> registerSchema(const std::string& schemaText);
 
     /// Registers schemas, unit schemas among them, in ascending order of their keys, then resolves. The keys are type
-    /// identifiers; entries whose key is taken are passed over unread, so that a batch may be registered again. Costs
-    /// what registerSchema for each entry and resolveSchemas do.
+    /// identifiers; entries whose key is taken are passed over unread, so that a batch may be registered again. Texts
+    /// under other names, such as those of files, are for registerSoundSchemas. Costs what registerSchema for each
+    /// entry and resolveSchemas do.
     /// @throws ValidationException as registerSchema and resolveSchemas do. Entries before a refused one stay pending,
     ///         entries after it are not looked at, and nothing is resolved.
     /// @throws Units::ValidationException if the units engine refuses a schema that no kind of this engine accepts.
     void registerSchemas(const std::map<std::string, std::string>& schemas);
 
     /// Returns everything that would be wrong if these texts, those of units among them, were registered and resolved
-    /// in this engine, and what in them is passed over: none that is an error exactly when they could be. Nothing is
+    /// in this engine, and what in them is passed over. None of it is an error exactly when they could be. Nothing is
     /// changed. The keys are names for the texts, such as those of their files.
     ///
-    /// The faults come by text in the order of the keys; within a text in the order in which it is read, then what it
-    /// names and is not there. A text that is no JSON or has no base of a known kind has no faults beyond that; of two
-    /// texts with one type identifier the second is at fault. What pending schemas of the engine lack is told by
-    /// findUnresolvable.
+    /// The faults come by text in the order of the keys; within a text what its readers come upon in their order, what
+    /// nobody reads in the order of the text, then what it names and is not there. A text that is no JSON or has no
+    /// base of a known kind has no faults beyond that; of two texts with one type identifier the second is at fault.
+    /// What pending schemas of the engine lack is told by findUnresolvable.
     ///
-    /// Costs little more than registering and resolving in a copy of the engine, and time in proportion to the texts
-    /// whatever is wrong with them.
-    /// @snippet load_folder.cpp faults
+    /// Costs little more than registering and resolving in a copy of the engine, the tables of which are copied, and
+    /// time in proportion to the texts whatever is wrong with them.
     std::vector<Fault> findFaults(const std::map<std::string, std::string>& texts) const;
 
     /// Registers and resolves those of the texts that have no error, and returns the faults that findFaults would. What
-    /// is pending is resolved as far as it can be, and stays pending otherwise. Costs what findFaults does.
+    /// was pending is resolved as far as it can be, and stays pending otherwise. Costs what findFaults does.
+    /// @snippet load_folder.cpp faults
     std::vector<Fault> registerSoundSchemas(const std::map<std::string, std::string>& texts);
 
     /// Turns all pending schemas, units first, into objects; schemas may name each other in whatever order they were
@@ -264,7 +265,7 @@ public:
     /// Returns what resolveSchemas could not build now: the type identifier of each such pending schema, in byte order,
     /// with the message that resolution would raise for it. A schema that names one of these is among them. Empty
     /// exactly when resolveSchemas would succeed. Costs about what resolveSchemas does, and a copy of the units engine.
-    /// @snippet load_folder.cpp faults
+    /// findFaults tells more, and of texts that are not registered.
     /// @throws whatever the units engine throws when its pending units, which are tried on a copy, do not resolve.
     std::map<std::string, std::string> findUnresolvable() const;
 
