@@ -99,7 +99,7 @@ void Schema::readDefinitions(const char* name, Definitions& definitions) {
         if (!id) {
             definition.notePassedOver();
         } else if (!definitions.add(id->string(), definition)) {
-            id->reportBeside(*definitions.find(id->string())->member("id"), messages("definition-duplicate"),
+            id->reportBeside(*definitions.earlier(id->string())->member("id"), messages("definition-duplicate"),
                              {id->string(), name});
             definition.notePassedOver();
         }
