@@ -2,6 +2,7 @@
 
 #include "engine/Registry.h"
 #include "model/Finder.h"
+#include "schema/Hash.h"
 
 #include <units/Unit.h>
 #include <units/UnitsEngine.h>
@@ -12,6 +13,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -111,24 +113,26 @@ private:
 
 template <class Record>
 void Resolution::takeFaults(const Record& record) {
-    for (Unresolved& cause : finder_.takeUnresolved()) {
-        std::size_t occurrence = 0;
-        const auto countIn = [&](const Texts& named) {
-            for (const std::string_view typeId : named) {
-                if (typeId.data() == cause.named.data()) {
-                    return false;
-                }
-                occurrence += typeId == cause.named ? 1 : 0;
+    struct Hash {
+        std::size_t operator()(std::string_view typeId) const { return Ostra::hashOf(typeId); }
+    };
+    std::unordered_map<std::string_view, std::size_t, Hash> counts;
+    std::unordered_map<const char*, std::size_t> occurrences; // of what stands there in the record
+    const auto countIn = [&](const Texts& named) {
+        for (const std::string_view typeId : named) {
+            if (!typeId.empty()) { // which has no place of its own
+                occurrences.emplace(typeId.data(), counts[typeId]++);
             }
-            return true;
-        };
-        bool goesOn = true;
-        if constexpr (requires { record.references; }) {
-            goesOn = countIn(record.references);
         }
-        if constexpr (requires { record.units; }) {
-            goesOn = goesOn && countIn(record.units);
-        }
+    };
+    if constexpr (requires { record.references; }) {
+        countIn(record.references);
+    }
+    if constexpr (requires { record.units; }) {
+        countIn(record.units);
+    }
+    for (Unresolved& cause : finder_.takeUnresolved()) {
+        const std::size_t occurrence = occurrences.at(cause.named.data());
         faults_.push_back({record.texts[0], std::move(cause), occurrence});
     }
 }
