@@ -100,8 +100,9 @@ std::vector<Spot> Inspection::placesOf(const std::vector<Reference>& references)
     std::vector<const JSONValue*> values;
     for (const auto& [typeId, occurrence] : references) {
         const auto found = byTypeId.find(typeId);
-        const bool isThere = found != byTypeId.end() && occurrence < found->second.size();
-        values.push_back(isThere ? found->second[occurrence] : root_);
+        // A default that the text does not spell out may have been counted too.
+        values.push_back(found != byTypeId.end() ? found->second[std::min(occurrence, found->second.size() - 1)]
+                                                 : root_);
         places.try_emplace(values.back());
     }
     locate(text_, *root_, places);
