@@ -86,7 +86,9 @@ const FaultRow noJSON[] = {
 };
 
 const FaultRow noSchema[] = {
-    {"TypeidMissing", {{"t", R"({"inherits":["a"]})"}}, {R"(typeid-missing typeid at t: {"inherits":["a"]})", R"(base-unrecognized a at t:/inherits/0 "a")"}},
+    {"TypeidMissing",
+     {{"t", R"({"inherits":["a"]})"}},
+     {R"(typeid-missing typeid at t: {"inherits":["a"]})", R"(base-unrecognized a at t:/inherits/0 "a")"}},
     {"TypeidMisspelt",
      {{"t", R"({"TypeId":"x","inherits":["norvex.parameter:group-1.0.0"],"constants":[{"id":"name","value":"N"}]})"}},
      {R"(typeid-missing typeid near TypeId at t:/TypeId "x")"}},
@@ -103,12 +105,8 @@ const FaultRow noSchema[] = {
     {"InheritsMisspelt",
      {{"t", R"({"typeid":"x","inherit":["a"]})"}},
      {R"(inherits-missing inherits near inherit at t:/inherit ["a"])"}},
-    {"InheritsNoArray",
-     {{"t", R"({"typeid":"x","inherits":"a"})"}},
-     {R"(array-expected at t:/inherits "a")"}},
-    {"BaseNoString",
-     {{"t", R"({"typeid":"x","inherits":[ 1 ]})"}},
-     {"array-of-strings-expected at t:/inherits/0 1"}},
+    {"InheritsNoArray", {{"t", R"({"typeid":"x","inherits":"a"})"}}, {R"(array-expected at t:/inherits "a")"}},
+    {"BaseNoString", {{"t", R"({"typeid":"x","inherits":[ 1 ]})"}}, {"array-of-strings-expected at t:/inherits/0 1"}},
     {"BaseEmpty",
      {{"t", R"({"typeid":"x","inherits":[""]})"}},
      {R"(array-of-non-empty-strings-expected at t:/inherits/0 "")"}},
@@ -163,7 +161,8 @@ const FaultRow constants[] = {
     {"StringExpected",
      {{"t", named(intParameter, R"({"id":"description","value":1})")}},
      {"string-expected description at t:/constants/1/value 1"}},
-    {"TypeidOfARangeNoString", {{"t", withRange(R"({"typeid":1})")}},
+    {"TypeidOfARangeNoString",
+     {{"t", withRange(R"({"typeid":1})")}},
      {"string-expected range at t:/constants/1/typedValue/typeid 1"}},
     {"NonEmptyStringExpected",
      {{"t", of(group, R"({"id":"name","value":""})")}},
@@ -184,8 +183,8 @@ const FaultRow constants[] = {
      {R"(integer-expected topBoundary at t:/constants/1/typedValue/value/topBoundary "9")"}},
     {"NumberExpected",
      {{"t", of("norvex.range:range.float64.bounded.static-1.0.0", constant("fromBottom", "true") + "," +
-                                                                       constant("fromTop", "false") + "," +
-                                                                       constant("bottomBoundary", "null"))}},
+                                                                      constant("fromTop", "false") + "," +
+                                                                      constant("bottomBoundary", "null"))}},
      {"number-expected bottomBoundary at t:/constants/2/value null"}},
     {"AllowedValuesNoArray",
      {{"t", of("norvex.range:range.string.set.static-1.0.0", constant("allowedValues", R"("a")"))}},
@@ -217,9 +216,7 @@ const FaultRow constants[] = {
 };
 
 const FaultRow ranges[] = {
-    {"RangeWithoutTypeid",
-     {{"t", withRange("{}")}},
-     {"range-typeid-missing typeid at t:/constants/1/typedValue {}"}},
+    {"RangeWithoutTypeid", {{"t", withRange("{}")}}, {"range-typeid-missing typeid at t:/constants/1/typedValue {}"}},
     {"BuiltInRangeWithoutValue",
      {{"t", withRange(R"({"typeid":"norvex.range:range.int64.bounded.static-1.0.0"})")}},
      {R"(inline-range-missing norvex.range:range.int64.bounded.static-1.0.0 at t:/constants/1/typedValue )"
@@ -270,25 +267,33 @@ const FaultRow choices[] = {
     {"SpecUndefined",
      choice(R"({"id":"Spec","typedValue":{"typeid":"spec"}})", goodValue),
      {R"(spec-undefined spec near Spec at t:/constants/1/id "Spec")"}},
-    {"SpecWithoutValue", choice(R"({"id":"spec"})", goodValue),
+    {"SpecWithoutValue",
+     choice(R"({"id":"spec"})", goodValue),
      {R"(spec-value-missing typedValue at t:/constants/1 {"id":"spec"})"}},
-    {"SpecWithoutTypeid", choice(R"({"id":"spec","typedValue":{}})", goodValue),
+    {"SpecWithoutTypeid",
+     choice(R"({"id":"spec","typedValue":{}})", goodValue),
      {"spec-typeid-missing typeid at t:/constants/1/typedValue {}"}},
-    {"SpecTypeidNoString", choice(R"({"id":"spec","typedValue":{"typeid":0}})", goodValue),
+    {"SpecTypeidNoString",
+     choice(R"({"id":"spec","typedValue":{"typeid":0}})", goodValue),
      {"spec-typeid-missing spec at t:/constants/1/typedValue/typeid 0"}},
-    {"SpecWithAValue", choice(R"({"id":"spec","typedValue":{"typeid":"spec"},"value":3})", goodValue),
+    {"SpecWithAValue",
+     choice(R"({"id":"spec","typedValue":{"typeid":"spec"},"value":3})", goodValue),
      {"spec-value-misplaced spec at t:/constants/1/value 3"}},
-    {"SpecWithAValueInside", choice(R"({"id":"spec","typedValue":{"typeid":"spec","value":3}})", goodValue),
+    {"SpecWithAValueInside",
+     choice(R"({"id":"spec","typedValue":{"typeid":"spec","value":3}})", goodValue),
      {"spec-value-misplaced spec at t:/constants/1/typedValue/value 3"}},
     {"ValuePropertyUndefined", choice(goodSpec, ""), {"value-property-undefined value at t:/properties []"}},
-    {"ValuePropertyAmongTheConstants", choice(goodSpec + "," + goodValue, ""),
+    {"ValuePropertyAmongTheConstants",
+     choice(goodSpec + "," + goodValue, ""),
      {R"(value-property-undefined value near value at t:/constants/2/id "value")"}},
-    {"ValuePropertyWithoutTypeid", choice(goodSpec, R"({"id":"value","typedValue":{}})"),
+    {"ValuePropertyWithoutTypeid",
+     choice(goodSpec, R"({"id":"value","typedValue":{}})"),
      {"value-property-typeid-missing typeid at t:/properties/0/typedValue {}"}},
 };
 
 const FaultRow references[] = {
-    {"ReferenceSpecWithoutTypeid", {{"t", withSpec("{}")}},
+    {"ReferenceSpecWithoutTypeid",
+     {{"t", withSpec("{}")}},
      {"reference-spec-typeid-missing typeid at t:/constants/1/typedValue {}"}},
     {"ReferenceSpecWithAValue",
      {{"t", withSpec(R"({"typeid":"norvex.spec:spec.reference-1.0.0","value":[]})")}},
@@ -430,7 +435,7 @@ TEST_P(WarningOfAText, SaysWhatIsPassedOver) {
 
 INSTANTIATE_TEST_SUITE_P(Warnings, WarningOfAText, testing::ValuesIn(warnings), Support::nameOfRow);
 
-#define OSTRA_FAULT_ROWS(table, rows) \
+#define OSTRA_FAULT_ROWS(table, rows)                                                                                  \
     INSTANTIATE_TEST_SUITE_P(table, FaultOfAText, testing::ValuesIn(rows), Support::nameOfRow)
 
 OSTRA_FAULT_ROWS(NoJSON, noJSON);
@@ -456,19 +461,29 @@ void addCodes(const FaultRow (&rows)[size], std::set<std::string>& codes) {
 }
 
 /// What no text can cause: it takes an object made in code, a look-up, another units library or a fault of this one.
-const std::set<std::string> notOfTexts{
-    "any-object-unknown",      "base-incorrect",
-    "constants-after-properties", "engine-full",
-    "given-category-missing",  "given-enumeration-empty",
-    "given-enumeration-id-empty", "given-parent-not-major",
-    "given-range-limited",     "given-range-regex-missing",
-    "given-range-values-missing", "json-number-not-finite",
-    "json-string-too-long",    "json-text-too-long",
-    "map-key-string-expected", "map-value-string-expected",
-    "number-not-finite",       "object-typeid-empty",
-    "object-unknown",          "texts-too-long",
-    "texts-too-many",          "unit-refused",
-    "value-duplicate"};
+const std::set<std::string> notOfTexts{"any-object-unknown",
+                                       "base-incorrect",
+                                       "constants-after-properties",
+                                       "engine-full",
+                                       "given-category-missing",
+                                       "given-enumeration-empty",
+                                       "given-enumeration-id-empty",
+                                       "given-parent-not-major",
+                                       "given-range-limited",
+                                       "given-range-regex-missing",
+                                       "given-range-values-missing",
+                                       "json-number-not-finite",
+                                       "json-string-too-long",
+                                       "json-text-too-long",
+                                       "map-key-string-expected",
+                                       "map-value-string-expected",
+                                       "number-not-finite",
+                                       "object-typeid-empty",
+                                       "object-unknown",
+                                       "texts-too-long",
+                                       "texts-too-many",
+                                       "unit-refused",
+                                       "value-duplicate"};
 
 TEST(FaultsOfTexts, HaveARowForEveryMessageThatATextCanCause) {
     std::set<std::string> shown;
