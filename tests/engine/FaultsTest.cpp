@@ -1,5 +1,5 @@
-#include "support/Engines.h"
 #include "support/Faults.h"
+#include "support/Engines.h"
 #include "support/KindTypes.h"
 #include "support/Messages.h"
 #include "support/Picture.h"
@@ -148,17 +148,16 @@ TEST(FindFaults, TellsThatNothingReadsAConstantThatStandsTwice) {
 }
 
 TEST(FindFaults, TellsEveryElementOfAListThatIsWrong) {
-    EXPECT_EQ(
-        faultsOf({{"t", schemaText("x", "norvex.talmo.category:majorCategory-1.0.0",
-                                   name + R"(,{"id":"disciplines","typedValue":[1,{"typeid":"d"},{"typeid":""},)"
-                                          R"({"typeid":"norvex.spec:discipline-1.0.0"},{}]})")}}),
-        (Lines{"typed-value-object-expected disciplines at t:/constants/1/typedValue/0 1",
-               "typed-value-typeid-empty disciplines at t:/constants/1/typedValue/2/typeid \"\"",
-               "typed-value-typeid-only disciplines at t:/constants/1/typedValue/4 {}",
-               "constant-undefined domain at t:/constants "
-               R"([{"id":"name","value":"N"},{"id":"disciplines","typedValue":[1,{"typeid":"d"},{"typeid":""},)"
-               R"({"typeid":"norvex.spec:discipline-1.0.0"},{}]}])",
-               "dependency-missing d needs discipline at t:/constants/1/typedValue/1/typeid \"d\""}));
+    EXPECT_EQ(faultsOf({{"t", schemaText("x", "norvex.talmo.category:majorCategory-1.0.0",
+                                         name + R"(,{"id":"disciplines","typedValue":[1,{"typeid":"d"},{"typeid":""},)"
+                                                R"({"typeid":"norvex.spec:discipline-1.0.0"},{}]})")}}),
+              (Lines{"typed-value-object-expected disciplines at t:/constants/1/typedValue/0 1",
+                     "typed-value-typeid-empty disciplines at t:/constants/1/typedValue/2/typeid \"\"",
+                     "typed-value-typeid-only disciplines at t:/constants/1/typedValue/4 {}",
+                     "constant-undefined domain at t:/constants "
+                     R"([{"id":"name","value":"N"},{"id":"disciplines","typedValue":[1,{"typeid":"d"},{"typeid":""},)"
+                     R"({"typeid":"norvex.spec:discipline-1.0.0"},{}]}])",
+                     "dependency-missing d needs discipline at t:/constants/1/typedValue/1/typeid \"d\""}));
 }
 
 TEST(FindFaults, TellsEveryChoiceThatIsWrongInTheOrderOfTheirIds) {
@@ -331,11 +330,11 @@ TEST(FaultsOfNames, AreConsequencesOfTheFaultsOfWhatIsNamed) {
 }
 
 TEST(FaultsOfNames, AreConsequencesOfATextWithoutAKnownBase) {
-    EXPECT_EQ(faultsOf({{"1", boolSpecText("s", "d")},
-                        {"2", Support::namedText("d", "norvex.spec:disciplin-1.0.0", "N")}}),
-              (Lines{"dependency-missing d needs discipline at 1:/constants/1/typedValue/typeid \"d\" "
-                     "beside 2:/typeid after 2:/inherits/0",
-                     "base-unrecognized norvex.spec:disciplin-1.0.0 at 2:/inherits/0 \"norvex.spec:disciplin-1.0.0\""}));
+    EXPECT_EQ(
+        faultsOf({{"1", boolSpecText("s", "d")}, {"2", Support::namedText("d", "norvex.spec:disciplin-1.0.0", "N")}}),
+        (Lines{"dependency-missing d needs discipline at 1:/constants/1/typedValue/typeid \"d\" "
+               "beside 2:/typeid after 2:/inherits/0",
+               "base-unrecognized norvex.spec:disciplin-1.0.0 at 2:/inherits/0 \"norvex.spec:disciplin-1.0.0\""}));
 }
 
 TEST(FaultsOfNames, AreConsequencesOfUnitsThatAreFaulty) {
@@ -401,14 +400,16 @@ TEST(FaultsOfNames, AreFoundInTextsThatHaveOtherFaultsToo) {
 }
 
 TEST(FaultsOfNames, AreToldOfACategoryThatIsItsOwnParent) {
-    EXPECT_EQ(faultsOf({{"t", subCategoryText("x", "x")}}),
-              (Lines{"dependency-missing x needs category at t:/constants/1/typedValue/typeid \"x\" beside t:/typeid"}));
+    EXPECT_EQ(
+        faultsOf({{"t", subCategoryText("x", "x")}}),
+        (Lines{"dependency-missing x needs category at t:/constants/1/typedValue/typeid \"x\" beside t:/typeid"}));
 }
 
 TEST(FaultsOfNames, AreToldOfTwoCategoriesThatAreEachOthersParent) {
-    EXPECT_EQ(faultsOf({{"1", subCategoryText("a", "b")}, {"2", subCategoryText("b", "a")}}),
-              (Lines{"dependency-missing b needs category at 1:/constants/1/typedValue/typeid \"b\" beside 2:/typeid",
-                     "dependency-missing a needs category at 2:/constants/1/typedValue/typeid \"a\" beside 1:/typeid"}));
+    EXPECT_EQ(
+        faultsOf({{"1", subCategoryText("a", "b")}, {"2", subCategoryText("b", "a")}}),
+        (Lines{"dependency-missing b needs category at 1:/constants/1/typedValue/typeid \"b\" beside 2:/typeid",
+               "dependency-missing a needs category at 2:/constants/1/typedValue/typeid \"a\" beside 1:/typeid"}));
 }
 
 TEST(FaultsOfNames, AreToldOfASubcategoryBelowAnother) {
@@ -454,16 +455,16 @@ TEST(TypeIdsTaken, AreThoseOfWhatTheEngineHolds) {
     engine.registerGroup({"object", "G"});
     engine.registerSchema(groupText("pending"));
     engine.getUnitsEngine().registerSchema(unitText("pending unit"));
-    EXPECT_EQ(faultsOf({{"1", groupText("object")},
-                        {"2", unitText("pending")},
-                        {"3", groupText("unit")},
-                        {"4", unitText("pending unit")},
-                        {"5", disciplineText("norvex.parameter:group-1.0.0")}},
-                       engine),
-              (Lines{"typeid-taken object at 1:/typeid \"object\"", "typeid-taken pending at 2:/typeid \"pending\"",
-                     "typeid-taken unit at 3:/typeid \"unit\"",
-                     "typeid-taken pending unit at 4:/typeid \"pending unit\"",
-                     "typeid-taken norvex.parameter:group-1.0.0 at 5:/typeid \"norvex.parameter:group-1.0.0\""}));
+    EXPECT_EQ(
+        faultsOf({{"1", groupText("object")},
+                  {"2", unitText("pending")},
+                  {"3", groupText("unit")},
+                  {"4", unitText("pending unit")},
+                  {"5", disciplineText("norvex.parameter:group-1.0.0")}},
+                 engine),
+        (Lines{"typeid-taken object at 1:/typeid \"object\"", "typeid-taken pending at 2:/typeid \"pending\"",
+               "typeid-taken unit at 3:/typeid \"unit\"", "typeid-taken pending unit at 4:/typeid \"pending unit\"",
+               "typeid-taken norvex.parameter:group-1.0.0 at 5:/typeid \"norvex.parameter:group-1.0.0\""}));
 }
 
 TEST(TypeIdsTaken, AreThoseOfEarlierTextsUnitsIncluded) {
@@ -479,11 +480,11 @@ TEST(TypeIdsTaken, AreThoseOfEarlierTextsThatAreFaulty) {
 }
 
 TEST(TypeIdsTaken, AreToldBesideOtherFaults) {
-    EXPECT_EQ(faultsOf({{"1", groupText("x")},
-                        {"2", schemaText("x", "norvex.parameter:group-1.0.0", R"(0,{"id":"nam","value":1})")}}),
-              (Lines{"definition-object-expected at 2:/constants/0 0",
-                     "typeid-taken x at 2:/typeid \"x\" beside 1:/typeid",
-                     "constant-undefined name near nam at 2:/constants/1/id \"nam\""}));
+    EXPECT_EQ(
+        faultsOf({{"1", groupText("x")},
+                  {"2", schemaText("x", "norvex.parameter:group-1.0.0", R"(0,{"id":"nam","value":1})")}}),
+        (Lines{"definition-object-expected at 2:/constants/0 0", "typeid-taken x at 2:/typeid \"x\" beside 1:/typeid",
+               "constant-undefined name near nam at 2:/constants/1/id \"nam\""}));
 }
 
 // What stays as it was.
@@ -500,15 +501,19 @@ ParametersEngine busyEngine() {
 const std::set<std::string> busyIds{"u", "d", "pending", "unresolvable", "later", "pending unit", "new", "bad", "v"};
 
 /// Texts that are sound, faulty, of units, and one that an older pending schema waits for.
-const Texts manyTexts{{"1", boolSpecText("new", "d")},   {"2", boolSpecText("bad", "no")},
-                      {"3", unitText("v")},              {"4", unitText("w", "")},
-                      {"5", disciplineText("later")},    {"6", "?JSON"},
-                      {"7", boolSpecText("new", "d")},   {"8", measurableSpecText("m", "v", {"pending unit"})},
+const Texts manyTexts{{"1", boolSpecText("new", "d")},
+                      {"2", boolSpecText("bad", "no")},
+                      {"3", unitText("v")},
+                      {"4", unitText("w", "")},
+                      {"5", disciplineText("later")},
+                      {"6", "?JSON"},
+                      {"7", boolSpecText("new", "d")},
+                      {"8", measurableSpecText("m", "v", {"pending unit"})},
                       {"9", boolParameterText("p", "norvex.parameter:group-1.0.0", "pending")}};
 
 const Lines faultsOfManyTexts{"dependency-missing no needs discipline at 2:/constants/1/typedValue/typeid \"no\"",
-                              "non-empty-string-expected name at 4:/constants/0/value \"\"",
-                              "json-syntax at 6: ?JSON", "typeid-taken new at 7:/typeid \"new\" beside 1:/typeid"};
+                              "non-empty-string-expected name at 4:/constants/0/value \"\"", "json-syntax at 6: ?JSON",
+                              "typeid-taken new at 7:/typeid \"new\" beside 1:/typeid"};
 
 TEST(FindFaults, ChangesNothing) {
     const ParametersEngine engine = busyEngine();
@@ -542,10 +547,10 @@ TEST(FindFaults, TellsOfATextThatNamesWhatIsPendingAndCannotBeBuilt) {
 TEST(FindFaults, LetsTextsCompleteWhatIsPending) {
     ParametersEngine engine;
     engine.registerSchema(boolSpecText("pending", "d"));
-    EXPECT_EQ(faultsOf({{"1", boolParameterText("p", "norvex.parameter:group-1.0.0", "pending")},
-                        {"2", disciplineText("d")}},
-                       engine),
-              Lines());
+    EXPECT_EQ(
+        faultsOf({{"1", boolParameterText("p", "norvex.parameter:group-1.0.0", "pending")}, {"2", disciplineText("d")}},
+                 engine),
+        Lines());
 }
 
 TEST(RegisterSoundSchemas, RegistersWhatIsSoundAndReturnsTheFaultsOfTheRest) {
@@ -574,8 +579,7 @@ TEST(RegisterSoundSchemas, KeepsPendingWhatCannotBeResolvedYet) {
     EXPECT_EQ(engine.getBoolSpec("pending").getCore().getDiscipline().getTypeId(), "d");
     EXPECT_EQ(engine.getGroup("g").getName(), "Name");
     EXPECT_TRUE(engine.isRegistered("unresolvable"));
-    EXPECT_EQ(engine.findUnresolvable(),
-              (Texts{{"unresolvable", Support::unresolvable("later", "unresolvable")}}));
+    EXPECT_EQ(engine.findUnresolvable(), (Texts{{"unresolvable", Support::unresolvable("later", "unresolvable")}}));
     engine.registerSchema(disciplineText("later"));
     engine.resolveSchemas();
     EXPECT_EQ(engine.getBoolSpec("unresolvable").getCore().getDiscipline().getTypeId(), "later");
@@ -614,8 +618,7 @@ TEST(RegisterSoundSchemas, RegistersTheFirstOfTwoTextsOfOneTypeId) {
 TEST(RegisterSoundSchemas, RegistersTextsWithWarnings) {
     ParametersEngine engine;
     const Texts texts{{"t", groupText("g").insert(1, R"("more":1,)")}};
-    EXPECT_EQ(linesOf(engine.registerSoundSchemas(texts), texts),
-              (Lines{"warning member-unknown more at t:/more 1"}));
+    EXPECT_EQ(linesOf(engine.registerSoundSchemas(texts), texts), (Lines{"warning member-unknown more at t:/more 1"}));
     EXPECT_EQ(engine.getGroup("g").getName(), "Name");
 }
 
