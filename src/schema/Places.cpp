@@ -81,7 +81,7 @@ private:
         return &spot;
     }
 
-    void describeStep(const Container& container, Spot& spot) const {
+    void describeStep(const Container& container, Spot& spot) {
         spot.pointer += '/';
         if (container.value->IsArray()) {
             spot.pointer += std::to_string(container.next - 1);
@@ -103,13 +103,17 @@ private:
     }
 
     /// Takes the id of a definition for the label of what lies in it.
-    static void labelByDefinition(const JSONValue& definition, Spot& spot) {
-        if (!definition.IsObject()) {
-            return;
+    void labelByDefinition(const JSONValue& definition, Spot& spot) {
+        if (&definition != definition_) { // its members are not searched for each value in it
+            definition_ = &definition;
+            id_ = nullptr;
+            if (definition.IsObject()) {
+                const auto id = definition.FindMember("id");
+                id_ = id != definition.MemberEnd() && id->value.IsString() ? &id->value : nullptr;
+            }
         }
-        const auto id = definition.FindMember("id");
-        if (id != definition.MemberEnd() && id->value.IsString()) {
-            spot.label = stringIn(id->value);
+        if (id_ != nullptr) {
+            spot.label = stringIn(*id_);
         }
     }
 
@@ -134,6 +138,8 @@ private:
     Places& places_;
     std::size_t offset_ = 0;
     std::vector<Container> open_;
+    const JSONValue* definition_ = nullptr; // the last one that gave a label
+    const JSONValue* id_ = nullptr;         // of that, where it has one
 };
 
 } // namespace
