@@ -110,6 +110,7 @@ private:
 
     Registry& registry_;
     Units::UnitsEngine& units_;
+    std::optional<Units::UnitsEngine> apart_; // a copy, for units that are not to be registered
     std::vector<ReadText> texts_;
     decltype(asidesOf(StoreOrder{})) asides_;
     std::vector<TextFault> faults_;
@@ -191,8 +192,11 @@ bool Review::readAs(const Ostra::Schema& schema, TextId id) {
 void Review::readUnit(TextId id, bool isTaken) {
     const std::string& text = *texts_[id].text;
     std::vector<FaultData> found = faultsOf(id, inspection_.faults());
-    std::optional<Units::UnitsEngine> apart; // where nothing is to be registered
-    Units::UnitsEngine& units = isTaken || !found.empty() ? apart.emplace(units_) : units_;
+    const bool isRefused = isTaken || !found.empty(); // and what is wrong with it besides is all that matters
+    if (isRefused && !apart_) {
+        apart_.emplace(units_);
+    }
+    Units::UnitsEngine& units = isRefused ? *apart_ : units_;
     if constexpr (tellsFaults<Units::UnitsEngine>) {
         std::vector<FaultData> all;
         for (auto& fault : units.registerSoundSchema(text)) {
