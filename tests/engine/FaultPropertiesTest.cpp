@@ -24,7 +24,8 @@
 #include <string>
 #include <vector>
 
-// What holds for whatever is wrong, tried with texts of catalogues and of the fuzzers' corpus that are changed at random.
+// What holds for whatever is wrong, tried with texts of catalogues and of the fuzzers' corpus that are changed at
+// random.
 
 namespace {
 

@@ -169,6 +169,17 @@ TEST(FindFaults, TellsEveryChoiceThatIsWrongInTheOrderOfTheirIds) {
                      "enumeration-integer-missing C at t:/properties/0/value 1.5"}));
 }
 
+TEST(FindFaults, SaysNothingOfABoundaryOf0OnASideThatHasNoBound) {
+    const std::string flags = constant("fromBottom", "false") + "," + constant("fromTop", "false") + ",";
+    EXPECT_EQ(
+        faultsOf(
+            {{"1", schemaText("i", "norvex.range:range.int64.bounded.static-1.0.0",
+                              flags + constant("bottomBoundary", "0") + "," + constant("topBoundary", "-0"))},
+             {"2", schemaText("f", "norvex.range:range.float64.bounded.static-1.0.0",
+                              flags + constant("bottomBoundary", "0.0") + "," + constant("topBoundary", "-0e7"))}}),
+        Lines());
+}
+
 TEST(FindFaults, TellsNothingOfWhatIsInAValueThatIsWrongAsAWhole) {
     EXPECT_EQ(faultsOf({{"t", schemaText("x", "norvex.parameter:group-1.0.0",
                                          R"({"id":"name","value":{"Value":{"more":1},"id":2}})")}}),
@@ -676,6 +687,29 @@ TEST(ManyFaults, OfOneTextAreAllTold) {
     }
     const Texts texts{{"t", schemaText("x", "norvex.parameter:group-1.0.0", constants + "0")}};
     EXPECT_EQ(ParametersEngine().findFaults(texts).size(), 19'999U + 20'000U + 1U);
+}
+
+TEST(ManyFaults, OfOneDefinitionAreAllTold) {
+    std::string members;
+    for (int i = 0; i < 20'000; ++i) {
+        members += R"("more":1,)";
+    }
+    const auto faults = ParametersEngine().findFaults(
+        {{"t", schemaText("x", "norvex.parameter:group-1.0.0", "{" + members + R"("id":"name","value":"N"})")}});
+    EXPECT_EQ(faults.size(), 20'000U);
+}
+
+TEST(ManyFaults, OfUnitsThatAreThereAlreadyAreAllTold) {
+    Texts texts;
+    for (int i = 0; i < 5'000; ++i) {
+        texts.emplace(std::to_string(i), unitText(std::to_string(i)));
+    }
+    ParametersEngine engine;
+    engine.registerSchemas(texts);
+    for (auto& [key, text] : texts) {
+        text.insert(1, R"("more":1,)");
+    }
+    EXPECT_EQ(engine.findFaults(texts).size(), 2 * texts.size());
 }
 
 TEST(ManyFaults, OfOneListAreAllTold) {

@@ -36,8 +36,9 @@ private:
     using Pool = rapidjson::Document::AllocatorType;
 
     std::string withOtherBytes(std::string text) {
-        static const std::vector<std::string> pieces{"{", "}", "[",  "]", ",",    ":",    "\"",     "\\",      "\\u0041",
-                                                     "0", "-", ".5", " ", "\r\n", "true", "\xFF\"", "\"\": 1,", "e9"};
+        static const std::vector<std::string> pieces{"{",  "}",    "[",       "]",      ",",        ":",
+                                                     "\"", "\\",   "\\u0041", "0",      "-",        ".5",
+                                                     " ",  "\r\n", "true",    "\xFF\"", "\"\": 1,", "e9"};
         const std::size_t place = below(text.size() + 1);
         switch (below(4)) {
         case 0:
@@ -138,7 +139,7 @@ private:
     }
 
     static const char* wordFor(std::size_t number) {
-        static const char* const words[] = {"typeid", "inherits",   "constants", "properties",   "id",  "value",
+        static const char* const words[] = {"typeid", "inherits",   "constants", "properties",     "id", "value",
                                             "name",   "typedValue", "range",     "bottomBoundary", "~/", ""};
         return words[number];
     }
