@@ -38,10 +38,7 @@ public:
         return hasSizeOf(id) ? search(id) : std::nullopt;
     }
     /// As find, but nothing is read for it.
-    std::optional<JSONView> earlier(std::string_view id) const {
-        const Definition* const found = search(id);
-        return found != nullptr ? std::optional(found->definition) : std::nullopt;
-    }
+    MaybeView earlier(std::string_view id) const { return search(id); }
     /// Says that there is something in place of the array, which has been told.
     void setFaulty() { isFaulty_ = true; }
     bool isFaulty() const { return isFaulty_; }
