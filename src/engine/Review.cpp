@@ -226,7 +226,7 @@ FaultData Review::emptyFault(TextId id, const Ostra::Message& message) const {
     const ReadText& text = texts_[id];
     FaultData fault{};
     fault.code = message.code;
-    fault.severity = message.severity == Ostra::Severity::error ? Fault::Severity::error : Fault::Severity::warning;
+    fault.severity = severityOf(message);
     fault.typeId = text.typeId();
     fault.place = {*text.key, "", 0, text.text->size()};
     return fault;
