@@ -4,5 +4,6 @@ namespace Tool {
 
 /// In place of the tool's own: forgets whatever was registered, as a list of kinds would that lacks some.
 std::vector<Object> describeAll(Parameters::ParametersEngine&) { return {}; }
+std::vector<std::size_t> countAll(Parameters::ParametersEngine&) { return {}; }
 
 } // namespace Tool

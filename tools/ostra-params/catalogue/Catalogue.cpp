@@ -2,37 +2,12 @@
 
 #include "catalogue/Compact.h"
 #include "catalogue/Describe.h"
-#include "catalogue/Input.h"
 #include "catalogue/Loss.h"
-#include "output/Progress.h"
-
-#include <algorithm>
-#include <filesystem>
-#include <iterator>
-#include <utility>
 
 namespace Tool {
 
-Catalogue::Catalogue(const std::vector<std::string>& paths) {
-    const std::vector<std::filesystem::path> files = findFiles(paths);
-    files_ = files.size();
-    Progress progress(files);
-    for (const std::filesystem::path& file : files) {
-        readTexts(file, [&](const Source& source) {
-            loader_.add(source);
-            progress.advance(source.text.size());
-        });
-    }
-    loader_.resolve();
-    faults_ = loader_.faults();
-    collect();
-}
-
-void Catalogue::collect() {
-    objects_ = describeAll(loader_.engine());
-    if (loader_.isResolved()) {
-        mustHaveAll(objects_, loader_.entries());
-    }
+Catalogue::Catalogue(const std::vector<std::string>& paths) : Loader(paths), objects_(describeAll(engine())) {
+    mustHaveAll(objects_, headings());
     for (std::size_t place = 0; place < objects_.size(); ++place) {
         index_.emplace(objects_[place].typeId, place);
     }
@@ -80,13 +55,8 @@ const std::vector<Link>& Catalogue::dependents(const std::string& typeId) const 
 
 std::string Catalogue::schemaOf(const Object& object) const {
     // Units are the units library's, which hands out no texts.
-    return object.section == &sectionOfUnits() ? compact(sourceOf(object).text)
-                                               : loader_.engine().getSchema(object.typeId);
-}
-
-std::size_t Catalogue::count(const Section& section) const {
-    return static_cast<std::size_t>(std::count_if(objects_.begin(), objects_.end(),
-                                                  [&](const Object& object) { return object.section == &section; }));
+    return object.section == &sectionOfUnits() ? compact(*sourceOf(object).text)
+                                               : engine().getSchema(object.typeId);
 }
 
 } // namespace Tool

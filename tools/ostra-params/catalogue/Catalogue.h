@@ -18,11 +18,10 @@ struct Link {
     std::string typeId; ///< At the other end; perhaps of a built-in object, which no catalogue holds.
 };
 
-/// The sound objects of a catalogue, and what is wrong with the rest.
-class Catalogue {
+/// A catalogue with descriptions of its sound objects.
+class Catalogue : public Loader {
 public:
-    /// Reads files, folders and standard input.
-    /// @throws InputError if a path cannot be read or is no schema file, or a folder holds none.
+    /// Reads it as Loader does.
     /// @throws Loss if a sound schema is not among the objects.
     explicit Catalogue(const std::vector<std::string>& paths);
 
@@ -39,21 +38,10 @@ public:
 
     /// Returns the text of an object as the library writes it; that of a unit as it was given, without blanks.
     std::string schemaOf(const Object& object) const;
-    const Source& sourceOf(const Object& object) const { return loader_.entries().find(object.typeId)->second.source; }
-
-    const std::vector<Fault>& faults() const { return faults_; }
-    std::size_t schemas() const { return loader_.schemas(); }
-    std::size_t files() const { return files_; }
-    /// Returns how many objects there are in a section.
-    std::size_t count(const Section& section) const;
+    const Source& sourceOf(const Object& object) const { return source(*headings().find(object.typeId)); }
 
 private:
-    void collect();
-
-    Loader loader_;
-    std::size_t files_ = 0;
     std::vector<Object> objects_;
-    std::vector<Fault> faults_;
     std::unordered_map<std::string, std::size_t> index_;
     std::unordered_map<std::string, std::vector<Link>> dependents_;
 };

@@ -238,4 +238,11 @@ std::vector<Object> describeAll(ParametersEngine& engine) {
     return objects;
 }
 
+std::vector<std::size_t> countAll(ParametersEngine& engine) {
+    std::vector<std::size_t> counts(sections().size());
+    counts[indexOf(sectionOfUnits())] = engine.getUnitsEngine().getAllUnits().size();
+    forEachKind([&](auto kind) { counts[indexOf(sectionOf(kind.info))] = kind.getAll(engine).size(); });
+    return counts;
+}
+
 } // namespace Tool

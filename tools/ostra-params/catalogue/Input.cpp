@@ -1,5 +1,6 @@
 #include "catalogue/Input.h"
 
+#include "output/Progress.h"
 #include "output/Text.h"
 
 #include <fmt/format.h>
@@ -9,14 +10,17 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <charconv>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
-#include <iterator>
+#include <istream>
+#include <regex>
 #include <set>
 #include <sstream>
-#include <string_view>
 #include <system_error>
+#include <tuple>
+#include <unordered_set>
 #include <utility>
 
 namespace Tool {
@@ -28,55 +32,68 @@ namespace fs = std::filesystem;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view blanks = " \t\r\n";
 
-[[noreturn]] void failToRead(const fs::path& path, const std::error_code& reason) {
+[[noreturn]] void failToRead(const std::string& path, const std::error_code& reason) {
     throw InputError(fmt::format("Cannot read {}: {}.", printable(nameOf(path)), reason.message()));
 }
 
-bool holdsLines(const fs::path& file) { return file.extension() == ".ndjson"; }
+std::error_code lastError() { return {errno, std::generic_category()}; }
 
-bool isSchemaFile(const fs::path& file) { return file.extension() == ".json" || holdsLines(file); }
+bool holdsLines(const fs::path& file) {
+    const std::string extension = lower(file.extension().string());
+    return extension == ".ndjson" || extension == ".jsonl";
+}
 
-std::vector<fs::path> schemaFilesBelow(const fs::path& folder) {
-    std::vector<fs::path> files;
-    std::error_code error;
-    for (fs::recursive_directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-        if (isSchemaFile(entry->path()) && !entry->is_directory()) {
-            files.push_back(entry->path());
+bool isSchemaFile(const fs::path& file) { return lower(file.extension().string()) == ".json" || holdsLines(file); }
+
+/// Returns the path of the file of which that of this path is a copy, by its name; empty when it does not look like one.
+std::string originalOf(const std::string& path) {
+    static const std::regex copy(R"((.*/)?(copy of )?(.*?)( \((copy|\d+)\)| - copy( \(\d+\))?| copy( \d+)?)"
+                                 R"(|[._-](bak|backup|orig|old|copy))?(\.[^.]*))",
+                                 std::regex::icase);
+    constexpr std::size_t longest = 1000; // it takes stack for each character
+    const std::string name = lower(fs::path(path).filename().string());
+    const auto signs = {"copy", "bak", "orig", "old", " ("};
+    std::smatch parts;
+    const bool isCopy = path.size() <= longest && std::any_of(signs.begin(), signs.end(), [&](const char* sign) {
+                            return name.find(sign) != std::string::npos;
+                        });
+    return isCopy && std::regex_match(path, parts, copy) ? parts.str(1) + parts.str(3) + parts.str(9) : std::string();
+}
+
+/// Puts copies behind all other files, so that a text that stands in both is faulty in the copy.
+void putCopiesLast(std::deque<std::string>& files) {
+    const std::unordered_set<std::string> known(files.begin(), files.end());
+    std::unordered_set<std::string> copies;
+    for (const std::string& file : files) {
+        const std::string original = originalOf(file);
+        if (original != file && known.contains(original)) {
+            copies.insert(file);
         }
     }
-    if (error) {
-        failToRead(folder, error);
-    }
-    if (files.empty()) {
-        throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(folder.string())));
-    }
-    std::sort(files.begin(), files.end());
-    return files;
+    std::stable_partition(files.begin(), files.end(), [&](const std::string& file) { return !copies.contains(file); });
 }
 
-std::vector<fs::path> filesOf(const fs::path& path) {
-    if (path == standardInput) {
-        return {path};
+/// Leaves out files that were there before, under another name perhaps.
+class Once {
+public:
+    bool isNew(const fs::path& file) {
+        std::error_code error;
+        if (fs::is_symlink(file, error)) {
+            const fs::path target = fs::canonical(file, error);
+            return seen_.insert(error ? file : target).second;
+        }
+        if (folder_ != file.parent_path()) { // which is that of many files in turn
+            folder_ = file.parent_path();
+            canonicalFolder_ = fs::canonical(folder_.empty() ? "." : folder_, error);
+        }
+        return seen_.insert(canonicalFolder_ / file.filename()).second;
     }
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    if (error) {
-        failToRead(path, error);
-    }
-    if (fs::is_directory(status)) {
-        return schemaFilesBelow(path);
-    }
-    if (!isSchemaFile(path)) {
-        throw InputError(fmt::format("{} is neither a folder nor a .json or .ndjson file.", printable(path.string())));
-    }
-    return {path};
-}
 
-void dropByteOrderMark(std::string& text) {
-    if (std::string_view(text).substr(0, byteOrderMark.size()) == byteOrderMark) {
-        text.erase(0, byteOrderMark.size());
-    }
-}
+private:
+    std::set<std::string> seen_;
+    fs::path folder_ = "/";
+    fs::path canonicalFolder_ = "/";
+};
 
 std::string readAll(std::istream& stream) {
     std::string text;
@@ -85,19 +102,8 @@ std::string readAll(std::istream& stream) {
         stream.read(buffer.data(), buffer.size());
         text.append(buffer.data(), static_cast<std::size_t>(stream.gcount()));
     } while (stream);
+    text.shrink_to_fit(); // many are kept
     return text;
-}
-
-void readLines(std::istream& stream, const fs::path& file, const std::function<void(const Source&)>& visit) {
-    Source source{file, 0, {}};
-    while (std::getline(stream, source.text)) {
-        if (++source.line == 1) {
-            dropByteOrderMark(source.text);
-        }
-        if (source.text.find_first_not_of(blanks) != std::string::npos) {
-            visit(source);
-        }
-    }
 }
 
 bool isWellFormed(const std::string& text) {
@@ -117,65 +123,126 @@ bool isOfLines(const std::string& text) {
     return line.front() == '{' && line[line.find_last_not_of(blanks)] == '}';
 }
 
-void readStandardInput(const std::function<void(const Source&)>& visit) {
-    const fs::path name = standardInput;
-    std::string text = readAll(std::cin);
-    if (isOfLines(text)) {
-        std::istringstream lines(text);
-        readLines(lines, name, visit);
-    } else {
-        dropByteOrderMark(text);
-        visit({name, 1, std::move(text)});
-    }
-}
-
 } // namespace
 
-std::string nameOf(const fs::path& file) { return file == standardInput ? "<stdin>" : file.string(); }
-
-std::vector<fs::path> findFiles(const std::vector<std::string>& paths) {
-    std::vector<fs::path> files;
-    std::set<fs::path> seen;
+Input::Input(const std::vector<std::string>& paths) {
     for (const std::string& path : paths) {
-        for (fs::path& file : filesOf(path)) {
-            std::error_code error;
-            const fs::path canonical = file == standardInput ? file : fs::canonical(file, error);
-            if (error) {
-                failToRead(file, error);
-            }
-            if (seen.insert(canonical).second) {
-                files.push_back(std::move(file));
-            }
-        }
+        find(path);
     }
-    return files;
+    Once once;
+    std::erase_if(files_, [&](const std::string& file) { return !once.isNew(file); });
+    putCopiesLast(files_);
+    Progress progress(files_);
+    for (const std::string& file : files_) {
+        file == standardInput ? readStandardInput(file) : read(file);
+        progress.advance(read_);
+    }
 }
 
-void readTexts(const fs::path& file, const std::function<void(const Source&)>& visit) {
-    errno = 0;
-    if (file == standardInput) {
-        readStandardInput(visit);
-        if (std::cin.bad() || std::ferror(stdin) != 0) {
-            failToRead(file, {errno, std::generic_category()});
-        }
-        return;
+std::size_t Input::numberOf(const std::string& key) {
+    std::size_t number = 0;
+    std::from_chars(key.data(), key.data() + key.size(), number);
+    return number;
+}
+
+void Input::find(const std::string& path) {
+    std::error_code error;
+    const fs::file_status status = path == standardInput ? fs::file_status() : fs::status(path, error);
+    if (error) {
+        failToRead(path, error);
     }
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) {
-        failToRead(file, {errno, std::generic_category()});
-    }
-    if (holdsLines(file)) {
-        readLines(stream, file, visit);
+    if (fs::is_directory(status)) {
+        findBelow(path);
+    } else if (path == standardInput || isSchemaFile(path)) {
+        files_.push_back(path);
     } else {
-        std::string text = readAll(stream);
-        dropByteOrderMark(text);
-        if (!stream.bad()) {
-            visit({file, 1, std::move(text)});
+        throw InputError(fmt::format("{} is neither a folder nor a .json or .ndjson file.", printable(path)));
+    }
+}
+
+void Input::findBelow(const fs::path& top) {
+    std::vector<fs::path> found;
+    std::vector<fs::path> folders{top};
+    while (!folders.empty()) {
+        const fs::path folder = std::move(folders.back());
+        folders.pop_back();
+        std::error_code error;
+        for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+            const fs::path& path = entry->path();
+            std::error_code unknown; // as of a link that leads nowhere
+            const bool isFolder = entry->is_directory(unknown);
+            if (path.filename().string().front() == '.' || (isFolder && entry->is_symlink(unknown))) {
+                continue;
+            }
+            if (isFolder) {
+                folders.push_back(path);
+            } else if (isSchemaFile(path)) {
+                found.push_back(path);
+            }
+        }
+        if (error) {
+            found.push_back(folder); // to be refused when it is its turn to be read
         }
     }
-    if (stream.bad()) {
-        failToRead(file, {errno, std::generic_category()});
+    if (found.empty()) {
+        throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(top.string())));
     }
+    std::sort(found.begin(), found.end());
+    for (const fs::path& path : found) {
+        files_.push_back(path.string());
+    }
+}
+
+void Input::read(const std::string& file) {
+    errno = 0;
+    std::ifstream stream(file, std::ios::binary);
+    if (stream && holdsLines(file)) {
+        readLines(stream, file);
+    } else if (stream) {
+        std::string text = readAll(stream);
+        if (!stream.bad()) {
+            add(file, 1, std::move(text));
+        }
+    }
+    if (stream.bad() || !stream.is_open()) {
+        std::error_code error = lastError();
+        if (error == std::errc::is_a_directory) { // which could not be searched, for a reason of its own
+            std::ignore = fs::directory_iterator(file, error);
+        }
+        failures_.push_back({&file, error.message(), sources_.size()});
+    }
+}
+
+void Input::readStandardInput(const std::string& file) {
+    errno = 0;
+    std::string text = readAll(std::cin);
+    if (std::cin.bad() || std::ferror(stdin) != 0) {
+        failToRead(file, lastError());
+    }
+    if (isOfLines(text)) {
+        std::istringstream lines(text);
+        readLines(lines, file);
+    } else {
+        add(file, 1, std::move(text));
+    }
+}
+
+void Input::readLines(std::istream& stream, const std::string& file) {
+    std::string text;
+    for (std::size_t line = 1; std::getline(stream, text); ++line) {
+        if (text.find_first_not_of(blanks) != std::string::npos) {
+            add(file, line, text);
+        }
+    }
+}
+
+void Input::add(const std::string& file, std::size_t line, std::string text) {
+    if (line == 1 && text.starts_with(byteOrderMark)) {
+        text.erase(0, byteOrderMark.size());
+    }
+    read_ += text.size();
+    const auto added = texts_.emplace_hint(texts_.end(), fmt::format("{:010}", sources_.size()), std::move(text));
+    sources_.push_back({&file, line, &added->second});
 }
 
 } // namespace Tool

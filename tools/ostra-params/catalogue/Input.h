@@ -2,10 +2,15 @@
 
 #include "catalogue/Source.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <deque>
 #include <filesystem>
-#include <functional>
+#include <iosfwd>
+#include <map>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Tool {
@@ -17,19 +22,46 @@ public:
 };
 
 /// What names the standard input among paths.
-constexpr const char* standardInput = "-";
+constexpr std::string_view standardInput = "-";
 
-/// Returns a file as it is shown to people.
-std::string nameOf(const std::filesystem::path& file);
+/// The schema texts of files, folders and standard input, in the order of the paths and of the names in a folder; a
+/// copy that was made of a file comes after all that are none.
+class Input {
+public:
+    /// Reads them, without the byte order marks at their starts. A file that is named twice counts once.
+    /// @throws InputError if a path is not there or no schema file, or a folder holds none.
+    explicit Input(const std::vector<std::string>& paths);
+    Input(const Input&) = delete;
+    Input& operator=(const Input&) = delete;
 
-/// Returns the schema files that the paths name: files and standard input as they are, folders with all schema files in
-/// them and below, sorted by path. A file that is named twice counts once.
-/// @throws InputError if a path cannot be read or is no schema file, or a folder holds none.
-std::vector<std::filesystem::path> findFiles(const std::vector<std::string>& paths);
+    /// A file or folder that cannot be read.
+    struct Failure {
+        const std::string* file;
+        std::string reason;
+        std::size_t before; ///< The number of the text that comes next.
+    };
 
-/// Visits the schema texts of a file in order, without the byte order mark at its start. Standard input holds one
-/// schema, or one a line.
-/// @throws InputError if the file cannot be read.
-void readTexts(const std::filesystem::path& file, const std::function<void(const Source&)>& visit);
+    std::size_t files() const { return files_.size(); }
+    const std::vector<Source>& sources() const { return sources_; }
+    const std::vector<Failure>& failures() const { return failures_; }
+
+    /// Returns the texts; the key of each tells its number among the sources.
+    const std::map<std::string, std::string>& texts() const { return texts_; }
+    static std::size_t numberOf(const std::string& key);
+
+private:
+    void find(const std::string& path);
+    void findBelow(const std::filesystem::path& top);
+    void read(const std::string& file);
+    void readLines(std::istream& stream, const std::string& file);
+    void readStandardInput(const std::string& file);
+    void add(const std::string& file, std::size_t line, std::string text);
+
+    std::deque<std::string> files_; // never moved, as places point to them
+    std::map<std::string, std::string> texts_;
+    std::vector<Source> sources_;
+    std::vector<Failure> failures_;
+    std::uintmax_t read_ = 0; // bytes
+};
 
 } // namespace Tool

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "catalogue/Source.h"
-#include "faults/Fault.h"
-#include "faults/Hints.h"
+#include "catalogue/Headings.h"
+#include "catalogue/Input.h"
+#include "faults/Finding.h"
 
 #include <parameters/ParametersEngine.h>
 
 #include <cstddef>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -16,30 +15,33 @@ namespace Tool {
 /// Reads schemas into an engine, and keeps what is wrong with them and where each came from.
 class Loader {
 public:
-    /// Registers a schema, or a unit schema.
-    void add(const Source& source);
-    /// Resolves what was added and is sound. Nothing is added afterwards.
-    void resolve();
-    /// Tells whether each sound schema has become an object; false as well when the units library refuses them all.
-    bool isResolved() const { return isResolved_; }
+    /// Reads files, folders and standard input.
+    /// @throws InputError as Input does.
+    /// @throws Loss if there are fewer objects than sound schemas.
+    explicit Loader(const std::vector<std::string>& paths);
 
     Parameters::ParametersEngine& engine() { return engine_; }
     const Parameters::ParametersEngine& engine() const { return engine_; }
-    const Entries& entries() const { return entries_; }
-    /// Returns how many schemas were added, faulty ones too.
-    std::size_t schemas() const { return schemas_; }
-    /// Returns what is wrong with them, in the order in which they were added.
-    std::vector<Fault> faults() const;
+    const Headings& headings() const { return headings_; }
+    const Source& source(std::size_t number) const { return input_.sources()[number]; }
+
+    /// Returns how many schemas were read, faulty ones too.
+    std::size_t schemas() const { return input_.sources().size(); }
+    std::size_t files() const { return input_.files(); }
+    /// Returns how many of them, and of files that cannot be read, are left out.
+    std::size_t leftOut() const;
+    /// Returns how many objects there are in each section.
+    const std::vector<std::size_t>& counts() const { return counts_; }
+    /// Returns what is wrong with the files and the schemas, in the order in which they were read.
+    const std::vector<Finding>& findings() const { return findings_; }
 
 private:
-    void refuse(std::size_t number, const Source& source, const std::string& message, Stage stage);
-
+    Input input_;
     Parameters::ParametersEngine engine_;
-    Entries entries_;
-    Hints hints_{entries_};
-    std::multimap<std::size_t, Fault> faults_; // by the number of the schema
-    std::size_t schemas_ = 0;
-    bool isResolved_ = false;
+    std::vector<bool> isFaulty_; // by the number of the schema
+    Headings headings_{input_.sources(), isFaulty_};
+    std::vector<Finding> findings_;
+    std::vector<std::size_t> counts_;
 };
 
 } // namespace Tool

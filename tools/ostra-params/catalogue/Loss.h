@@ -1,7 +1,7 @@
 #pragma once
 
+#include "catalogue/Headings.h"
 #include "catalogue/Object.h"
-#include "faults/Hints.h"
 
 #include <stdexcept>
 #include <vector>
@@ -16,6 +16,6 @@ public:
 
 /// Makes sure that each sound schema is one of the objects, so that no verb passes a catalogue on with less in it.
 /// @throws Loss if one is not. Its message names them.
-void mustHaveAll(const std::vector<Object>& objects, const Entries& entries);
+void mustHaveAll(const std::vector<Object>& objects, const Headings& headings);
 
 } // namespace Tool

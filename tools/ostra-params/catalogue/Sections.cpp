@@ -58,6 +58,13 @@ const Section* sectionOfId(std::string_view id) {
     return found == all.end() ? nullptr : &*found;
 }
 
+const Section* sectionOfLabel(std::string_view label) {
+    const auto& all = sections();
+    const auto found =
+        std::find_if(all.begin(), all.end(), [label](const Section& section) { return section.label == label; });
+    return found == all.end() ? nullptr : &*found;
+}
+
 bool isMeant(const Section& section, std::string_view word) {
     const std::string wanted = normal(word);
     const auto names = {section.id, section.label, section.plural};

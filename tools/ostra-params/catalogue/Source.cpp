@@ -10,17 +10,45 @@
 
 namespace Tool {
 
-Place placeOf(const Source& source, std::size_t offset) {
-    const std::string_view before = std::string_view(source.text).substr(0, offset);
-    const auto breaks = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
-    const std::size_t lineBegin = before.rfind('\n') + 1; // npos + 1 is the beginning of the text
-    return {source.file, source.line + breaks, widthOf(before.substr(lineBegin)) + 1};
+namespace {
+
+constexpr std::size_t markEvery = 4096;
+
+} // namespace
+
+Positions::Position Positions::positionOf(std::size_t offset) const {
+    const std::size_t mark = std::min(offset / markEvery, marks_.size() - 1);
+    auto [line, column] = marks_[mark];
+    for (const char byte : std::string_view(*text_).substr(mark * markEvery, offset - mark * markEvery)) {
+        line += byte == '\n' ? 1 : 0;
+        column = byte == '\n' ? 1 : column + (isFirstOfCharacter(byte) ? 1 : 0);
+    }
+    return {line, column};
 }
 
-Place beginningOf(const Source& source) { return placeOf(source, source.text.find_first_not_of(" \t\r\n")); }
+Place Positions::placeOf(const Source& source, std::size_t begin, std::size_t end) {
+    if (source.text != text_) {
+        text_ = source.text;
+        marks_ = {{0, 1}};
+        for (std::size_t offset = markEvery; offset < text_->size(); offset += markEvery) {
+            marks_.push_back(positionOf(offset));
+        }
+    }
+    const auto [line, column] = positionOf(begin);
+    const auto [endLine, endColumn] = positionOf(end);
+    return {source.file, source.line + line, column, source.line + endLine, endColumn};
+}
+
+Place beginningOf(const Source& source) {
+    const std::size_t begin = std::min(source.text->find_first_not_of(" \t\r\n"), source.text->size());
+    return Positions().placeOf(source, begin, begin);
+}
+
+std::string nameOf(const std::string& file) { return file == standardInput ? "<stdin>" : file; }
 
 std::string toString(const Place& place) {
-    return fmt::format("{}:{}:{}", printable(nameOf(place.file)), place.line, place.column);
+    const std::string file = printable(nameOf(*place.file));
+    return place.line == 0 ? file : fmt::format("{}:{}:{}", file, place.line, place.column);
 }
 
 } // namespace Tool

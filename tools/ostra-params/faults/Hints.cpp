@@ -1,99 +1,158 @@
 #include "faults/Hints.h"
 
 #include "faults/Distance.h"
-#include "faults/ExpectedSection.h"
-#include "faults/FaultPlace.h"
-#include "faults/Outline.h"
+#include "faults/Slips.h"
 
 #include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+#include <unordered_set>
 
 namespace Tool {
 
 namespace {
 
-/// Returns the constant that a message says is undefined; empty for other messages.
-std::string_view undefinedConstant(std::string_view message) {
-    constexpr std::string_view beginning = " has an undefined ";
-    constexpr std::string_view end = " constant.";
-    const std::size_t begin = message.rfind(beginning);
-    if (begin == std::string_view::npos || message.size() < end.size() ||
-        message.substr(message.size() - end.size()) != end) {
-        return {};
-    }
-    const std::string_view rest = message.substr(begin + beginning.size());
-    return rest.substr(0, rest.size() - end.size());
+using Parameters::Fault;
+
+/// What names something that is not there. Its name is that of the missing.
+constexpr std::array missing{"dependency-missing", "unit-missing", "parent-not-major"};
+
+/// Messages that say what is expected, but not where.
+constexpr std::array nameless{"string-expected", "non-empty-string-expected", "boolean-expected", "integer-expected",
+                              "number-expected", "array-expected", "array-of-strings-expected",
+                              "array-of-unique-strings-expected", "array-of-typed-values-expected",
+                              "definition-value-missing", "typed-value-object-expected", "typed-value-typeid-only",
+                              "typed-value-typeid-missing", "typed-value-typeid-empty"};
+
+bool isOneOf(std::string_view code, const auto& codes) {
+    return std::find(codes.begin(), codes.end(), code) != codes.end();
 }
 
-/// An undefined constant may be there under a misspelt name, or among the properties.
-std::string forUndefined(const std::string& text, std::string_view id) {
-    const Outline outline(text);
-    for (const char* array : {"constants", "properties"}) {
-        for (const Outline::Node* definition : outline.children(outline.member(&outline.root(), array))) {
-            const Outline::Node* found = outline.member(definition, "id");
-            if (found != nullptr && found->text == id) {
-                return fmt::format("{} stands among the {}.", id, array);
-            }
-            if (found != nullptr && !nearest(found->text, {id}).empty()) {
-                return fmt::format("the schema has a constant {}: {}", found->text, didYouMean(found->text, {id}));
-            }
+/// A known name that is meant: one nearly the same or, of a name without a version, the same with one.
+std::string meant(std::string_view name, const std::vector<std::string_view>& known) {
+    std::string question = didYouMean(name, known);
+    for (const std::string_view each : known) {
+        if (question.empty() && each.size() > name.size() && each[name.size()] == '-' && each.starts_with(name)) {
+            question = fmt::format("did you mean {}?", each);
         }
     }
-    return {};
+    return question;
+}
+
+std::string forMisspelt(const Fault& fault) {
+    if (!fault.isError()) {
+        return fmt::format("did you mean {}?", fault.nearestName());
+    }
+    if (fault.nearestName() == fault.name()) {
+        const bool isProperty = fault.place().pointer.starts_with("/properties");
+        return fmt::format("{} stands among the {}.", fault.name(), isProperty ? "properties" : "constants");
+    }
+    return fmt::format("there is {}: did you mean {}?", fault.nearestName(), fault.name());
 }
 
 } // namespace
 
-std::string Hints::hintFor(const Source& source, const Heading& heading, const std::string& message) {
-    const std::string_view mark = std::string_view(source.text).substr(0, 2);
-    if (mark == "\xFF\xFE" || mark == "\xFE\xFF") {
-        return "the text is in UTF-16, and must be in UTF-8.";
+Hints::Hints(const Input& input, const Headings& headings, const std::vector<Fault>& faults)
+    : input_(input), headings_(headings) {
+    std::unordered_set<std::string_view> faulty;
+    for (const Fault& fault : faults) {
+        if (isOneOf(fault.code(), missing)) {
+            faulty.insert(fault.typeId());
+        }
     }
-    if (message == "Inheritance from an unrecognized base schema.") {
-        return forBase(heading.base);
+    for (const Fault& fault : faults) {
+        if (isOneOf(fault.code(), missing) && faulty.contains(fault.name())) {
+            naming_.emplace(fault.typeId(), &fault);
+        }
     }
-    if (message == fmt::format("Schema with typeid {} is already registered.", heading.typeId)) {
-        return forTakenTypeId(heading.typeId);
+}
+
+std::string Hints::hintFor(const Fault& fault) {
+    const std::string& text = *input_.sources()[Input::numberOf(fault.place().text)].text;
+    if (fault.code() == "json-syntax") {
+        return std::string(slipAt(text, fault.place().begin));
     }
-    if (const std::string_view id = undefinedConstant(message); !id.empty()) {
-        return forUndefined(source.text, id);
+    if (!fault.nearestName().empty()) {
+        return forMisspelt(fault);
     }
-    const std::string_view missing = missingIn(message, heading.typeId);
-    return missing.empty() ? std::string() : forMissing(source, heading, std::string(missing));
+    if (fault.code() == "typeid-missing") {
+        const std::size_t begin = text.find_first_not_of(" \t\r\n");
+        return text[begin] == '['                                                ? "a text is one schema, no list of them."
+               : headings_.of(Input::numberOf(fault.place().text)).base.empty() ? "this is no schema; it need not be here."
+                                                                                : "";
+    }
+    if (fault.code() == "base-unrecognized") {
+        return forBase(headings_.of(Input::numberOf(fault.place().text)).base);
+    }
+    if (fault.code() == "typeid-taken") {
+        return fault.otherPlace() ? fmt::format("it is that of {}.", beginningOf(*fault.otherPlace()))
+                                  : "it contains a built-in identifier.";
+    }
+    if (isOneOf(fault.code(), missing)) {
+        return forMissing(fault);
+    }
+    if (isOneOf(fault.code(), nameless) && !fault.name().empty()) {
+        return fmt::format("this is about {}.", fault.name());
+    }
+    return {};
 }
 
 std::string Hints::forBase(const std::string& base) const {
-    if (entries_.contains(base)) {
+    if (headings_.find(base)) {
         return "only built-in bases can be inherited, and this is another schema.";
     }
     std::vector<std::string_view> bases;
     for (const Section& section : sections()) {
         bases.insert(bases.end(), section.bases.begin(), section.bases.end());
     }
-    return didYouMean(base, bases);
+    return meant(base, bases);
 }
 
-std::string Hints::forTakenTypeId(const std::string& typeId) const {
-    const auto taken = entries_.find(typeId);
-    return taken == entries_.end() ? "it contains a built-in identifier."
-                                   : fmt::format("it is that of {}.", toString(beginningOf(taken->second.source)));
-}
-
-std::string Hints::forMissing(const Source& source, const Heading& heading, const std::string& typeId) {
-    const Section* ofSchema = sectionOfBase(heading.base);
-    const Section* expected = ofSchema == nullptr ? nullptr : expectedSection(*ofSchema, roleOf(source.text, typeId));
-    const auto entry = entries_.find(typeId);
-    if (entry == entries_.end()) {
-        return expected == nullptr ? std::string() : similarTo(typeId, *expected);
+std::string Hints::forMissing(const Fault& fault) {
+    const Section* expected = sectionOfLabel(fault.expectedKind());
+    if (std::string circle = circleOf(fault); !circle.empty()) {
+        return circle;
     }
-    const std::string place = toString(beginningOf(entry->second.source));
-    if (!entry->second.isSound) {
+    if (!fault.otherPlace()) {
+        const Section* actual = sectionOfBase(fault.name());
+        return expected == nullptr ? std::string()
+               : actual != nullptr && actual != expected
+                   ? fmt::format("this is the base of the kind {}, and the kind {} is expected.", actual->label,
+                                 expected->label)
+                   : similarTo(fault.name(), *expected);
+    }
+    const std::size_t number = Input::numberOf(fault.otherPlace()->text);
+    const std::string place = beginningOf(*fault.otherPlace());
+    if (fault.root() || !headings_.isSound(number)) {
         return fmt::format("it is in {}, and faulty.", place);
     }
-    const Section* actual = sectionOfBase(entry->second.base);
+    const Section* actual = sectionOfBase(headings_.of(number).base);
     if (expected == nullptr || actual == nullptr || actual == expected) {
         return {};
     }
     return fmt::format("{} is of the kind {}, and the kind {} is expected.", place, actual->label, expected->label);
+}
+
+std::string Hints::circleOf(const Fault& fault) const {
+    constexpr std::size_t longest = 10;
+    if (fault.name() == fault.typeId()) {
+        return "the schema names itself.";
+    }
+    std::string circle = fault.typeId();
+    const Fault* next = &fault;
+    for (std::size_t i = 0; i < longest; ++i) {
+        circle += ", " + next->name();
+        const auto found = naming_.find(next->name());
+        if (found == naming_.end()) {
+            return {};
+        }
+        next = found->second;
+        if (next->name() == fault.typeId()) {
+            return "they name each other in a circle: " + circle + ".";
+        }
+    }
+    return {};
 }
 
 std::string Hints::similarTo(const std::string& typeId, const Section& section) {
@@ -104,13 +163,17 @@ std::string Hints::similarTo(const std::string& typeId, const Section& section) 
     }
     std::vector<std::string_view>& typeIds = typeIds_[&section];
     if (typeIds.empty()) {
-        for (const auto& [known, entry] : entries_) {
-            if (sectionOfBase(entry.base) == &section) {
-                typeIds.emplace_back(known);
+        for (const Heading& heading : headings_.all()) {
+            if (sectionOfBase(heading.base) == &section) {
+                typeIds.emplace_back(heading.typeId);
             }
         }
     }
-    return similar->second = didYouMean(typeId, typeIds);
+    return similar->second = meant(typeId, typeIds);
+}
+
+std::string Hints::beginningOf(const Fault::Place& place) const {
+    return toString(Tool::beginningOf(input_.sources()[Input::numberOf(place.text)]));
 }
 
 } // namespace Tool

@@ -1,42 +1,39 @@
 #pragma once
 
-#include "catalogue/Heading.h"
+#include "catalogue/Headings.h"
+#include "catalogue/Input.h"
 #include "catalogue/Sections.h"
-#include "catalogue/Source.h"
+
+#include <parameters/Fault.h>
 
 #include <map>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
 namespace Tool {
 
-/// What was read of a catalogue so far, by typeid.
-struct Entry {
-    Source source;
-    std::string base;
-    std::size_t number; ///< In the order of reading.
-    bool isSound = true;
-};
-using Entries = std::map<std::string, Entry, std::less<>>;
-
-/// Says what may help the author of a faulty schema.
+/// Says what may help to mend a fault.
 class Hints {
 public:
-    explicit Hints(const Entries& entries) : entries_(entries) {}
+    Hints(const Input& input, const Headings& headings, const std::vector<Parameters::Fault>& faults);
 
-    /// Returns a hint for a message of the library; empty when there is nothing to say.
-    std::string hintFor(const Source& source, const Heading& heading, const std::string& message);
+    /// Returns a hint for one of the faults; empty when there is nothing to say.
+    std::string hintFor(const Parameters::Fault& fault);
 
 private:
     std::string forBase(const std::string& base) const;
-    std::string forTakenTypeId(const std::string& typeId) const;
-    std::string forMissing(const Source& source, const Heading& heading, const std::string& typeId);
+    std::string forMissing(const Parameters::Fault& fault);
+    std::string circleOf(const Parameters::Fault& fault) const;
     std::string similarTo(const std::string& typeId, const Section& section);
+    std::string beginningOf(const Parameters::Fault::Place& place) const;
 
-    const Entries& entries_;
-    std::map<const Section*, std::vector<std::string_view>> typeIds_;       // of each section that was asked for
+    const Input& input_;
+    const Headings& headings_;
+    std::unordered_map<std::string, const Parameters::Fault*> naming_; // what names a faulty schema, by its typeid
+    std::map<const Section*, std::vector<std::string_view>> typeIds_;  // of each section that was asked for
     std::map<std::pair<const Section*, std::string>, std::string> similar_; // what was found, as many may miss the same
 };
 

@@ -69,15 +69,6 @@ void mustBeReplaceable(const fs::path& folder) {
     mustSucceed(folder, error);
 }
 
-/// Returns the 64-bit FNV-1a hash of a text. That of the standard library is another one elsewhere.
-std::uint64_t digestOf(std::string_view text) {
-    std::uint64_t digest = 0xCBF29CE484222325U;
-    for (const char byte : text) {
-        digest = (digest ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
-    }
-    return digest;
-}
-
 } // namespace
 
 std::string FileNames::nameOf(const std::string& text) {

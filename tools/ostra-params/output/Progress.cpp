@@ -7,14 +7,15 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdio>
+#include <filesystem>
 #include <string>
 #include <system_error>
 
 namespace Tool {
 
-Progress::Progress(const std::vector<std::filesystem::path>& files)
+Progress::Progress(const std::deque<std::string>& files)
     : isShown_(::isatty(STDERR_FILENO) == 1), nextDrawing_(Clock::now() + std::chrono::seconds(1)) {
-    for (const std::filesystem::path& file : files) {
+    for (const std::string& file : files) {
         std::error_code unknown; // the size of standard input, for one
         const std::uintmax_t size = std::filesystem::file_size(file, unknown);
         total_ += unknown ? 0 : size;
@@ -28,7 +29,7 @@ Progress::~Progress() {
 }
 
 void Progress::advance(std::uintmax_t bytes) {
-    read_ += bytes;
+    read_ = bytes;
     if (isShown_ && Clock::now() >= nextDrawing_) {
         draw();
         isDrawn_ = true;

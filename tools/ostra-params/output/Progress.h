@@ -2,20 +2,20 @@
 
 #include <chrono>
 #include <cstdint>
-#include <filesystem>
-#include <vector>
+#include <deque>
+#include <string>
 
 namespace Tool {
 
 /// Shows on a terminal's standard error how much of the files is read, once that takes more than a second.
 class Progress {
 public:
-    explicit Progress(const std::vector<std::filesystem::path>& files);
+    explicit Progress(const std::deque<std::string>& files);
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
     ~Progress();
 
-    /// Says that so many bytes more are read.
+    /// Says that so many bytes are read.
     void advance(std::uintmax_t bytes);
 
 private:

@@ -1,12 +1,29 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace Tool {
 
-/// Returns the text in one line that a terminal shows as it is, whatever bytes its author put into it.
+/// Returns whether a byte of a UTF-8 text is the first one of a character.
+constexpr bool isFirstOfCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; }
+
+/// Returns the offset of the first byte that is no UTF-8, or npos.
+std::size_t findInvalid(std::string_view text);
+
+/// Returns the text with a replacement character for each byte that is no UTF-8.
+std::string readable(std::string_view text);
+
+/// Returns the text with the letters of ASCII in lower case.
+std::string lower(std::string_view text);
+
+/// Returns the 64-bit FNV-1a hash of a text. That of the standard library is another one elsewhere.
+std::uint64_t digestOf(std::string_view text);
+
+/// Returns the text in one line that a terminal shows as it is, whatever bytes its author put into it: UTF-8 without
+/// controls.
 std::string printable(std::string_view text);
 
 /// Returns the text with %XX for all bytes but letters, digits and the plain ones.

@@ -203,6 +203,11 @@
     made.addEventListener("click", () => { byId("kind").value = "=" + kind.plural; search(); list.focus(); });
     return made;
   }
+  function faultItem([place, message, hint, rest, , typeId]) {
+    const below = [hint && `Hint: ${hint}`, rest].filter(Boolean).map((text) => element("div", null, text));
+    const shown = element("code", null, place);
+    return element("li", null, byTypeId.has(typeId) ? element("a", { href: link(typeId) }, shown) : shown, " ", message, ...below);
+  }
   function overview() {
     const counts = kinds.map(() => 0);
     objects.forEach((object) => { counts[object.kind] += 1; });
@@ -213,9 +218,12 @@
       element("ul", { class: "counts" }, ...kinds.map((kind, i) => [kind, counts[i]]).filter(([, number]) => number)
         .map(([kind, number]) => element("li", null, filterButton(kind), element("span", null, count(number))))));
     const parts = [card];
-    if (data.faults.length > 0) {
-      parts.push(element("section", { class: "card faults" }, element("h3", null, "Left out, as it is faulty"),
-        element("ul", null, ...data.faults.map(([place, message]) => element("li", null, element("code", null, place), " ", message)))));
+    for (const [isError, title] of [[true, "Left out, as it is faulty"], [false, "Perhaps not meant"]]) {
+      const found = data.faults.filter((fault) => fault[4] === isError);
+      if (found.length > 0) {
+        parts.push(element("section", { class: "card faults" }, element("h3", null, title),
+          element("ul", null, ...found.map(faultItem))));
+      }
     }
     return parts;
   }
@@ -362,8 +370,11 @@
   fillFilter(filters[1], "all", objects.flatMap((object) => object.group ?? []));
   fillFilter(filters[2], "all", objects.flatMap((object) => object.disciplines ?? []));
   byId("totals").append(`${count(objects.length)} objects`);
-  if (data.faults.length > 0) {
-    byId("totals").append(", ", element("a", { class: "bad", href: "#" }, `${count(data.faults.length)} left out as faulty`));
+  const warnings = data.faults.filter((fault) => !fault[4]).length;
+  for (const [number, what] of [[data.leftOut, "left out as faulty"], [warnings, warnings === 1 ? "warning" : "warnings"]]) {
+    if (number > 0) {
+      byId("totals").append(", ", element("a", { class: "bad", href: "#" }, `${count(number)} ${what}`));
+    }
   }
   query.addEventListener("input", search);
   filters.forEach((select) => select.addEventListener("change", search));

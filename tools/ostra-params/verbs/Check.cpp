@@ -1,43 +1,98 @@
-#include "catalogue/Catalogue.h"
+#include "catalogue/Loader.h"
+#include "faults/Distance.h"
+#include "faults/Findings.h"
+#include "faults/Lint.h"
+#include "faults/Rules.h"
 #include "output/OutputFile.h"
+#include "output/Text.h"
 #include "verbs/CheckFormats.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
 
-#include <map>
+#include <algorithm>
 #include <memory>
+#include <set>
 
 namespace Tool {
 
 namespace {
 
+using Codes = std::set<std::string, std::less<>>;
+
 struct Options {
     std::vector<std::string> paths;
     std::string format = "text";
+    std::string severity = "warning";
+    std::vector<std::string> ignored;
+    std::vector<std::string> only;
+    std::vector<std::string> lints;
+    bool isStrict = false;
+    bool isAll = false;
     bool isQuiet = false;
 };
 
 constexpr const char* details = R"(Registers all schemas, those of units too, and resolves them. Prints a line
-"file:line:column: message" for each fault, then the number of sound objects of
-each kind. What names a faulty schema is faulty, too.
+"file:line:column: message" for each fault and warning, then the number of
+sound objects of each kind. What names a faulty schema is faulty, too, and is
+folded into a line below the cause.
 
 Exit codes:
-  0  the catalogue is sound
-  1  the catalogue has faults
-  2  wrong usage, or a path that cannot be read, is no schema file, or is a
+  0  the catalogue is sound, or has warnings alone
+  1  the catalogue has faults, or warnings and --strict is given
+  2  wrong usage, or a path that is not there, is no schema file, or is a
      folder without schema files)";
 
-ExitCode check(const Options& options) {
-    const Catalogue catalogue(options.paths);
-    if (options.format == "json") {
-        print(checkAsJson(catalogue));
-    } else if (options.format == "sarif") {
-        print(checkAsSarif(catalogue));
-    } else {
-        print(faultsAsText(catalogue) + (options.isQuiet ? std::string() : summaryAsText(catalogue)));
+std::string refuseUnknownCode(const std::string& code) {
+    std::vector<std::string_view> known;
+    for (const Rule& rule : rules()) {
+        known.push_back(rule.code);
     }
-    return catalogue.faults().empty() ? Good : Bad;
+    if (std::find(known.begin(), known.end(), code) != known.end()) {
+        return {};
+    }
+    const std::string question = didYouMean(code, known);
+    return "there is no code " + printable(code) + (question.empty() ? "" : "; " + question);
+}
+
+/// Returns what to look for beside faults: what is asked for or, as long as nothing alone is asked for, the default.
+Codes lintsOf(const Options& options) {
+    Codes codes;
+    for (const Lint& lint : lints()) {
+        const auto isIn = [&](const auto& list) { return std::find(list.begin(), list.end(), lint.code) != list.end(); };
+        const bool isWanted = options.only.empty() ? lint.isDefault || isIn(options.lints) : isIn(options.only);
+        if (isWanted && !isIn(options.ignored) && options.severity == "warning") {
+            codes.emplace(lint.code);
+        }
+    }
+    return codes;
+}
+
+ExitCode check(const Options& options) {
+    Loader catalogue(options.paths);
+    std::vector<Finding> findings = catalogue.findings();
+    if (const Codes codes = lintsOf(options); !codes.empty()) {
+        addTo(findings, lint(catalogue, codes));
+    }
+    const Codes ignored(options.ignored.begin(), options.ignored.end());
+    const Codes only(options.only.begin(), options.only.end());
+    std::erase_if(findings, [&](const Finding& finding) {
+        return ignored.contains(finding.code) || (!only.empty() && !only.contains(finding.code)) ||
+               (options.severity == "error" && !finding.isError);
+    });
+    if (options.format == "json") {
+        print(checkAsJson(catalogue, findings));
+    } else if (options.format == "sarif") {
+        print(findingsAsSarif(findings));
+    } else if (options.format == "github") {
+        print(findingsAsCommands(findings, options.isAll));
+    } else {
+        print(findingsAsText(findings, options.isAll) +
+              (options.isQuiet ? std::string() : summaryAsText(catalogue, findings)));
+    }
+    const bool isBad = std::any_of(findings.begin(), findings.end(),
+                                   [&](const Finding& finding) { return finding.isError || options.isStrict; });
+    return isBad ? Bad : Good;
 }
 
 } // namespace
@@ -46,9 +101,30 @@ Action addCheck(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("check", "Find every fault in the schemas of files and folders");
     addPaths(*verb, options->paths);
-    verb->add_option("--format", options->format, "text (which is the default), json, or sarif for code hosts")
-        ->check(CLI::IsMember({"text", "json", "sarif"}))
-        ->type_name("FORMAT");
+    const auto addChoice = [&](const char* name, std::string& value, const char* help,
+                               const std::vector<std::string>& choices, const char* type) {
+        verb->add_option(name, value, help)->check(CLI::IsMember(choices))->type_name(type);
+    };
+    const auto addCodes = [&](const char* name, std::vector<std::string>& codes, const std::string& help) {
+        return verb->add_option(name, codes, help)->delimiter(',')->allow_extra_args(false)->type_name("CODE");
+    };
+    addChoice("--format", options->format,
+              "text (which is the default), json, sarif for code hosts,\nor github for the log of a workflow",
+              {"text", "json", "sarif", "github"}, "FORMAT");
+    addChoice("--severity", options->severity, "error, or warning (which is the default) for both",
+              {"error", "warning"}, "SEVERITY");
+    const CLI::Validator known(refuseUnknownCode, "");
+    addCodes("--ignore", options->ignored, "Leave these out; may be repeated")->check(known);
+    addCodes("--only", options->only, "Look for these alone; may be repeated")->check(known);
+    std::vector<std::string> codes;
+    std::string more;
+    for (const Lint& lint : lints()) {
+        codes.emplace_back(lint.code);
+        more += lint.isDefault ? "" : "\n" + codes.back();
+    }
+    addCodes("--lint", options->lints, "Look for these, too; may be repeated:" + more)->check(CLI::IsMember(codes));
+    verb->add_flag("--strict", options->isStrict, "Fail when there are warnings");
+    verb->add_flag("--all", options->isAll, "Show each consequence, too");
     verb->add_flag("-q,--quiet", options->isQuiet, "Print the faults alone, and nothing when there are none");
     verb->footer(details);
     return [options] { return check(*options); };

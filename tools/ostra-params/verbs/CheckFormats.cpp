@@ -1,53 +1,126 @@
 #include "verbs/CheckFormats.h"
 
-#include "catalogue/Input.h"
+#include "catalogue/Sections.h"
+#include "faults/Folding.h"
 #include "output/Json.h"
 #include "output/Text.h"
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <functional>
 #include <iterator>
+#include <numeric>
+#include <string_view>
 
 namespace Tool {
 
-std::string faultsAsText(const Catalogue& catalogue) {
+namespace {
+
+/// Writes what is shown of each fold: a finding, and what there is to say below it.
+std::string folded(const std::vector<Finding>& findings, bool isAll,
+                   const std::function<std::string(const Finding&, const std::string&)>& write) {
     std::string text;
-    for (const Fault& fault : catalogue.faults()) {
-        text += (fault.place ? toString(*fault.place) + ": " : std::string()) + printable(fault.message) + "\n";
-        text += fault.hint.empty() ? std::string() : "    hint: " + printable(fault.hint) + "\n";
+    for (const Fold& fold : fold(findings)) {
+        const std::string rest = summaryOf(fold);
+        text += write(*fold.shown, rest.empty() || isAll ? std::string() : rest + "; --all shows each.");
+        for (const Finding* finding : fold.folded) {
+            text += isAll ? write(*finding, "") : std::string();
+        }
     }
     return text;
 }
 
-std::string summaryAsText(const Catalogue& catalogue) {
-    constexpr auto line = "{:<24}{:>10}\n";
-    std::string text = fmt::format(line, "kind", "objects");
-    for (const Section& section : sections()) {
-        fmt::format_to(std::back_inserter(text), line, section.plural, catalogue.count(section));
-    }
-    fmt::format_to(std::back_inserter(text), line, "total", catalogue.objects().size());
-    return text + fmt::format("{} in {}: {}\n", counted(catalogue.schemas(), "schema"),
-                              counted(catalogue.files(), "file"), counted(catalogue.faults().size(), "fault"));
+std::string lineOf(const Finding& finding, const std::string& rest) {
+    return toString(finding.place) + ": " + (finding.isError ? "" : "warning: ") + printable(finding.message) +
+           (finding.isError ? "" : " [" + finding.code + "]") + "\n" +
+           (finding.hint.empty() ? "" : "    hint: " + printable(finding.hint) + "\n") +
+           (rest.empty() ? "" : "    " + rest + "\n");
 }
 
-std::string checkAsJson(const Catalogue& catalogue) {
+/// Escapes what would end a command or, in a property of one, the property.
+std::string escaped(std::string_view text, bool isProperty) {
+    const std::string_view special = isProperty ? "%\r\n:," : "%\r\n";
+    std::string result;
+    for (const char byte : text) {
+        result += special.find(byte) == std::string_view::npos
+                      ? std::string(1, byte)
+                      : fmt::format("%{:02X}", static_cast<unsigned char>(byte));
+    }
+    return result;
+}
+
+std::string commandOf(const Finding& finding, const std::string& rest) {
+    const Place& place = finding.place;
+    std::string where = "file=" + escaped(printable(nameOf(*place.file)), true);
+    if (place.line != 0) {
+        fmt::format_to(std::back_inserter(where), ",line={},col={},endLine={},endColumn={}", place.line, place.column,
+                       place.endLine, place.endColumn);
+    }
+    std::string text = printable(finding.message);
+    text += finding.hint.empty() ? "" : "\nHint: " + printable(finding.hint);
+    text += rest.empty() ? "" : "\n" + rest;
+    return fmt::format("::{} {},title={}::{}\n", finding.isError ? "error" : "warning", where,
+                       escaped(finding.code, true), escaped(text, false));
+}
+
+Json asJson(const Place& place) {
+    Json json{{"file", nameOf(*place.file)}};
+    if (place.line != 0) {
+        json.update({{"line", place.line},
+                     {"column", place.column},
+                     {"endLine", place.endLine},
+                     {"endColumn", place.endColumn},
+                     {"pointer", place.pointer}});
+    }
+    return json;
+}
+
+Json asJson(const Finding& finding) {
+    Json json{{"code", finding.code},
+              {"severity", finding.isError ? "error" : "warning"},
+              {"message", finding.message},
+              {"typeid", finding.typeId}};
+    json.update(asJson(finding.place));
+    json.update({{"name", finding.name}, {"expected", finding.expected}, {"nearest", finding.nearest}});
+    json["other"] = finding.other ? asJson(*finding.other) : Json();
+    json["root"] = finding.root ? asJson(*finding.root) : Json();
+    json["hint"] = finding.hint;
+    return json;
+}
+
+} // namespace
+
+std::string findingsAsText(const std::vector<Finding>& findings, bool isAll) { return folded(findings, isAll, lineOf); }
+
+std::string findingsAsCommands(const std::vector<Finding>& findings, bool isAll) {
+    return folded(findings, isAll, commandOf);
+}
+
+std::string summaryAsText(const Loader& catalogue, const std::vector<Finding>& findings) {
+    constexpr auto line = "{:<24}{:>10}\n";
+    const auto& counts = catalogue.counts();
+    std::string text = fmt::format(line, "kind", "objects");
+    for (const Section& section : sections()) {
+        fmt::format_to(std::back_inserter(text), line, section.plural, counts[indexOf(section)]);
+    }
+    fmt::format_to(std::back_inserter(text), line, "total", std::reduce(counts.begin(), counts.end()));
+    const auto errors = static_cast<std::size_t>(
+        std::count_if(findings.begin(), findings.end(), [](const Finding& finding) { return finding.isError; }));
+    const std::size_t warnings = findings.size() - errors;
+    return text + fmt::format("{} in {}: {}{}\n", counted(catalogue.schemas(), "schema"),
+                              counted(catalogue.files(), "file"), counted(errors, "fault"),
+                              warnings == 0 ? "" : ", " + counted(warnings, "warning"));
+}
+
+std::string checkAsJson(const Loader& catalogue, const std::vector<Finding>& findings) {
     Json faults = Json::array();
-    for (const Fault& fault : catalogue.faults()) {
-        Json entry = Json::object();
-        if (fault.place) {
-            entry["file"] = nameOf(fault.place->file);
-            entry["line"] = fault.place->line;
-            entry["column"] = fault.place->column;
-        }
-        entry["message"] = fault.message;
-        if (!fault.hint.empty()) {
-            entry["hint"] = fault.hint;
-        }
-        faults.push_back(std::move(entry));
+    for (const Finding& finding : findings) {
+        faults.push_back(asJson(finding));
     }
     Json objects = Json::object();
     for (const Section& section : sections()) {
-        objects[std::string(section.id)] = catalogue.count(section);
+        objects[std::string(section.id)] = catalogue.counts()[indexOf(section)];
     }
     return toText({{"files", catalogue.files()},
                    {"schemas", catalogue.schemas()},

@@ -1,21 +1,27 @@
 #pragma once
 
-#include "catalogue/Catalogue.h"
+#include "catalogue/Loader.h"
+#include "faults/Finding.h"
 
 #include <string>
+#include <vector>
 
 namespace Tool {
 
-/// Returns what is wrong with a catalogue: a line "file:line:column: message" for each fault, with a hint below it.
-std::string faultsAsText(const Catalogue& catalogue);
+/// Returns a line "file:line:column: message" for each finding, with a hint below it and a line for what is folded into
+/// it; what is folded is shown, too, when all are asked for.
+std::string findingsAsText(const std::vector<Finding>& findings, bool isAll = false);
+
+/// Returns the same as commands for the log of a workflow, by which a code host shows findings in place.
+std::string findingsAsCommands(const std::vector<Finding>& findings, bool isAll);
 
 /// Returns a table of the objects of a catalogue, a line per kind, and a line that sums up.
-std::string summaryAsText(const Catalogue& catalogue);
+std::string summaryAsText(const Loader& catalogue, const std::vector<Finding>& findings);
 
 /// Returns both as one JSON object.
-std::string checkAsJson(const Catalogue& catalogue);
+std::string checkAsJson(const Loader& catalogue, const std::vector<Finding>& findings);
 
-/// Returns the faults as a log in the Static Analysis Results Interchange Format 2.1.0, which code hosts show in place.
-std::string checkAsSarif(const Catalogue& catalogue);
+/// Returns the findings as a log in the Static Analysis Results Interchange Format 2.1.0, which code hosts show in place.
+std::string findingsAsSarif(const std::vector<Finding>& findings);
 
 } // namespace Tool

@@ -3,7 +3,6 @@
 #include "output/Json.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
-#include "verbs/CheckFormats.h"
 #include "verbs/Difference.h"
 #include "verbs/Verb.h"
 
@@ -78,19 +77,14 @@ std::string asJson(const Difference& difference) {
     return toText(json);
 }
 
-bool isSound(const Catalogue& catalogue) {
-    printError(faultsAsText(catalogue));
-    return catalogue.faults().empty();
-}
-
 ExitCode diff(const Options& options) {
     if (options.oldPath == standardInput && options.newPath == standardInput) {
         throw InputError("Standard input can be only one of the two catalogues.");
     }
     const Catalogue before({options.oldPath});
     const Catalogue after({options.newPath});
-    const bool isOldSound = isSound(before);
-    const bool isNewSound = isSound(after);
+    const bool isOldSound = !printFaults(before);
+    const bool isNewSound = !printFaults(after);
     if (!isOldSound || !isNewSound) { // what is left out as faulty would seem to be removed
         return Unusable;
     }

@@ -1,8 +1,8 @@
 #include "catalogue/Catalogue.h"
+#include "faults/Findings.h"
 #include "output/Folder.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
-#include "verbs/CheckFormats.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
@@ -59,8 +59,7 @@ bool isFolder(const std::string& output) {
 
 ExitCode exportCatalogue(const Options& options) {
     const Catalogue catalogue(options.paths);
-    if (!catalogue.faults().empty()) {
-        printError(faultsAsText(catalogue));
+    if (printFaults(catalogue, encodingInvalid)) {
         return Bad;
     }
     if (options.output == "-") {

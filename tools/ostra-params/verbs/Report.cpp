@@ -1,4 +1,5 @@
 #include "catalogue/Catalogue.h"
+#include "faults/Folding.h"
 #include "output/Json.h"
 #include "output/OutputFile.h"
 #include "report/Page.h"
@@ -44,9 +45,13 @@ Json dataOf(const Catalogue& catalogue) {
             Json::array({object.typeId, indexOf(*object.section), object.name, std::move(properties),
                          toString(beginningOf(catalogue.sourceOf(object)))}));
     }
-    for (const Fault& fault : catalogue.faults()) {
-        data["faults"].push_back(Json::array({fault.place ? toString(*fault.place) : "", fault.message}));
+    for (const Fold& fold : fold(catalogue.findings())) {
+        const Finding& finding = *fold.shown;
+        data["faults"].push_back(
+            Json::array({toString(finding.place), finding.message, finding.hint, summaryOf(fold), finding.isError,
+                         finding.typeId}));
     }
+    data["leftOut"] = catalogue.leftOut();
     return data;
 }
 

@@ -1,58 +1,95 @@
 #include "catalogue/Input.h"
+#include "faults/Rules.h"
 #include "output/Json.h"
 #include "output/Text.h"
 #include "verbs/CheckFormats.h"
 
-#include <array>
+#include <fmt/format.h>
+
 #include <filesystem>
+#include <map>
+#include <unordered_map>
 #include <utility>
 
 namespace Tool {
 
 namespace {
 
-struct Rule {
-    const char* id;
-    const char* description;
-};
-
-constexpr std::array rules{
-    Rule{"schema", "The text is a well-formed schema of a known kind."},
-    Rule{"dependency", "What a schema names is there and fits."},
-};
-
-const Rule& ruleOf(const Fault& fault) { return rules[fault.stage == Stage::reading ? 0 : 1]; }
-
 /// Returns a path as a URI: relative where the path is, so that it means the same in another checkout.
-std::string uriOf(const std::filesystem::path& file) {
-    const std::string path = (file == standardInput ? file : file.lexically_normal()).generic_string();
-    return (file.is_absolute() ? "file://" : "") + percentEncoded(path, "/-._~");
+std::string uriOf(const std::string& path) {
+    const std::filesystem::path file(path);
+    const std::string normal = (path == standardInput ? file : file.lexically_normal()).generic_string();
+    return (file.is_absolute() ? "file://" : "") + percentEncoded(normal, "/-._~");
 }
 
-Json resultOf(const Fault& fault) {
-    Json result{{"ruleId", ruleOf(fault).id},
-                {"level", "error"},
-                {"message", {{"text", fault.message + (fault.hint.empty() ? "" : "\nHint: " + fault.hint)}}}};
-    if (fault.place) {
-        const Json region{{"startLine", fault.place->line}, {"startColumn", fault.place->column}};
-        const Json place{{"artifactLocation", {{"uri", uriOf(fault.place->file)}}}, {"region", region}};
-        result["locations"] = Json::array({{{"physicalLocation", place}}});
+Json locationOf(const Place& place) {
+    Json physical{{"artifactLocation", {{"uri", uriOf(*place.file)}}}};
+    if (place.line != 0) {
+        physical["region"] = {{"startLine", place.line},
+                              {"startColumn", place.column},
+                              {"endLine", place.endLine},
+                              {"endColumn", place.endColumn}};
     }
-    return result;
+    return {{"physicalLocation", std::move(physical)}};
+}
+
+Json relatedLocations(const Finding& finding) {
+    Json related = Json::array();
+    const auto add = [&](const std::optional<Place>& place, const char* text) {
+        if (place) {
+            Json location{{"id", related.size() + 1}};
+            location.update(locationOf(*place));
+            location["message"] = {{"text", text}};
+            related.push_back(std::move(location));
+        }
+    };
+    add(finding.other, "The other side");
+    add(finding.root, "What this follows from");
+    return related;
+}
+
+Json asJson(const Rule& rule) {
+    return {{"id", rule.code},
+            {"shortDescription", {{"text", rule.message}}},
+            {"help", {{"text", fmt::format("{}\n{}", rule.cause, rule.repair)}}}};
+}
+
+/// Tells findings apart by what stays when lines are added above, or other faults mended.
+std::string fingerprintOf(const Finding& finding, std::map<std::string, int>& seen) {
+    std::string identity;
+    for (const std::string& part : {finding.code, uriOf(*finding.place.file), finding.typeId, finding.name}) {
+        identity += part + '\0';
+    }
+    const int repetition = seen[identity]++;
+    return fmt::format("{:016x}:{}", digestOf(identity), repetition);
 }
 
 } // namespace
 
-std::string checkAsSarif(const Catalogue& catalogue) {
-    Json ruleTable = Json::array();
-    for (const Rule& rule : rules) {
-        ruleTable.push_back({{"id", rule.id}, {"shortDescription", {{"text", rule.description}}}});
+std::string findingsAsSarif(const std::vector<Finding>& findings) {
+    Json table = Json::array();
+    std::unordered_map<std::string_view, std::size_t> indices;
+    for (const Rule& rule : rules()) {
+        indices.emplace(rule.code, table.size());
+        table.push_back(asJson(rule));
     }
     Json results = Json::array();
-    for (const Fault& fault : catalogue.faults()) {
-        results.push_back(resultOf(fault));
+    std::map<std::string, int> seen;
+    for (const Finding& finding : findings) {
+        Json result{{"ruleId", finding.code}};
+        if (const auto index = indices.find(finding.code); index != indices.end()) {
+            result["ruleIndex"] = index->second;
+        }
+        result["level"] = finding.isError ? "error" : "warning";
+        result["message"]["text"] = finding.message + (finding.hint.empty() ? "" : "\nHint: " + finding.hint);
+        result["locations"] = Json::array({locationOf(finding.place)});
+        if (finding.other || finding.root) {
+            result["relatedLocations"] = relatedLocations(finding);
+        }
+        result["partialFingerprints"]["ostraFault/v1"] = fingerprintOf(finding, seen);
+        results.push_back(std::move(result));
     }
-    const Json driver{{"name", "ostra-params"}, {"version", OSTRA_PARAMETERS_VERSION}, {"rules", std::move(ruleTable)}};
+    const Json driver{{"name", "ostra-params"}, {"version", OSTRA_PARAMETERS_VERSION}, {"rules", std::move(table)}};
     Json run{{"tool", {{"driver", driver}}}, {"columnKind", "unicodeCodePoints"}, {"results", std::move(results)}};
     return toText({{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
                    {"version", "2.1.0"},

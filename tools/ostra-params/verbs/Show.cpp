@@ -92,7 +92,7 @@ std::string sheetOf(const Catalogue& catalogue, const Object& object) {
 ExitCode show(const Options& options) {
     const Catalogue catalogue(options.paths);
     const Object& object = findObject(catalogue, options.typeId);
-    print(options.isSchema ? indented(catalogue.schemaOf(object)) + "\n" : sheetOf(catalogue, object));
+    print(options.isSchema ? readable(indented(catalogue.schemaOf(object))) + "\n" : sheetOf(catalogue, object));
     return warnOfFaults(catalogue);
 }
 

@@ -3,6 +3,7 @@
 #include "catalogue/Catalogue.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
+#include "verbs/CheckFormats.h"
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -14,8 +15,8 @@ namespace {
 CLI::Option* addPathOption(CLI::App& verb, std::vector<std::string>& paths, const std::string& otherwise) {
     return verb
         .add_option("PATH", paths,
-                    ".json files (one schema each), .ndjson files (one schema\nper line), folders to be searched for "
-                    "such files at all\ndepths, and - for standard input" +
+                    ".json files (one schema each), .ndjson and .jsonl files\n(one schema per line), folders to be "
+                    "searched for such\nfiles at all depths, and - for standard input" +
                         otherwise)
         ->check(refuseEmpty)
         ->type_name("");
@@ -47,12 +48,19 @@ std::string kindIds() {
 }
 
 ExitCode warnOfFaults(const Catalogue& catalogue) {
-    if (catalogue.faults().empty()) {
+    if (catalogue.leftOut() == 0) {
         return Good;
     }
     printError(fmt::format("ostra-params: {} left out; \"ostra-params check\" tells more.\n",
-                           counted(catalogue.faults().size(), "faulty schema")));
+                           counted(catalogue.leftOut(), "faulty schema")));
     return Bad;
+}
+
+bool printFaults(const Catalogue& catalogue, std::string_view warningCode) {
+    std::vector<Finding> faults = catalogue.findings();
+    std::erase_if(faults, [&](const Finding& finding) { return !finding.isError && finding.code != warningCode; });
+    printError(findingsAsText(faults));
+    return !faults.empty();
 }
 
 } // namespace Tool

@@ -49,4 +49,7 @@ std::string kindIds();
 /// Says on standard error that a catalogue has faults, if it has, and returns the exit code that says so, too.
 ExitCode warnOfFaults(const Catalogue& catalogue);
 
+/// Prints the faults of a catalogue on standard error, and warnings of a code; returns whether there are any.
+bool printFaults(const Catalogue& catalogue, std::string_view warningCode = {});
+
 } // namespace Tool

@@ -1,10 +1,8 @@
-#include "catalogue/Heading.h"
+#include "catalogue/Headings.h"
 
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
-#include <cstddef>
-#include <string_view>
 #include <utility>
 
 namespace Tool {
@@ -68,6 +66,28 @@ Heading headingOf(const std::string& schemaText) {
     HeadingFinder finder;
     rapidjson::Reader().Parse<flags>(stream, finder);
     return std::move(finder.heading());
+}
+
+const std::vector<Heading>& Headings::all() const {
+    if (headings_.empty()) {
+        for (const Source& source : sources_) {
+            headings_.push_back(headingOf(*source.text));
+        }
+        for (const bool isFaulty : {false, true}) {
+            for (std::size_t number = 0; number < headings_.size(); ++number) {
+                if (isFaulty_[number] == isFaulty) {
+                    index_.emplace(headings_[number].typeId, number);
+                }
+            }
+        }
+    }
+    return headings_;
+}
+
+std::optional<std::size_t> Headings::find(const std::string& typeId) const {
+    all();
+    const auto found = index_.find(typeId);
+    return found == index_.end() ? std::nullopt : std::optional(found->second);
 }
 
 } // namespace Tool

@@ -1,0 +1,90 @@
+#include "faults/Findings.h"
+
+#include "faults/Hints.h"
+#include "output/Text.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+#include <utility>
+
+namespace Tool {
+
+namespace {
+
+using Parameters::Fault;
+
+/// Returns what the tool finds itself.
+std::vector<Finding> ownFindings(const Input& input) {
+    std::vector<Finding> findings;
+    for (const Input::Failure& failure : input.failures()) {
+        findings.push_back({.code = fileUnreadable,
+                            .message = fmt::format("The file cannot be read: {}.", failure.reason),
+                            .source = failure.before,
+                            .place = {failure.file}});
+    }
+    for (std::size_t number = 0; number < input.sources().size(); ++number) {
+        const Source& source = input.sources()[number];
+        const std::size_t offset = findInvalid(*source.text);
+        const bool isUtf16 = source.text->starts_with("\xFF\xFE") || source.text->starts_with("\xFE\xFF");
+        if (offset != std::string_view::npos && !isUtf16) {
+            const auto byte = static_cast<unsigned char>((*source.text)[offset]);
+            findings.push_back({.code = encodingInvalid,
+                                .isError = false,
+                                .message = fmt::format("The byte {:02X} is no UTF-8.", byte),
+                                .source = number,
+                                .place = Positions().placeOf(source, offset, offset + 1),
+                                .hint = "save the file in UTF-8."});
+        }
+    }
+    std::stable_sort(findings.begin(), findings.end(),
+                     [](const Finding& one, const Finding& other) { return one.source < other.source; });
+    return findings;
+}
+
+} // namespace
+
+std::vector<Finding> findingsOf(const Input& input, const Headings& headings, const std::vector<Fault>& faults) {
+    std::vector<Finding> findings;
+    Hints hints(input, headings, faults);
+    Positions positions;
+    Positions others; // which lie in other texts
+    const auto place = [&](Positions& in, const Fault::Place& where) {
+        Place found = in.placeOf(input.sources()[Input::numberOf(where.text)], where.begin, where.end);
+        found.pointer = where.pointer;
+        return found;
+    };
+    for (const Fault& fault : faults) {
+        Finding finding{.code = std::string(fault.code()),
+                        .isError = fault.isError(),
+                        .message = fault.message(),
+                        .source = Input::numberOf(fault.place().text),
+                        .place = place(positions, fault.place()),
+                        .typeId = fault.typeId(),
+                        .name = fault.name(),
+                        .expected = std::string(fault.expectedKind()),
+                        .nearest = fault.nearestName(),
+                        .hint = hints.hintFor(fault)};
+        if (fault.otherPlace()) {
+            finding.other = place(others, *fault.otherPlace());
+        }
+        if (fault.root()) {
+            finding.root = place(others, *fault.root());
+            finding.rootSource = Input::numberOf(fault.root()->text);
+        }
+        findings.push_back(std::move(finding));
+    }
+    addTo(findings, ownFindings(input));
+    return findings;
+}
+
+void addTo(std::vector<Finding>& findings, std::vector<Finding> more) {
+    const auto middle = static_cast<std::ptrdiff_t>(findings.size());
+    findings.insert(findings.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+    std::inplace_merge(findings.begin(), findings.begin() + middle, findings.end(),
+                       [](const Finding& one, const Finding& other) { return one.source < other.source; });
+}
+
+} // namespace Tool

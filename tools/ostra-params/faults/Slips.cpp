@@ -1,0 +1,145 @@
+#include "faults/Slips.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+
+namespace Tool {
+
+namespace {
+
+struct Slip {
+    std::string_view bytes; ///< What begins there.
+    std::string_view hint;
+};
+
+constexpr std::string_view quotes = "strings stand between \" and nothing else.";
+constexpr std::string_view comments = "JSON has no comments.";
+constexpr std::string_view merge = "this is left from a merge: keep one of its sides.";
+constexpr std::string_view noNumber = "JSON has no such number; a range without a limit has a flag that says so.";
+constexpr std::string_view small = "true and false are written in small letters.";
+constexpr std::string_view blank = "this is no plain blank, though it looks like one or like nothing.";
+
+constexpr std::array slips{
+    Slip{"//", comments},
+    Slip{"/*", comments},
+    Slip{"#", comments},
+    Slip{"'", quotes},
+    Slip{"`", quotes},
+    Slip{"\u2018", quotes},
+    Slip{"\u2019", quotes},
+    Slip{"\u201A", quotes},
+    Slip{"\u201C", quotes},
+    Slip{"\u201D", quotes},
+    Slip{"\u201E", quotes},
+    Slip{"\u00AB", quotes},
+    Slip{"\u00BB", quotes},
+    Slip{"\u00A0", blank},
+    Slip{"\u200B", blank},
+    Slip{"\u202F", blank},
+    Slip{"\u3000", blank},
+    Slip{"\uFEFF", "this is a second byte order mark."},
+    Slip{"True", small},
+    Slip{"TRUE", small},
+    Slip{"False", small},
+    Slip{"FALSE", small},
+    Slip{"None", "JSON has no None; leave out what has no value."},
+    Slip{"undefined", "JSON has no undefined; leave out what has no value."},
+    Slip{"NaN", noNumber},
+    Slip{"nan", noNumber},
+    Slip{"Infinity", noNumber},
+    Slip{"-Infinity", noNumber},
+    Slip{"inf", noNumber},
+    Slip{"-inf", noNumber},
+    Slip{"+", "a number has no plus sign."},
+    Slip{".", "a number begins with a digit."},
+    Slip{"-.", "a number begins with a digit."},
+    Slip{"<<<<<<<", merge},
+    Slip{"=======", merge},
+    Slip{">>>>>>>", merge},
+    Slip{"|||||||", merge},
+    Slip{"=", "a colon stands between a name and its value."},
+    Slip{";", "commas stand between members and between elements."},
+};
+
+bool isLetter(char character) { return std::isalpha(static_cast<unsigned char>(character)) != 0; }
+bool isDigit(char character) { return character >= '0' && character <= '9'; }
+
+/// Returns how many brackets are open at an offset of a text that is JSON up to there.
+std::size_t depthAt(std::string_view text, std::size_t offset) {
+    std::size_t depth = 0;
+    bool isInString = false;
+    for (std::size_t i = 0; i < offset; ++i) {
+        const char character = text[i];
+        if (isInString && character == '\\') {
+            ++i;
+        } else if (character == '"') {
+            isInString = !isInString;
+        } else if (!isInString) {
+            depth += character == '{' || character == '[' ? 1 : 0;
+            depth -= character == '}' || character == ']' ? 1 : 0;
+        }
+    }
+    return depth;
+}
+
+/// Returns where the word or number at an offset begins, of which the parser may have taken a part.
+std::size_t beginOfWord(std::string_view text, std::size_t offset) {
+    while (offset > 0 && (isLetter(text[offset - 1]) || text[offset - 1] == '-')) {
+        --offset;
+    }
+    return offset;
+}
+
+/// Returns whether a name without quotation marks stands at an offset.
+bool isBareName(std::string_view text, std::size_t offset) {
+    const auto* const end = std::find_if_not(text.begin() + offset, text.end(), [](char character) {
+        return isLetter(character) || isDigit(character) || character == '_';
+    });
+    const auto rest = text.substr(static_cast<std::size_t>(end - text.begin()));
+    const std::size_t colon = rest.find_first_not_of(" \t");
+    return isLetter(text[offset]) && colon != std::string_view::npos && rest[colon] == ':';
+}
+
+} // namespace
+
+std::string_view slipAt(std::string_view text, std::size_t offset) {
+    if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
+        return "the text is in UTF-16, and must be in UTF-8.";
+    }
+    if (offset >= text.size()) {
+        return text.find_first_not_of(" \t\r\n") == std::string_view::npos ? "" : "the text ends too early.";
+    }
+    const char at = text[offset];
+    if (at == '\n' || at == '\r') {
+        return "the string is not closed in its line.";
+    }
+    if (at == '\t' || at == '\\') {
+        return at == '\t' ? "a tab within a string is written as \\t." : "a backslash within a string is written as \\\\.";
+    }
+    const std::size_t last = offset == 0 ? std::string_view::npos : text.find_last_not_of(" \t\r\n", offset - 1);
+    const char before = last == std::string_view::npos ? '\0' : text[last];
+    if ((at == '}' || at == ']') && before == ',') {
+        return "no comma stands before a closing bracket.";
+    }
+    const std::string_view rest = text.substr(beginOfWord(text, offset));
+    for (const auto& [bytes, hint] : slips) {
+        if (rest.starts_with(bytes) || text.substr(offset).starts_with(bytes)) {
+            return hint;
+        }
+    }
+    if (depthAt(text, offset) == 0 && (at == '{' || at == ',')) {
+        return "a .json file holds one schema; a .ndjson file holds one a line.";
+    }
+    if ((before == '{' || before == ',') && isBareName(text, offset)) {
+        return "names stand in quotation marks, too.";
+    }
+    if (isDigit(at) && text[offset - (offset > 0 ? 1 : 0)] == '0') {
+        return "a number does not begin with zeros.";
+    }
+    const bool isInNextLine = last != std::string_view::npos && text.substr(last, offset - last).find('\n') != std::string_view::npos;
+    return at == '"' && isInNextLine && before != '{' && before != '[' && before != ':' ? "a comma is missing before it."
+                                                                                         : "";
+}
+
+} // namespace Tool
