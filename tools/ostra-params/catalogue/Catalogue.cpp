@@ -1,13 +1,12 @@
 #include "catalogue/Catalogue.h"
 
-#include "catalogue/Compact.h"
 #include "catalogue/Describe.h"
-#include "catalogue/Loss.h"
+#include "output/Json.h"
 
 namespace Tool {
 
 Catalogue::Catalogue(const std::vector<std::string>& paths) : Loader(paths), objects_(describeAll(engine())) {
-    mustHaveAll(objects_, headings());
+    mustHaveAll(objects_);
     for (std::size_t place = 0; place < objects_.size(); ++place) {
         index_.emplace(objects_[place].typeId, place);
     }
@@ -55,8 +54,7 @@ const std::vector<Link>& Catalogue::dependents(const std::string& typeId) const 
 
 std::string Catalogue::schemaOf(const Object& object) const {
     // Units are the units library's, which hands out no texts.
-    return object.section == &sectionOfUnits() ? compact(*sourceOf(object).text)
-                                               : engine().getSchema(object.typeId);
+    return object.section == &sectionOfUnits() ? compact(*sourceOf(object).text) : engine().getSchema(object.typeId);
 }
 
 } // namespace Tool

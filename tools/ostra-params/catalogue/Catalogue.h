@@ -1,7 +1,7 @@
 #pragma once
 
+#include "catalogue/Describe.h"
 #include "catalogue/Loader.h"
-#include "catalogue/Object.h"
 #include "catalogue/Sections.h"
 
 #include <cstddef>

@@ -220,11 +220,10 @@ Object describeOne(const typename Kind::Value& value) {
 
 } // namespace
 
-std::vector<Object> describeAll(ParametersEngine& engine) {
-    std::vector<Object> objects;
+void describeEach(ParametersEngine& engine, const std::function<void(Object)>& visit) {
     const auto add = [&](Object object, const Section& section) {
         object.section = &section;
-        objects.push_back(std::move(object));
+        visit(std::move(object));
     };
     for (const auto& [typeId, unit] : engine.getUnitsEngine().getAllUnits()) {
         add(describe(unit), sectionOfUnits());
@@ -235,6 +234,11 @@ std::vector<Object> describeAll(ParametersEngine& engine) {
             add(describeOne<decltype(kind)>(value), section);
         }
     });
+}
+
+std::vector<Object> describeAll(ParametersEngine& engine) {
+    std::vector<Object> objects;
+    describeEach(engine, [&](Object object) { objects.push_back(std::move(object)); });
     return objects;
 }
 

@@ -10,51 +10,27 @@ namespace Tool {
 namespace {
 
 /// Stops the reader when the root's first "typeid" and the first string in its "inherits" are both there.
-class HeadingFinder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, HeadingFinder> {
-public:
-    bool StartObject() { return enter(); }
-    bool EndObject(rapidjson::SizeType) { return leave(); }
-    bool StartArray() { return enter(); }
-    bool EndArray(rapidjson::SizeType) { return leave(); }
-
-    bool Key(const char* text, rapidjson::SizeType length, bool) {
-        if (depth_ == 1) {
-            member_.assign(text, length);
-        }
-        return true;
-    }
-
-    bool String(const char* text, rapidjson::SizeType length, bool) {
-        if (depth_ == 1 && member_ == "typeid") {
-            keepFirst(heading_.typeId, {text, length});
-        } else if (depth_ == 2 && member_ == "inherits") {
-            keepFirst(heading_.base, {text, length});
-        }
-        return heading_.typeId.empty() || heading_.base.empty();
-    }
-
+struct HeadingFinder : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, HeadingFinder> {
+    bool StartObject() { return ++depth != 0; }
+    bool StartArray() { return ++depth != 0; }
+    bool EndObject(rapidjson::SizeType) { return depth-- != 0; }
+    bool EndArray(rapidjson::SizeType) { return depth-- != 0; }
     bool RawNumber(const char*, rapidjson::SizeType, bool) { return true; }
-
-    Heading& heading() { return heading_; }
-
-private:
-    static void keepFirst(std::string& kept, std::string_view text) {
-        if (kept.empty()) {
-            kept = text;
+    bool Key(const char* text, rapidjson::SizeType length, bool) {
+        member = depth == 1 ? std::string(text, length) : member;
+        return true;
+    }
+    bool String(const char* text, rapidjson::SizeType length, bool) {
+        std::string& kept = depth == 1 ? heading.typeId : heading.base;
+        if (kept.empty() && ((depth == 1 && member == "typeid") || (depth == 2 && member == "inherits"))) {
+            kept.assign(text, length);
         }
-    }
-    bool enter() {
-        ++depth_;
-        return true;
-    }
-    bool leave() {
-        --depth_;
-        return true;
+        return heading.typeId.empty() || heading.base.empty();
     }
 
-    std::size_t depth_ = 0;
-    std::string member_;
-    Heading heading_;
+    std::size_t depth = 0;
+    std::string member = {};
+    Heading heading = {};
 };
 
 } // namespace
@@ -65,7 +41,7 @@ Heading headingOf(const std::string& schemaText) {
     rapidjson::MemoryStream stream(schemaText.data(), schemaText.size());
     HeadingFinder finder;
     rapidjson::Reader().Parse<flags>(stream, finder);
-    return std::move(finder.heading());
+    return std::move(finder.heading);
 }
 
 const std::vector<Heading>& Headings::all() const {

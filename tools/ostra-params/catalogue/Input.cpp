@@ -1,11 +1,10 @@
 #include "catalogue/Input.h"
 
+#include "output/Json.h"
 #include "output/Progress.h"
 #include "output/Text.h"
 
 #include <fmt/format.h>
-#include <rapidjson/memorystream.h>
-#include <rapidjson/reader.h>
 
 #include <algorithm>
 #include <array>
@@ -45,7 +44,8 @@ bool holdsLines(const fs::path& file) {
 
 bool isSchemaFile(const fs::path& file) { return lower(file.extension().string()) == ".json" || holdsLines(file); }
 
-/// Returns the path of the file of which that of this path is a copy, by its name; empty when it does not look like one.
+/// Returns the path of the file of which that of this path is a copy, by its name; empty when it does not look like
+/// one.
 std::string originalOf(const std::string& path) {
     static const std::regex copy(R"((.*/)?(copy of )?(.*?)( \((copy|\d+)\)| - copy( \(\d+\))?| copy( \d+)?)"
                                  R"(|[._-](bak|backup|orig|old|copy))?(\.[^.]*))",
@@ -106,17 +106,10 @@ std::string readAll(std::istream& stream) {
     return text;
 }
 
-bool isWellFormed(const std::string& text) {
-    constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
-    rapidjson::MemoryStream stream(text.data(), text.size());
-    rapidjson::BaseReaderHandler<> anything;
-    return !rapidjson::Reader().Parse<flags>(stream, anything).IsError();
-}
-
 /// A text that is no value as a whole is taken for lines when its first line looks like an object of its own.
 bool isOfLines(const std::string& text) {
     const std::size_t begin = text.find_first_not_of(blanks);
-    if (begin == std::string::npos || isWellFormed(text)) {
+    if (begin == std::string::npos || Json::accept(text)) {
         return false;
     }
     const std::string_view line = std::string_view(text).substr(begin, text.find('\n', begin) - begin);

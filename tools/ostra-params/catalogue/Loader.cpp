@@ -1,11 +1,13 @@
 #include "catalogue/Loader.h"
 
 #include "catalogue/Describe.h"
-#include "catalogue/Loss.h"
-#include "faults/Findings.h"
+#include "output/Text.h"
 
 #include <algorithm>
 #include <numeric>
+#include <set>
+#include <string_view>
+#include <unordered_set>
 
 namespace Tool {
 
@@ -20,12 +22,32 @@ Loader::Loader(const std::vector<std::string>& paths) : input_(paths), isFaulty_
     counts_ = countAll(engine_);
     const std::size_t sound = schemas() + input_.failures().size() - leftOut();
     if (std::reduce(counts_.begin(), counts_.end()) != sound) { // the rare case, as it costs time to tell which
-        mustHaveAll(describeAll(engine_), headings_);
+        mustHaveAll(describeAll(engine_));
     }
 }
 
 std::size_t Loader::leftOut() const {
     return static_cast<std::size_t>(std::count(isFaulty_.begin(), isFaulty_.end(), true)) + input_.failures().size();
+}
+
+void Loader::mustHaveAll(const std::vector<Object>& objects) const {
+    std::unordered_set<std::string_view> typeIds;
+    for (const Object& object : objects) {
+        typeIds.insert(object.typeId);
+    }
+    std::set<std::string_view> lost;
+    for (std::size_t number = 0; number < headings_.all().size(); ++number) {
+        if (headings_.isSound(number) && !typeIds.contains(headings_.of(number).typeId)) {
+            lost.insert(headings_.of(number).typeId);
+        }
+    }
+    if (!lost.empty()) {
+        std::string message = "This program has a fault, please report it: it read schemas and lost them.";
+        for (const std::string_view typeId : lost) {
+            message += "\n  " + printable(typeId);
+        }
+        throw Loss(message);
+    }
 }
 
 } // namespace Tool

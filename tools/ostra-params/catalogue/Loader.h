@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/Describe.h"
 #include "catalogue/Headings.h"
 #include "catalogue/Input.h"
 #include "faults/Finding.h"
@@ -7,10 +8,17 @@
 #include <parameters/ParametersEngine.h>
 
 #include <cstddef>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace Tool {
+
+/// A schema was registered and became no object: a fault of this program, not of the catalogue.
+class Loss : public std::logic_error {
+public:
+    using std::logic_error::logic_error;
+};
 
 /// Reads schemas into an engine, and keeps what is wrong with them and where each came from.
 class Loader {
@@ -34,6 +42,11 @@ public:
     const std::vector<std::size_t>& counts() const { return counts_; }
     /// Returns what is wrong with the files and the schemas, in the order in which they were read.
     const std::vector<Finding>& findings() const { return findings_; }
+
+protected:
+    /// Makes sure that each sound schema is one of the objects, so that no verb passes a catalogue on with less in it.
+    /// @throws Loss if one is not. Its message names them.
+    void mustHaveAll(const std::vector<Object>& objects) const;
 
 private:
     Input input_;

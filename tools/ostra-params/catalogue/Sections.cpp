@@ -16,7 +16,11 @@ std::vector<Section> makeSections() {
     std::vector<Section> made{{"unit", "unit", "units", {unitBase}}};
     Parameters::forEachKind([&](auto kind) {
         const auto bases = kind.info.bases();
-        made.push_back({kind.info.id(), kind.info.word(), kind.info.plural(), {bases.begin(), bases.end()}});
+        made.push_back({kind.info.id(),
+                        kind.info.word(),
+                        kind.info.plural(),
+                        {bases.begin(), bases.end()},
+                        kind.info.isParameter()});
     });
     return made;
 }

@@ -14,6 +14,7 @@ struct Section {
     std::string_view label;  ///< As one of its objects is called in a sentence.
     std::string_view plural; ///< As it heads a list.
     std::vector<std::string_view> bases;
+    bool isParameter = false;
 };
 
 /// Returns all sections, in the order in which lists show them: units, then the library's kinds.

@@ -14,8 +14,8 @@ struct Source {
     const std::string* text;
 };
 
-/// A stretch of a file; the file alone when the line is 0. Lines and columns begin with 1; columns count characters, not
-/// bytes. The end is behind the last one.
+/// A stretch of a file; the file alone when the line is 0. Lines and columns begin with 1; columns count characters,
+/// not bytes. The end is behind the last one.
 struct Place {
     const std::string* file = nullptr;
     std::size_t line = 0;

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "catalogue/Headings.h"
+#include "catalogue/Input.h"
 #include "catalogue/Source.h"
+
+#include <parameters/Fault.h>
 
 #include <cstddef>
 #include <optional>
@@ -21,9 +25,21 @@ struct Finding {
     std::string expected = {};
     std::string nearest = {};
     std::optional<Place> other = {};
-    std::optional<Place> root = {};         ///< Of what is but a consequence.
+    std::optional<Place> root = {}; ///< Of what is but a consequence.
     std::optional<std::size_t> rootSource = {};
     std::string hint = {}; ///< What may help to mend it; often empty.
 };
+
+/// The code of files that cannot be read, and of texts that are no UTF-8.
+constexpr const char* fileUnreadable = "file-unreadable";
+constexpr const char* encodingInvalid = "encoding-invalid";
+
+/// Returns what is wrong with the input: what cannot be read, and the faults that the library found in the texts, with
+/// hints. They are in the order of reading.
+std::vector<Finding> findingsOf(const Input& input, const Headings& headings,
+                                const std::vector<Parameters::Fault>& faults);
+
+/// Puts findings, each list in the order of reading, into one such list.
+void addTo(std::vector<Finding>& findings, std::vector<Finding> more);
 
 } // namespace Tool

@@ -75,8 +75,9 @@ std::vector<Fold> fold(const std::vector<Finding>& findings) {
 std::string summaryOf(const Fold& fold) {
     std::string text;
     if (fold.alike > 0) {
-        text = fold.shown->isError ? counted(fold.alike, "other") + (fold.alike == 1 ? " names it, too" : " name it, too")
-                                   : fmt::format("and {} more of these", fold.alike);
+        text = fold.shown->isError
+                   ? counted(fold.alike, "other") + (fold.alike == 1 ? " names it, too" : " name it, too")
+                   : fmt::format("and {} more of these", fold.alike);
     }
     if (fold.consequences > 0) {
         text += (text.empty() ? "" : "; ") + counted(fold.consequences, "fault") +

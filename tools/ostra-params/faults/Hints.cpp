@@ -19,11 +19,20 @@ using Parameters::Fault;
 constexpr std::array missing{"dependency-missing", "unit-missing", "parent-not-major"};
 
 /// Messages that say what is expected, but not where.
-constexpr std::array nameless{"string-expected", "non-empty-string-expected", "boolean-expected", "integer-expected",
-                              "number-expected", "array-expected", "array-of-strings-expected",
-                              "array-of-unique-strings-expected", "array-of-typed-values-expected",
-                              "definition-value-missing", "typed-value-object-expected", "typed-value-typeid-only",
-                              "typed-value-typeid-missing", "typed-value-typeid-empty"};
+constexpr std::array nameless{"string-expected",
+                              "non-empty-string-expected",
+                              "boolean-expected",
+                              "integer-expected",
+                              "number-expected",
+                              "array-expected",
+                              "array-of-strings-expected",
+                              "array-of-unique-strings-expected",
+                              "array-of-typed-values-expected",
+                              "definition-value-missing",
+                              "typed-value-object-expected",
+                              "typed-value-typeid-only",
+                              "typed-value-typeid-missing",
+                              "typed-value-typeid-empty"};
 
 bool isOneOf(std::string_view code, const auto& codes) {
     return std::find(codes.begin(), codes.end(), code) != codes.end();
@@ -78,9 +87,10 @@ std::string Hints::hintFor(const Fault& fault) {
     }
     if (fault.code() == "typeid-missing") {
         const std::size_t begin = text.find_first_not_of(" \t\r\n");
-        return text[begin] == '['                                                ? "a text is one schema, no list of them."
-               : headings_.of(Input::numberOf(fault.place().text)).base.empty() ? "this is no schema; it need not be here."
-                                                                                : "";
+        return text[begin] == '[' ? "a text is one schema, no list of them."
+               : headings_.of(Input::numberOf(fault.place().text)).base.empty()
+                   ? "this is no schema; it need not be here."
+                   : "";
     }
     if (fault.code() == "base-unrecognized") {
         return forBase(headings_.of(Input::numberOf(fault.place().text)).base);
@@ -113,6 +123,10 @@ std::string Hints::forMissing(const Fault& fault) {
     const Section* expected = sectionOfLabel(fault.expectedKind());
     if (std::string circle = circleOf(fault); !circle.empty()) {
         return circle;
+    }
+    if (const auto broken = headings_.find(fault.name());
+        !fault.otherPlace() && broken && !headings_.isSound(*broken)) { // too faulty for the library
+        return fmt::format("it is in {}, and faulty.", toString(Tool::beginningOf(input_.sources()[*broken])));
     }
     if (!fault.otherPlace()) {
         const Section* actual = sectionOfBase(fault.name());

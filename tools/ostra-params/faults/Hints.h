@@ -32,8 +32,8 @@ private:
 
     const Input& input_;
     const Headings& headings_;
-    std::unordered_map<std::string, const Parameters::Fault*> naming_; // what names a faulty schema, by its typeid
-    std::map<const Section*, std::vector<std::string_view>> typeIds_;  // of each section that was asked for
+    std::unordered_map<std::string, const Parameters::Fault*> naming_;      // what names a faulty schema, by its typeid
+    std::map<const Section*, std::vector<std::string_view>> typeIds_;       // of each section that was asked for
     std::map<std::pair<const Section*, std::string>, std::string> similar_; // what was found, as many may miss the same
 };
 

@@ -1,16 +1,14 @@
 #include "faults/Lint.h"
 
+#include "catalogue/Describe.h"
 #include "catalogue/Sections.h"
-
-#include <parameters/Kinds.h>
 
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <array>
-#include <functional>
+#include <cctype>
 #include <map>
-#include <optional>
 #include <regex>
 #include <unordered_map>
 #include <unordered_set>
@@ -21,34 +19,9 @@ namespace Tool {
 namespace {
 
 constexpr std::array all{
-    Lint{"content-shared", true},      Lint{"description-missing", false}, Lint{"name-shared", false},
-    Lint{"object-unused", false},      Lint{"regex-refused", true},        Lint{"typeid-unversioned", true},
+    Lint{"content-shared", false}, Lint{"description-missing", false}, Lint{"name-shared", false},
+    Lint{"object-unused", false},  Lint{"regex-refused", true},        Lint{"typeid-unversioned", true},
 };
-
-std::string nameIn(const auto& object) {
-    if constexpr (requires { object.getName(); }) {
-        return object.getName();
-    } else if constexpr (requires { object.getCore(); }) {
-        return object.getCore().getName();
-    } else {
-        return {};
-    }
-}
-
-/// Returns the regular expression that an object says itself, or whose range does; of a range that is named, the range
-/// tells it.
-template <class Value>
-std::optional<std::string> regexIn(const Value& object) {
-    if constexpr (requires { object.getRegexStringRangeComponent(); }) {
-        const auto regex = object.getRegexStringRangeComponent();
-        return regex ? std::optional(regex->getRegex()) : std::nullopt;
-    } else if constexpr (requires { object.getRange().getRegexStringRangeComponent(); }) {
-        const auto range = object.getRange();
-        return sectionOfBase(range.getTypeId()) == nullptr ? std::nullopt : regexIn(range);
-    } else {
-        return std::nullopt;
-    }
-}
 
 /// Tells whether the standard library takes a regular expression; it takes stack for each character of one.
 bool isRegex(const std::string& text) {
@@ -69,28 +42,16 @@ bool hasVersion(std::string_view typeId) {
     return points == 2 && typeId.ends_with('-');
 }
 
-/// Looks at the objects of an engine.
+/// Looks at one object after the other.
 class Linter {
 public:
     Linter(Loader& catalogue, const std::set<std::string, std::less<>>& codes) : catalogue_(catalogue), codes_(codes) {}
 
     std::vector<Finding> findings() {
-        Parameters::ParametersEngine& engine = catalogue_.engine();
-        begin(sectionOfUnits());
-        for (const auto& [typeId, unit] : engine.getUnitsEngine().getAllUnits()) {
-            mayBeUnused_.emplace(typeId, section_);
-            const std::string name = unit.getName();
-            look(typeId, name, [&, &made = unit] { return name + '\0' + made.getSymbol(); });
-        }
-        Parameters::forEachKind([&](auto kind) {
-            begin(sectionOf(kind.info));
-            for (const auto& [typeId, object] : kind.getAll(engine)) {
-                lookAt(kind, typeId, object);
-            }
-        });
-        for (const auto& [typeId, section] : mayBeUnused_) {
-            if (isAskedFor("object-unused") && !used_.contains(typeId)) {
-                add("object-unused", typeId, fmt::format("Nothing names {} {}.", section->label, typeId));
+        describeEach(catalogue_.engine(), [&](const Object& object) { look(object); });
+        for (const auto& [typeId, label] : mayBeUnused_) {
+            if (!used_.contains(typeId)) {
+                add("object-unused", typeId, fmt::format("Nothing names {} {}.", label, typeId));
             }
         }
         std::stable_sort(findings_.begin(), findings_.end(),
@@ -99,76 +60,61 @@ public:
     }
 
 private:
-    bool isAskedFor(std::string_view code) const { return codes_.contains(code); }
-
-    void begin(const Section& section) {
-        section_ = &section;
-        names_.clear();
-        contents_.clear();
-    }
-
-    template <class Kind>
-    void lookAt(Kind kind, const std::string& typeId, const typename Kind::Value& object) {
-        const Parameters::ParametersEngine& engine = catalogue_.engine();
-        look(typeId, nameIn(object), [&] {
-            const std::string schema = kind.getSchema(engine, object);
-            return schema.substr(schema.find(",\"inherits\":")); // behind the typeid
-        });
-        if (isAskedFor("object-unused")) {
-            used_.merge(kind.getDependencies(engine, object));
-        }
-        if constexpr (!Kind::info.isParameter()) { // which are for the application
-            mayBeUnused_.emplace(typeId, section_);
-        } else if (object.getCore().getDescription().empty()) {
-            add("description-missing", typeId, fmt::format("{} {} has no description.", section_->label, typeId));
-        }
-        if (const auto regex = isAskedFor("regex-refused") ? regexIn(object) : std::nullopt) {
-            const auto [known, isNew] = regexes_.try_emplace(*regex);
-            known->second = isNew ? isRegex(*regex) : known->second;
-            if (!known->second) {
-                add("regex-refused", typeId, fmt::format("{} is no regular expression of ECMAScript.", *regex));
+    void look(const Object& object) {
+        const std::string& typeId = object.typeId;
+        const std::string_view label = object.section->label;
+        const bool isParameter = object.section->isParameter;
+        bool isDescribed = !isParameter;
+        std::string content = fmt::format("{}\n{}", label, object.name);
+        for (const Property& property : object.properties) {
+            isDescribed = isDescribed || property.name == "description";
+            content += '\n';
+            content += property.name;
+            for (const Value& value : property.values) {
+                content += '\n' + value.identity();
+                if (property.isOwn && codes_.contains("object-unused")) {
+                    used_.insert(value.typeId);
+                }
+                if (property.isOwn && property.name == "regular expression" && !isRegex(value.text)) {
+                    add("regex-refused", typeId, value.text + " is no regular expression of ECMAScript.");
+                }
             }
         }
-    }
-
-    /// Looks for what all objects may have.
-    void look(const std::string& typeId, const std::string& name, const std::function<std::string()>& content) {
+        if (!isParameter && codes_.contains("object-unused")) { // parameters are for the application
+            mayBeUnused_.emplace(typeId, label);
+        }
+        if (!isDescribed) {
+            add("description-missing", typeId, fmt::format("{} {} has no description.", label, typeId));
+        }
         if (!hasVersion(typeId)) {
-            add("typeid-unversioned", typeId, fmt::format("Typeid {} has no version.", typeId),
-                {}, fmt::format("such as {}-1.0.0.", typeId));
+            add("typeid-unversioned", typeId, fmt::format("Typeid {} has no version.", typeId));
         }
-        if (isAskedFor("content-shared")) {
-            const auto [first, isNew] = contents_.try_emplace(std::hash<std::string>()(content()), typeId);
-            if (!isNew) {
-                add("content-shared", typeId,
-                    fmt::format("{} {} says the same as {}.", section_->label, typeId, first->second), first->second);
-                return;
-            }
+        if (codes_.contains("content-shared")) {
+            compare("content-shared", object, std::move(content), "says the same as");
         }
-        if (isAskedFor("name-shared") && !name.empty()) {
-            const auto [first, isNew] = names_.try_emplace(name, typeId);
-            if (!isNew) {
-                add("name-shared", typeId,
-                    fmt::format("{} {} has the name of {}, {}.", section_->label, typeId, first->second, name), first->second);
-            }
+        if (codes_.contains("name-shared") && !object.name.empty()) {
+            compare("name-shared", object, fmt::format("{}\n{}", label, object.name), "has the name of");
         }
     }
 
-    void add(const char* code, const std::string& typeId, std::string message, const std::string& other = {},
-             std::string hint = {}) {
-        if (!isAskedFor(code)) {
-            return;
+    void compare(const char* code, const Object& object, std::string content, const char* verb) {
+        const auto [first, isNew] = firsts_[code].try_emplace(std::move(content), object.typeId);
+        if (!isNew) {
+            add(code, object.typeId,
+                fmt::format("{} {} {} {}.", object.section->label, object.typeId, verb, first->second));
+            findings_.back().other = placeOf(*catalogue_.headings().find(first->second));
         }
-        message.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(message.front())));
-        Finding finding{.code = code, .isError = false, .message = std::move(message)};
-        finding.source = *catalogue_.headings().find(typeId);
-        finding.place = placeOf(finding.source);
-        finding.typeId = typeId;
-        if (!other.empty()) {
-            finding.other = placeOf(*catalogue_.headings().find(other));
+    }
+
+    void add(const char* code, const std::string& typeId, std::string message) {
+        if (codes_.contains(code)) {
+            message.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(message.front())));
+            Finding finding{.code = code, .isError = false, .message = std::move(message)};
+            finding.source = *catalogue_.headings().find(typeId);
+            finding.place = placeOf(finding.source);
+            finding.typeId = typeId;
+            findings_.push_back(std::move(finding));
         }
-        finding.hint = std::move(hint);
-        findings_.push_back(std::move(finding));
     }
 
     Place placeOf(std::size_t number) {
@@ -179,12 +125,9 @@ private:
 
     Loader& catalogue_;
     const std::set<std::string, std::less<>>& codes_;
-    const Section* section_ = nullptr;
-    std::unordered_map<std::string, std::string> names_;    // the first typeid of each name in the section
-    std::unordered_map<std::size_t, std::string> contents_; // and of each content, by its hash
-    std::unordered_map<std::string, bool> regexes_;
-    std::map<std::string, const Section*> mayBeUnused_;
-    std::set<std::string> used_;
+    std::map<std::string_view, std::unordered_map<std::string, std::string>> firsts_; // of each code and content
+    std::map<std::string, std::string_view> mayBeUnused_;
+    std::unordered_set<std::string> used_;
     std::vector<Finding> findings_;
 };
 

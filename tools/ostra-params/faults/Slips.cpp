@@ -9,58 +9,36 @@ namespace Tool {
 namespace {
 
 struct Slip {
-    std::string_view bytes; ///< What begins there.
+    std::string_view beginnings;
     std::string_view hint;
 };
 
-constexpr std::string_view quotes = "strings stand between \" and nothing else.";
-constexpr std::string_view comments = "JSON has no comments.";
-constexpr std::string_view merge = "this is left from a merge: keep one of its sides.";
-constexpr std::string_view noNumber = "JSON has no such number; a range without a limit has a flag that says so.";
-constexpr std::string_view small = "true and false are written in small letters.";
-constexpr std::string_view blank = "this is no plain blank, though it looks like one or like nothing.";
-
+/// What begins there, with blanks between, and what to say of it.
 constexpr std::array slips{
-    Slip{"//", comments},
-    Slip{"/*", comments},
-    Slip{"#", comments},
-    Slip{"'", quotes},
-    Slip{"`", quotes},
-    Slip{"\u2018", quotes},
-    Slip{"\u2019", quotes},
-    Slip{"\u201A", quotes},
-    Slip{"\u201C", quotes},
-    Slip{"\u201D", quotes},
-    Slip{"\u201E", quotes},
-    Slip{"\u00AB", quotes},
-    Slip{"\u00BB", quotes},
-    Slip{"\u00A0", blank},
-    Slip{"\u200B", blank},
-    Slip{"\u202F", blank},
-    Slip{"\u3000", blank},
+    Slip{"// /* #", "JSON has no comments."},
+    Slip{"' ` \u2018 \u2019 \u201A \u201C \u201D \u201E \u00AB \u00BB", "strings stand between \" and nothing else."},
+    Slip{"\u00A0 \u200B \u202F \u3000", "this is no plain blank, though it looks like one or like nothing."},
     Slip{"\uFEFF", "this is a second byte order mark."},
-    Slip{"True", small},
-    Slip{"TRUE", small},
-    Slip{"False", small},
-    Slip{"FALSE", small},
-    Slip{"None", "JSON has no None; leave out what has no value."},
-    Slip{"undefined", "JSON has no undefined; leave out what has no value."},
-    Slip{"NaN", noNumber},
-    Slip{"nan", noNumber},
-    Slip{"Infinity", noNumber},
-    Slip{"-Infinity", noNumber},
-    Slip{"inf", noNumber},
-    Slip{"-inf", noNumber},
+    Slip{"True TRUE False FALSE", "true and false are written in small letters."},
+    Slip{"None NULL Null undefined", "leave out what has no value."},
+    Slip{"NaN nan Infinity inf", "JSON has no such number; a range without a limit has a flag that says so."},
     Slip{"+", "a number has no plus sign."},
-    Slip{".", "a number begins with a digit."},
-    Slip{"-.", "a number begins with a digit."},
-    Slip{"<<<<<<<", merge},
-    Slip{"=======", merge},
-    Slip{">>>>>>>", merge},
-    Slip{"|||||||", merge},
+    Slip{". -.", "a number begins with a digit."},
+    Slip{"<<<<<<< ======= >>>>>>> |||||||", "this is left from a merge: keep one of its sides."},
     Slip{"=", "a colon stands between a name and its value."},
     Slip{";", "commas stand between members and between elements."},
 };
+
+bool beginsWithOneOf(std::string_view text, std::string_view beginnings) {
+    while (!beginnings.empty()) {
+        const std::size_t length = std::min(beginnings.find(' '), beginnings.size());
+        if (text.starts_with(beginnings.substr(0, length))) {
+            return true;
+        }
+        beginnings.remove_prefix(std::min(length + 1, beginnings.size()));
+    }
+    return false;
+}
 
 bool isLetter(char character) { return std::isalpha(static_cast<unsigned char>(character)) != 0; }
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
@@ -85,7 +63,7 @@ std::size_t depthAt(std::string_view text, std::size_t offset) {
 
 /// Returns where the word or number at an offset begins, of which the parser may have taken a part.
 std::size_t beginOfWord(std::string_view text, std::size_t offset) {
-    while (offset > 0 && (isLetter(text[offset - 1]) || text[offset - 1] == '-')) {
+    while (offset > 0 && isLetter(text[offset - 1])) {
         --offset;
     }
     return offset;
@@ -115,16 +93,17 @@ std::string_view slipAt(std::string_view text, std::size_t offset) {
         return "the string is not closed in its line.";
     }
     if (at == '\t' || at == '\\') {
-        return at == '\t' ? "a tab within a string is written as \\t." : "a backslash within a string is written as \\\\.";
+        return at == '\t' ? "a tab within a string is written as \\t."
+                          : "a backslash within a string is written as \\\\.";
     }
     const std::size_t last = offset == 0 ? std::string_view::npos : text.find_last_not_of(" \t\r\n", offset - 1);
     const char before = last == std::string_view::npos ? '\0' : text[last];
     if ((at == '}' || at == ']') && before == ',') {
         return "no comma stands before a closing bracket.";
     }
-    const std::string_view rest = text.substr(beginOfWord(text, offset));
-    for (const auto& [bytes, hint] : slips) {
-        if (rest.starts_with(bytes) || text.substr(offset).starts_with(bytes)) {
+    for (const auto& [beginnings, hint] : slips) {
+        if (beginsWithOneOf(text.substr(beginOfWord(text, offset)), beginnings) ||
+            beginsWithOneOf(text.substr(offset), beginnings)) {
             return hint;
         }
     }
@@ -137,9 +116,11 @@ std::string_view slipAt(std::string_view text, std::size_t offset) {
     if (isDigit(at) && text[offset - (offset > 0 ? 1 : 0)] == '0') {
         return "a number does not begin with zeros.";
     }
-    const bool isInNextLine = last != std::string_view::npos && text.substr(last, offset - last).find('\n') != std::string_view::npos;
-    return at == '"' && isInNextLine && before != '{' && before != '[' && before != ':' ? "a comma is missing before it."
-                                                                                         : "";
+    const bool isInNextLine =
+        last != std::string_view::npos && text.substr(last, offset - last).find('\n') != std::string_view::npos;
+    return at == '"' && isInNextLine && before != '{' && before != '[' && before != ':'
+               ? "a comma is missing before it."
+               : "";
 }
 
 } // namespace Tool

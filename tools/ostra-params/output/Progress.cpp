@@ -17,7 +17,7 @@ Progress::Progress(const std::deque<std::string>& files)
     : isShown_(::isatty(STDERR_FILENO) == 1), nextDrawing_(Clock::now() + std::chrono::seconds(1)) {
     for (const std::string& file : files) {
         std::error_code unknown; // the size of standard input, for one
-        const std::uintmax_t size = std::filesystem::file_size(file, unknown);
+        const std::uintmax_t size = isShown_ ? std::filesystem::file_size(file, unknown) : 0;
         total_ += unknown ? 0 : size;
     }
 }

@@ -1,6 +1,6 @@
 #include "catalogue/Loader.h"
 #include "faults/Distance.h"
-#include "faults/Findings.h"
+#include "faults/Finding.h"
 #include "faults/Lint.h"
 #include "faults/Rules.h"
 #include "output/OutputFile.h"
@@ -59,7 +59,9 @@ std::string refuseUnknownCode(const std::string& code) {
 Codes lintsOf(const Options& options) {
     Codes codes;
     for (const Lint& lint : lints()) {
-        const auto isIn = [&](const auto& list) { return std::find(list.begin(), list.end(), lint.code) != list.end(); };
+        const auto isIn = [&](const auto& list) {
+            return std::find(list.begin(), list.end(), lint.code) != list.end();
+        };
         const bool isWanted = options.only.empty() ? lint.isDefault || isIn(options.lints) : isIn(options.only);
         if (isWanted && !isIn(options.ignored) && options.severity == "warning") {
             codes.emplace(lint.code);

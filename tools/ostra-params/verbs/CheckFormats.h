@@ -21,7 +21,8 @@ std::string summaryAsText(const Loader& catalogue, const std::vector<Finding>& f
 /// Returns both as one JSON object.
 std::string checkAsJson(const Loader& catalogue, const std::vector<Finding>& findings);
 
-/// Returns the findings as a log in the Static Analysis Results Interchange Format 2.1.0, which code hosts show in place.
+/// Returns the findings as a log in the Static Analysis Results Interchange Format 2.1.0, which code hosts show in
+/// place.
 std::string findingsAsSarif(const std::vector<Finding>& findings);
 
 } // namespace Tool

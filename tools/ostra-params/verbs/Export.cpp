@@ -1,5 +1,5 @@
 #include "catalogue/Catalogue.h"
-#include "faults/Findings.h"
+#include "faults/Finding.h"
 #include "output/Folder.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/Object.h"
+#include "catalogue/Describe.h"
 
 #include <stdexcept>
 #include <string>

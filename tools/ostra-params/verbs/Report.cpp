@@ -47,9 +47,8 @@ Json dataOf(const Catalogue& catalogue) {
     }
     for (const Fold& fold : fold(catalogue.findings())) {
         const Finding& finding = *fold.shown;
-        data["faults"].push_back(
-            Json::array({toString(finding.place), finding.message, finding.hint, summaryOf(fold), finding.isError,
-                         finding.typeId}));
+        data["faults"].push_back(Json::array({toString(finding.place), finding.message, finding.hint, summaryOf(fold),
+                                              finding.isError, finding.typeId}));
     }
     data["leftOut"] = catalogue.leftOut();
     return data;

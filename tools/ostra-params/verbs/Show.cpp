@@ -1,5 +1,5 @@
 #include "catalogue/Catalogue.h"
-#include "catalogue/Compact.h"
+#include "output/Json.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
 #include "verbs/Find.h"

@@ -1,4 +1,4 @@
-#include "faults/Findings.h"
+#include "faults/Finding.h"
 
 #include "faults/Hints.h"
 #include "output/Text.h"
