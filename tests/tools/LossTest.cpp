@@ -1,5 +1,3 @@
-#include "catalogue/Loss.h"
-
 #include "support/RowNames.h"
 #include "tools/Tool.h"
 
@@ -10,56 +8,6 @@
 
 namespace {
 
-using Tool::Entries;
-using Tool::Entry;
-using Tool::Object;
-
-Entries entriesOf(const std::vector<std::string>& typeIds) {
-    Entries entries;
-    for (const std::string& typeId : typeIds) {
-        entries.emplace(typeId, Entry{{}, "", entries.size()});
-    }
-    return entries;
-}
-
-std::vector<Object> objectsOf(const std::vector<std::string>& typeIds) {
-    std::vector<Object> objects;
-    for (const std::string& typeId : typeIds) {
-        objects.push_back({typeId, "", {}});
-    }
-    return objects;
-}
-
-std::string complaintAbout(const std::vector<Object>& objects, const Entries& entries) {
-    try {
-        Tool::mustHaveAll(objects, entries);
-        return "";
-    } catch (const Tool::Loss& loss) {
-        return loss.what();
-    }
-}
-
-TEST(Loss, IsNoneWhenEachSchemaIsAnObject) {
-    EXPECT_EQ(complaintAbout(objectsOf({"b", "a"}), entriesOf({"a", "b"})), "");
-    EXPECT_EQ(complaintAbout({}, {}), "");
-}
-
-TEST(Loss, NamesAllSchemasThatAreNoObjects) {
-    EXPECT_EQ(complaintAbout(objectsOf({"b"}), entriesOf({"a", "b", "c"})),
-              "This program has a fault, please report it: it read schemas and lost them.\n  a\n  c");
-}
-
-TEST(Loss, IsNotOfSchemasThatAreFaulty) {
-    Entries entries = entriesOf({"a"});
-    entries.at("a").isSound = false;
-    EXPECT_EQ(complaintAbout({}, entries), "");
-}
-
-TEST(Loss, ShowsControlCharactersInPlainLetters) {
-    EXPECT_EQ(complaintAbout({}, entriesOf({"a\x1B[31m"})),
-              "This program has a fault, please report it: it read schemas and lost them.\n  a\\x1B[31m");
-}
-
 struct Use {
     const char* name;
     std::vector<std::string> arguments;
@@ -69,6 +17,8 @@ class ForgetfulTool : public testing::TestWithParam<Use> {};
 
 TEST_P(ForgetfulTool, SaysWhatItLostAndExitsWithTwo) {
     const Folder folder;
+    folder.write("control.json", R"({"typeid":"c\u001B[31m","inherits":["norvex.parameter:group-1.0.0"],)"
+                                 R"("constants":[{"id":"name","value":"C"}]})");
     folder.write("faulty.json", R"({"typeid":"f","inherits":["norvex.parameter:group-1.0.0"]})");
     folder.write("group.json", R"({"typeid":"g","inherits":["norvex.parameter:group-1.0.0"],)"
                                R"("constants":[{"id":"name","value":"G"}]})");
@@ -78,8 +28,8 @@ TEST_P(ForgetfulTool, SaysWhatItLostAndExitsWithTwo) {
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_EQ(outcome.out, "");
     EXPECT_EQ(outcome.err, "ostra-params: This program has a fault, please report it: it read schemas and lost them.\n"
-                           "  g\n  u\n");
-    EXPECT_EQ(folder.files(), (std::vector<std::string>{"faulty.json", "group.json", "unit.json"}));
+                           "  c\\x1B[31m\n  g\n  u\n");
+    EXPECT_EQ(folder.files(), (std::vector<std::string>{"control.json", "faulty.json", "group.json", "unit.json"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Verbs, ForgetfulTool,

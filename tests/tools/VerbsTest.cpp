@@ -51,86 +51,6 @@ TEST(Check, PrintsTheFaultsAloneWhenItIsToBeQuiet) {
               "f.ndjson:1:1: JSON parsing error at offset 0: Invalid value.\n");
 }
 
-TEST(Check, WritesJson) {
-    const Folder folder;
-    folder.write("f.ndjson", group("g", "G") + parameter("p", R"(,{"id":"group","typedValue":{"typeid":"gg"}})"));
-    const Outcome outcome = folder.run({"check", "--format", "json", "f.ndjson"});
-    EXPECT_EQ(outcome.exitCode, 1);
-    EXPECT_THAT(outcome.out, StartsWith(R"({
-  "files": 1,
-  "schemas": 2,
-  "faults": [
-    {
-      "file": "f.ndjson",
-      "line": 2,
-      "column": 107,
-      "message": "Dependency gg in schema p is missing or does not represent an object of the expected type.",
-      "hint": "did you mean g?"
-    }
-  ],
-  "objects": {
-    "unit": 0,
-)"));
-}
-
-TEST(Check, WritesSarif) {
-    const Folder folder;
-    folder.write("a b.ndjson", "]\n");
-    const Outcome outcome = folder.run({"check", "--format", "sarif", "a b.ndjson"});
-    EXPECT_EQ(outcome.exitCode, 1);
-    EXPECT_THAT(outcome.out, HasSubstr(R"("version": "2.1.0")"));
-    EXPECT_THAT(outcome.out, HasSubstr(R"("uri": "a%20b.ndjson")"));
-    EXPECT_THAT(outcome.out, HasSubstr(R"("startLine": 1)"));
-}
-
-struct Hint {
-    const char* name;
-    std::string bytes;
-    std::string hint;
-};
-
-class Hints : public testing::TestWithParam<Hint> {};
-
-TEST_P(Hints, HelpToMendAFault) {
-    const Folder folder;
-    folder.write("f.ndjson", GetParam().bytes);
-    EXPECT_THAT(folder.run({"check", "f.ndjson"}).out, HasSubstr("\n    hint: " + GetParam().hint + "\n"));
-}
-
-const Hint hints[] = {
-    {"NearestBase", R"({"typeid":"a","inherits":["norvex.parameter:grup-1.0.0"]})",
-     "did you mean norvex.parameter:group-1.0.0?"},
-    {"NearestVersionOfABase", R"({"typeid":"a","inherits":["norvex.spec:spec.int64-1.0.0"]})",
-     "did you mean norvex.spec:spec.int64-2.0.0?"},
-    {"BaseIsAnotherSchema", group("g", "G") + R"({"typeid":"a","inherits":["g"]})",
-     "only built-in bases can be inherited, and this is another schema."},
-    {"TypeIdTaken", group("g", "G") + group("g", "G"), "it is that of f.ndjson:1:1."},
-    {"TypeIdBuiltIn", group("norvex.parameter:group-1.0.0", "G"), "it contains a built-in identifier."},
-    {"MisspeltConstant",
-     R"({"typeid":"a","inherits":["norvex.parameter:group-1.0.0"],"constants":[{"id":"nmae","value":"A"}]})",
-     "the schema has a constant nmae: did you mean name?"},
-    {"ConstantAmongProperties",
-     R"({"typeid":"a","inherits":["norvex.parameter:group-1.0.0"],"properties":[{"id":"name","value":"A"}]})",
-     "name stands among the properties."},
-    {"NearestTypeIds",
-     group("x:safety-1.0.0", "S") + group("x:safely-1.0.0", "S") + group("x:other-1.0.0", "O") +
-         parameter("p", R"(,{"id":"group","typedValue":{"typeid":"x:safey-1.0.0"}})"),
-     "did you mean x:safely-1.0.0 or x:safety-1.0.0?"},
-    {"FaultyItself",
-     R"({"typeid":"g","inherits":["norvex.parameter:group-1.0.0"]})"
-     "\n" +
-         parameter("p", namesG),
-     "it is in f.ndjson:1:1, and faulty."},
-    {"Utf16", std::string("\xFF\xFE{\0}\0", 6), "the text is in UTF-16, and must be in UTF-8."},
-    {"WrongKind",
-     R"({"typeid":"d","inherits":["norvex.spec:discipline-1.0.0"],"constants":[{"id":"name","value":"D"}]})"
-     "\n" +
-         parameter("p", R"(,{"id":"group","typedValue":{"typeid":"d"}})"),
-     "f.ndjson:1:1 is of the kind discipline, and the kind group is expected."},
-};
-
-INSTANTIATE_TEST_SUITE_P(Check, Hints, testing::ValuesIn(hints), Support::nameOfRow);
-
 TEST(List, ShowsTypeIdKindAndName) {
     const Folder folder;
     folder.write("f.ndjson", parameter("p", namesG) + group("g", "Safety"));
@@ -572,6 +492,9 @@ TEST(Completion, OffersVerbsOptionsAndValues) {
     EXPECT_EQ(complete("ch", "1"), "check\n");
     EXPECT_EQ(complete("check --f", "2"), "--format\n");
     EXPECT_EQ(complete("check --format s", "3"), "sarif\n");
+    EXPECT_EQ(complete("check --severity ''", "3"), "error warning\n");
+    EXPECT_EQ(complete("check --lint obj", "3"), "object-unused\n");
+    EXPECT_EQ(complete("check --only regex", "3"), "regex-refused\n");
     EXPECT_EQ(complete("list --kind bool-", "3"), "bool-spec bool-parameter\n");
     EXPECT_EQ(complete("list --kind unit,dom", "3"), "unit,domain\n");
     std::string kinds;

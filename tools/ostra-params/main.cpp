@@ -1,4 +1,3 @@
-#include "faults/Distance.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
 #include "verbs/Verb.h"

@@ -220,25 +220,30 @@ Object describeOne(const typename Kind::Value& value) {
 
 } // namespace
 
-void describeEach(ParametersEngine& engine, const std::function<void(Object)>& visit) {
-    const auto add = [&](Object object, const Section& section) {
-        object.section = &section;
-        visit(std::move(object));
+void describeEach(ParametersEngine& engine, const std::function<bool(const Section&)>& isWanted,
+                  const std::function<void(Object)>& visit) {
+    const auto visitAll = [&](const Section& section, const auto& objects, const auto& describeOf) {
+        for (const auto& [typeId, value] : objects) {
+            Object object = describeOf(value);
+            object.section = &section;
+            visit(std::move(object));
+        }
     };
-    for (const auto& [typeId, unit] : engine.getUnitsEngine().getAllUnits()) {
-        add(describe(unit), sectionOfUnits());
+    if (isWanted(sectionOfUnits())) {
+        visitAll(sectionOfUnits(), engine.getUnitsEngine().getAllUnits(),
+                 [](const Units::Unit& unit) { return describe(unit); });
     }
     forEachKind([&](auto kind) {
-        const Section& section = sectionOf(kind.info);
-        for (const auto& [typeId, value] : kind.getAll(engine)) {
-            add(describeOne<decltype(kind)>(value), section);
+        if (isWanted(sectionOf(kind.info))) {
+            visitAll(sectionOf(kind.info), kind.getAll(engine), describeOne<decltype(kind)>);
         }
     });
 }
 
 std::vector<Object> describeAll(ParametersEngine& engine) {
     std::vector<Object> objects;
-    describeEach(engine, [&](Object object) { objects.push_back(std::move(object)); });
+    describeEach(
+        engine, [](const Section&) { return true; }, [&](Object object) { objects.push_back(std::move(object)); });
     return objects;
 }
 

@@ -35,8 +35,10 @@ struct Object {
     const Section* section = nullptr;
 };
 
-/// Describes each object of an engine and of its units engine in turn, by section, then by typeid.
-void describeEach(Parameters::ParametersEngine& engine, const std::function<void(Object)>& visit);
+/// Describes each object of an engine and of its units engine in turn, by section, then by typeid; those of sections
+/// that are not wanted are passed over.
+void describeEach(Parameters::ParametersEngine& engine, const std::function<bool(const Section&)>& isWanted,
+                  const std::function<void(Object)>& visit);
 
 /// Returns all objects of an engine and of its units engine, by section, then by typeid: in texts, what each says by
 /// its accessors.

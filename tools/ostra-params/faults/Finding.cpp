@@ -57,6 +57,10 @@ std::vector<Finding> findingsOf(const Input& input, const Headings& headings, co
         return found;
     };
     for (const Fault& fault : faults) {
+        if (fault.code() == "inherits-missing" && !findings.empty() && findings.back().code == "typeid-missing" &&
+            findings.back().source == Input::numberOf(fault.place().text)) {
+            continue; // it is no schema, and once is enough
+        }
         Finding finding{.code = std::string(fault.code()),
                         .isError = fault.isError(),
                         .message = fault.message(),

@@ -35,7 +35,8 @@ const Finding& rootOf(const Finding& finding, const std::unordered_map<std::size
 } // namespace
 
 std::vector<Fold> fold(const std::vector<Finding>& findings) {
-    constexpr std::size_t mostWarnings = 3;
+    constexpr std::size_t mostWarnings = 3; // alike
+    constexpr std::size_t mostOfOneCode = 10;
     std::unordered_map<std::size_t, const Finding*> firstErrors; // of each text, that of its own before others
     for (const Finding& finding : findings) {
         const auto [first, isNew] = firstErrors.emplace(finding.source, &finding);
@@ -51,16 +52,24 @@ std::vector<Fold> fold(const std::vector<Finding>& findings) {
             continue;
         }
         const std::string likeness = likenessOf(finding);
-        auto& [count, last] = alike[likeness];
-        if (likeness.empty() || count < (finding.isError ? 1 : mostWarnings)) {
-            ++count;
-            last = folds.size();
+        auto* group = &alike[likeness];
+        std::size_t most = finding.isError ? 1 : mostWarnings;
+        if (!finding.isError && group->first == 0) { // the first of its name
+            group = &alike[finding.code];
+            most = mostOfOneCode;
+        }
+        const bool isShown = likeness.empty() || group->first < most;
+        if (isShown) {
+            alike[likeness] = {alike[likeness].first + 1, folds.size()};
             folds.push_back({&finding});
         } else {
-            ++folds[last].alike;
-            folds[last].folded.push_back(&finding);
+            ++folds[group->second].alike;
+            folds[group->second].folded.push_back(&finding);
         }
-        foldOf.emplace(&finding, likeness.empty() ? folds.size() - 1 : last);
+        if (isShown && !finding.isError) {
+            alike[finding.code] = {alike[finding.code].first + 1, folds.size() - 1};
+        }
+        foldOf.emplace(&finding, isShown ? folds.size() - 1 : group->second);
     }
     for (const Finding& finding : findings) {
         if (const Finding& root = rootOf(finding, firstErrors); &root != &finding) {

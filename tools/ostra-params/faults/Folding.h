@@ -17,7 +17,8 @@ struct Fold {
 };
 
 /// Folds findings, which must outlive the result: consequences into their roots; what names one thing that is missing
-/// into the first of it; warnings into the third of those of one code and name.
+/// into the first of it; warnings into the third of those of one code and
+/// name, or the tenth of one code.
 std::vector<Fold> fold(const std::vector<Finding>& findings);
 
 /// Returns the line that stands for what is folded; empty when nothing is.

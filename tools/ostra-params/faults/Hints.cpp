@@ -1,7 +1,7 @@
 #include "faults/Hints.h"
 
-#include "faults/Distance.h"
 #include "faults/Slips.h"
+#include "output/Text.h"
 
 #include <fmt/format.h>
 

@@ -1,5 +1,7 @@
 #include "output/Text.h"
 
+#include "schema/Spelling.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -125,6 +127,15 @@ std::string percentEncoded(std::string_view text, std::string_view plain) {
 
 std::string counted(std::size_t count, std::string_view noun) {
     return fmt::format("{} {}{}", count, noun, count == 1 ? "" : "s");
+}
+
+std::string didYouMean(std::string_view text, const std::vector<std::string_view>& candidates) {
+    std::string question;
+    for (const std::string_view candidate : Ostra::nearest(text, candidates)) {
+        question += question.empty() ? "did you mean " : " or ";
+        question += candidate;
+    }
+    return question.empty() ? question : question + "?";
 }
 
 std::size_t widthOf(std::string_view text) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Tool {
 
@@ -31,6 +32,9 @@ std::string percentEncoded(std::string_view text, std::string_view plain);
 
 /// Returns a number with its noun, in the plural where it must be.
 std::string counted(std::size_t count, std::string_view noun);
+
+/// Returns a question that offers the candidates nearest to a text; empty when none is near.
+std::string didYouMean(std::string_view text, const std::vector<std::string_view>& candidates);
 
 /// Returns how many columns a text takes: its characters, wide ones and marks not told apart.
 std::size_t widthOf(std::string_view text);

@@ -3,7 +3,7 @@
 _ostra_params() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} verb=${COMP_WORDS[1]}
     local -A options=(
-        [check]="--format --quiet"
+        [check]="--format --severity --strict --ignore --only --lint --all --quiet"
         [list]="--kind --name --json"
         [show]="--schema"
         [deps]="--reverse --dot --svg"
@@ -15,7 +15,14 @@ _ostra_params() {
     if ((COMP_CWORD == 1)); then
         mapfile -t COMPREPLY < <(compgen -W "${!options[*]} --help --version" -- "$current")
     elif [[ $previous == --format ]]; then
-        mapfile -t COMPREPLY < <(compgen -W "text json sarif" -- "$current")
+        mapfile -t COMPREPLY < <(compgen -W "text json sarif github" -- "$current")
+    elif [[ $previous == --severity ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "error warning" -- "$current")
+    elif [[ $previous == --@(lint|ignore|only) ]]; then # of the codes, those that people choose most
+        local last=${current##*,} own="content-shared description-missing name-shared object-unused typeid-unversioned"
+        [[ $previous == --lint ]] ||
+            own+=" regex-refused encoding-invalid file-unreadable member-unknown constant-unknown property-unknown"
+        mapfile -t COMPREPLY < <(compgen -P "${current%"$last"}" -W "$own" -- "$last")
     elif [[ $previous == --kind ]]; then
         local last=${current##*,} kinds="" help
         help=$("${COMP_WORDS[0]}" list --help 2>/dev/null) # which knows all kinds

@@ -1,5 +1,4 @@
 #include "catalogue/Loader.h"
-#include "faults/Distance.h"
 #include "faults/Finding.h"
 #include "faults/Lint.h"
 #include "faults/Rules.h"

@@ -1,7 +1,6 @@
 #include "verbs/Find.h"
 
 #include "catalogue/Catalogue.h"
-#include "faults/Distance.h"
 #include "output/Text.h"
 #include "verbs/Verb.h"
 

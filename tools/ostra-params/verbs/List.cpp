@@ -1,5 +1,4 @@
 #include "catalogue/Catalogue.h"
-#include "faults/Distance.h"
 #include "output/Json.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
