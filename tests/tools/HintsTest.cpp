@@ -73,17 +73,23 @@ const Hint hints[] = {
     {"MisspeltMember",
      schema("p", "norvex.parameter:parameter.bool-2.0.0", R"(,{"id":"group","typedvalue":{"typeid":"g"}})"),
      "there is typedvalue: did you mean typedValue?"},
-    {"NearestTypeIds", group("x:safety-1.0.0") + group("x:safely-1.0.0") + group("x:other-1.0.0") + parameter("x:safey-1.0.0"),
+    {"NearestTypeIds",
+     group("x:safety-1.0.0") + group("x:safely-1.0.0") + group("x:other-1.0.0") + parameter("x:safey-1.0.0"),
      "did you mean x:safely-1.0.0 or x:safety-1.0.0?"},
     {"TypeIdWithoutVersion", group("x:safety-1.0.0") + parameter("x:safety"), "did you mean x:safety-1.0.0?"},
-    {"FaultyItself", R"({"typeid":"g","inherits":["norvex.parameter:group-1.0.0"]})" "\n" + parameter("g"),
+    {"FaultyItself",
+     R"({"typeid":"g","inherits":["norvex.parameter:group-1.0.0"]})"
+     "\n" +
+         parameter("g"),
      "it is in f.ndjson:1:1, and faulty."},
-    {"NoJsonItself", R"({"typeid":"g","inherits":["norvex.parameter:group-1.0.0"],})" "\n" + parameter("g"),
+    {"NoJsonItself",
+     R"({"typeid":"g","inherits":["norvex.parameter:group-1.0.0"],})"
+     "\n" +
+         parameter("g"),
      "it is in f.ndjson:1:1, and faulty."},
     {"WrongKind", schema("d", "norvex.spec:discipline-1.0.0") + parameter("d"),
      "f.ndjson:1:1 is of the kind discipline, and the kind group is expected."},
-    {"BaseOfAnotherKind",
-     ranged(R"({"typeid":"norvex.range:range.float64.bounded.static-1.0.0"})"),
+    {"BaseOfAnotherKind", ranged(R"({"typeid":"norvex.range:range.float64.bounded.static-1.0.0"})"),
      "this is the base of the kind floating-point range, and the kind integer range is expected."},
     {"BoundaryOfAnotherType",
      ranged(R"({"typeid":)" + intRange +
@@ -96,9 +102,13 @@ const Hint hints[] = {
     {"OwnParent", subCategory("c", "c"), "the schema names itself."},
     {"ParentsInACircle", subCategory("a", "b") + subCategory("b", "a"), "they name each other in a circle: a, b."},
     {"NoSchema", R"({"name":"package","version":"1.0.0"})", "this is no schema; it need not be here."},
-    {"SeveralSchemas", "[" + group("a") + "]", "a text is one schema, no list of them."},
+    {"SeveralSchemas", "[{}]", "a text is one schema, no list of them."},
     {"Utf16", std::string("\xFF\xFE{\0}\0", 6), "the text is in UTF-16, and must be in UTF-8."},
-    {"NoUtf8", schema("g", "norvex.parameter:group-1.0.0", R"(,{"id":"x","value":")" "\xE4" R"("})"),
+    {"NoUtf8",
+     schema("g", "norvex.parameter:group-1.0.0",
+            R"(,{"id":"x","value":")"
+            "\xE4"
+            R"("})"),
      "save the file in UTF-8."},
 };
 
@@ -111,8 +121,8 @@ TEST_P(Slips, AreToldWhereATextCeasesToBeJson) {
     folder.write("f.json", GetParam().bytes);
     const std::string out = folder.run({"check", "-q", "f.json"}).out;
     EXPECT_THAT(out, HasSubstr(": JSON parsing error at offset "));
-    GetParam().hint.empty() ? EXPECT_THAT(out, Not(HasSubstr("hint")))
-                            : EXPECT_THAT(out, HasSubstr("\n    hint: " + GetParam().hint + "\n"));
+    EXPECT_THAT(out, GetParam().hint.empty() ? testing::Matcher<std::string>(Not(HasSubstr("hint")))
+                                             : HasSubstr("\n    hint: " + GetParam().hint + "\n"));
 }
 
 const std::string quotes = "strings stand between \" and nothing else.";
@@ -148,7 +158,8 @@ const Hint slips[] = {
     {"MissingComma", "{\"a\": \"x\"\n\"b\": 1}", "a comma is missing before it."},
     {"EqualSign", "{\"a\" = 1}", "a colon stands between a name and its value."},
     {"Semicolon", "{\"a\": 1; \"b\": 2}", "commas stand between members and between elements."},
-    {"SecondSchema", "{\"a\": \"}\\\"\"}\n{\"b\": 1}", "a .json file holds one schema; a .ndjson file holds one a line."},
+    {"SecondSchema", "{\"a\": \"}\\\"\"}\n{\"b\": 1}",
+     "a .json file holds one schema; a .ndjson file holds one a line."},
     {"Empty", "", ""},
     {"NoUsualSlip", "{\"a\": %}", ""},
 };

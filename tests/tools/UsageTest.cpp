@@ -41,7 +41,8 @@ INSTANTIATE_TEST_SUITE_P(
         Misuse{"MisspeltVerb", {"chekc", "."}, "ostra-params: there is no verb chekc; did you mean check?\n"},
         Misuse{"NoPath", {"check"}, "ostra-params: PATH is required\n\"ostra-params check --help\" tells more.\n"},
         Misuse{"UnknownOption", {"check", "--fast", "empty"}, "was not expected: --fast\n"},
-        Misuse{"UnknownFormat", {"check", "--format", "xml", "empty"}, "--format: xml not in {text,json,sarif,github}\n"},
+        Misuse{
+            "UnknownFormat", {"check", "--format", "xml", "empty"}, "--format: xml not in {text,json,sarif,github}\n"},
         Misuse{"UnknownSeverity", {"check", "--severity", "x", "empty"}, "--severity: x not in {error,warning}\n"},
         Misuse{"UnknownCode", {"check", "--ignore", "xyz", "empty"}, "--ignore: there is no code xyz\n"},
         Misuse{"MisspeltCode",

@@ -52,7 +52,7 @@ std::string originalOf(const std::string& path) {
                                  std::regex::icase);
     constexpr std::size_t longest = 1000; // it takes stack for each character
     const std::string name = lower(fs::path(path).filename().string());
-    const auto signs = {"copy", "bak", "orig", "old", " ("};
+    const auto signs = {"copy", "bak", "back", "orig", "old", " ("};
     std::smatch parts;
     const bool isCopy = path.size() <= longest && std::any_of(signs.begin(), signs.end(), [&](const char* sign) {
                             return name.find(sign) != std::string::npos;

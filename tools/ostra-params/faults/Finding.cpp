@@ -80,8 +80,9 @@ std::vector<Finding> findingsOf(const Input& input, const Headings& headings, co
         }
         findings.push_back(std::move(finding));
     }
-    addTo(findings, ownFindings(input));
-    return findings;
+    std::vector<Finding> all = ownFindings(input); // before the others of a text
+    addTo(all, std::move(findings));
+    return all;
 }
 
 void addTo(std::vector<Finding>& findings, std::vector<Finding> more) {

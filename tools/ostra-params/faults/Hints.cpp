@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <unordered_set>
 
 namespace Tool {
 
@@ -53,11 +52,9 @@ std::string forMisspelt(const Fault& fault) {
     if (!fault.isError()) {
         return fmt::format("did you mean {}?", fault.nearestName());
     }
-    if (fault.nearestName() == fault.name()) {
-        const bool isProperty = fault.place().pointer.starts_with("/properties");
-        return fmt::format("{} stands among the {}.", fault.name(), isProperty ? "properties" : "constants");
-    }
-    return fmt::format("there is {}: did you mean {}?", fault.nearestName(), fault.name());
+    const auto meant = fault.name() == "value" ? std::vector<std::string_view>{"value", "typedValue"}
+                                               : std::vector<std::string_view>{fault.name()};
+    return fmt::format("there is {}: {}", fault.nearestName(), didYouMean(fault.nearestName(), meant));
 }
 
 } // namespace
@@ -68,6 +65,9 @@ Hints::Hints(const Input& input, const Headings& headings, const std::vector<Fau
     for (const Fault& fault : faults) {
         if (isOneOf(fault.code(), missing)) {
             faulty.insert(fault.typeId());
+        }
+        if (fault.code() == "property-unknown") {
+            properties_.insert(fault.place().text + fault.name());
         }
     }
     for (const Fault& fault : faults) {
@@ -84,6 +84,9 @@ std::string Hints::hintFor(const Fault& fault) {
     }
     if (!fault.nearestName().empty()) {
         return forMisspelt(fault);
+    }
+    if (fault.code() == "constant-undefined" && properties_.contains(fault.place().text + fault.name())) {
+        return fmt::format("{} stands among the properties.", fault.name());
     }
     if (fault.code() == "typeid-missing") {
         const std::size_t begin = text.find_first_not_of(" \t\r\n");

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -32,7 +33,8 @@ private:
 
     const Input& input_;
     const Headings& headings_;
-    std::unordered_map<std::string, const Parameters::Fault*> naming_;      // what names a faulty schema, by its typeid
+    std::unordered_map<std::string, const Parameters::Fault*> naming_; // what names a faulty schema, by its typeid
+    std::unordered_set<std::string> properties_; // which nothing reads, behind the keys of their texts
     std::map<const Section*, std::vector<std::string_view>> typeIds_;       // of each section that was asked for
     std::map<std::pair<const Section*, std::string>, std::string> similar_; // what was found, as many may miss the same
 };
