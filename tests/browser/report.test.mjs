@@ -170,6 +170,17 @@ test("lists what was left out as faulty", async () => {
   await close(tab);
 });
 
+test("lists warnings with links to the objects, and hints", async () => {
+  const odd = parameter("p", "P", "g");
+  odd.constants.push({ id: "readonly", value: true });
+  const tab = await open(page("warned", [group("g", "G"), odd]));
+  assert.equal(await tab.textContent("#totals"), "2 objects, 1 warning");
+  assert.match(await tab.textContent(".faults"), /Perhaps not meant.*:2:\d+ Nothing reads constant readonly.*Hint: did you mean readOnly\?/s);
+  await tab.locator(".faults a").first().click();
+  await shows(tab, "P");
+  await close(tab);
+});
+
 test("keeps no more of 20,000 objects in the page than are in sight", async () => {
   const tab = await open(page("many", many(20000)));
   assert.equal(await tab.textContent("#totals"), "20,000 objects");

@@ -25,6 +25,12 @@ std::vector<Section> makeSections() {
     return made;
 }
 
+const Section* sectionWhere(std::string_view Section::*name, std::string_view wanted) {
+    const auto& all = sections();
+    const auto found = std::find_if(all.begin(), all.end(), [&](const Section& each) { return each.*name == wanted; });
+    return found == all.end() ? nullptr : &*found;
+}
+
 /// Returns a word in small letters, with hyphens between its parts.
 std::string normal(std::string_view word) {
     std::string result(word);
@@ -56,18 +62,9 @@ const Section* sectionOfBase(std::string_view inherited) {
     return inherited.find(anyMinor) == std::string_view::npos ? nullptr : &sectionOfUnits();
 }
 
-const Section* sectionOfId(std::string_view id) {
-    const auto& all = sections();
-    const auto found = std::find_if(all.begin(), all.end(), [id](const Section& section) { return section.id == id; });
-    return found == all.end() ? nullptr : &*found;
-}
+const Section* sectionOfId(std::string_view id) { return sectionWhere(&Section::id, id); }
 
-const Section* sectionOfLabel(std::string_view label) {
-    const auto& all = sections();
-    const auto found =
-        std::find_if(all.begin(), all.end(), [label](const Section& section) { return section.label == label; });
-    return found == all.end() ? nullptr : &*found;
-}
+const Section* sectionOfLabel(std::string_view label) { return sectionWhere(&Section::label, label); }
 
 bool isMeant(const Section& section, std::string_view word) {
     const std::string wanted = normal(word);

@@ -1,6 +1,5 @@
 #include "faults/Hints.h"
 
-#include "faults/Slips.h"
 #include "output/Text.h"
 
 #include <fmt/format.h>

@@ -39,4 +39,7 @@ private:
     std::map<std::pair<const Section*, std::string>, std::string> similar_; // what was found, as many may miss the same
 };
 
+/// Returns what is probably the matter where a text ceases to be JSON; empty when it is none of the usual slips.
+std::string_view slipAt(std::string_view text, std::size_t offset);
+
 } // namespace Tool

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cstddef>
+#include <functional>
 #include <map>
 #include <regex>
 #include <unordered_map>
@@ -27,7 +29,10 @@ constexpr std::array all{
 bool isRegex(const std::string& text) {
     constexpr std::size_t longest = 2000;
     try {
-        return text.size() > longest || std::regex(text).mark_count() < longest;
+        if (text.size() <= longest) {
+            const std::regex tried(text);
+        }
+        return true;
     } catch (const std::regex_error&) {
         return false;
     }
@@ -96,15 +101,15 @@ private:
             add("typeid-unversioned", typeId, fmt::format("Typeid {} has no version.", typeId));
         }
         if (codes_.contains("content-shared")) {
-            compare("content-shared", object, std::move(content), "says the same as");
+            compare("content-shared", object, content, "says the same as");
         }
         if (codes_.contains("name-shared") && !object.name.empty()) {
             compare("name-shared", object, fmt::format("{}\n{}", label, object.name), "has the name of");
         }
     }
 
-    void compare(const char* code, const Object& object, std::string content, const char* verb) {
-        const auto [first, isNew] = firsts_[code].try_emplace(std::move(content), object.typeId);
+    void compare(const char* code, const Object& object, const std::string& content, const char* verb) {
+        const auto [first, isNew] = firsts_[code].try_emplace(std::hash<std::string>()(content), object.typeId);
         if (!isNew) {
             add(code, object.typeId,
                 fmt::format("{} {} {} {}.", object.section->label, object.typeId, verb, first->second));
@@ -131,7 +136,8 @@ private:
 
     Loader& catalogue_;
     const std::set<std::string, std::less<>>& codes_;
-    std::map<std::string_view, std::unordered_map<std::string, std::string>> firsts_; // of each code and content
+    // The first typeid of each content, for each code. Of contents the hashes are kept, as they are long and many.
+    std::map<std::string_view, std::unordered_map<std::size_t, std::string>> firsts_;
     std::map<std::string, std::string_view> mayBeUnused_;
     std::unordered_set<std::string> used_;
     std::vector<Finding> findings_;

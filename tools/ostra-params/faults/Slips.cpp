@@ -1,4 +1,4 @@
-#include "faults/Slips.h"
+#include "faults/Hints.h"
 
 #include <algorithm>
 #include <array>

@@ -4,7 +4,6 @@
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdio>
 #include <filesystem>
@@ -29,24 +28,19 @@ Progress::~Progress() {
 }
 
 void Progress::advance(std::uintmax_t bytes) {
-    read_ = bytes;
-    if (isShown_ && Clock::now() >= nextDrawing_) {
-        draw();
-        isDrawn_ = true;
-        nextDrawing_ = Clock::now() + std::chrono::milliseconds(100);
-    }
-}
-
-void Progress::draw() const {
-    constexpr std::size_t width = 40;
-    if (total_ == 0 || read_ > total_) { // more than was announced, as from standard input
-        fmt::print(stderr, "\rreading: {:.1f} MB", static_cast<double>(read_) / 1e6);
+    if (!isShown_ || Clock::now() < nextDrawing_) {
         return;
     }
-    const double part = static_cast<double>(read_) / static_cast<double>(total_);
-    const auto filled = static_cast<std::size_t>(part * width);
-    fmt::print(stderr, "\rreading [{}{}] {:3.0f} %", std::string(filled, '#'), std::string(width - filled, ' '),
-               part * 100);
+    isDrawn_ = true;
+    nextDrawing_ = Clock::now() + std::chrono::milliseconds(100);
+    const auto read = static_cast<double>(bytes);
+    if (total_ == 0 || bytes > total_) { // more than was announced, as from standard input
+        fmt::print(stderr, "\rreading: {:.1f} MB", read / 1e6);
+    } else {
+        const double part = read / static_cast<double>(total_);
+        fmt::print(stderr, "\rreading [{:40}] {:3.0f} %", std::string(static_cast<std::size_t>(part * 40), '#'),
+                   part * 100);
+    }
 }
 
 } // namespace Tool

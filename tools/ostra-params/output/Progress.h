@@ -21,12 +21,9 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
-    void draw() const;
-
     bool isShown_; // whether anybody could see it
     bool isDrawn_ = false;
     std::uintmax_t total_ = 0;
-    std::uintmax_t read_ = 0;
     Clock::time_point nextDrawing_;
 };
 

@@ -3,6 +3,8 @@
 #include "schema/Spelling.h"
 
 #include <fmt/format.h>
+#include <rapidjson/encodings.h>
+#include <rapidjson/memorystream.h>
 
 #include <algorithm>
 #include <cctype>
@@ -14,38 +16,16 @@ namespace Tool {
 
 namespace {
 
-unsigned byteAt(std::string_view text, std::size_t index) {
-    return index < text.size() ? static_cast<unsigned char>(text[index]) : 0U;
+/// Returns how many bytes at the start of a text are one character, and which; 0 when they are no UTF-8.
+std::size_t lengthOfCharacter(std::string_view text, unsigned& character) {
+    rapidjson::MemoryStream stream(text.data(), text.size());
+    return !text.empty() && rapidjson::UTF8<>::Decode(stream, &character) ? stream.Tell() : 0;
 }
 
-/// Returns how many bytes at the start of a text are one character; 0 when they are no UTF-8.
-std::size_t lengthOfCharacter(std::string_view text) {
-    const unsigned first = byteAt(text, 0);
-    const unsigned second = byteAt(text, 1);
-    const auto isLater = [&](std::size_t index) { return (byteAt(text, index) & 0xC0U) == 0x80; };
-    if (first < 0x80) {
-        return text.empty() ? 0 : 1;
-    }
-    if (first >= 0xC2 && first <= 0xDF) {
-        return isLater(1) ? 2 : 0;
-    }
-    if (first >= 0xE0 && first <= 0xEF) { // neither longer than it need be nor half a pair of UTF-16
-        const bool isRight = !(first == 0xE0 && second < 0xA0) && !(first == 0xED && second > 0x9F);
-        return isRight && isLater(1) && isLater(2) ? 3 : 0;
-    }
-    const bool isRight = !(first == 0xF0 && second < 0x90) && !(first == 0xF4 && second > 0x8F);
-    return first >= 0xF0 && first <= 0xF4 && isRight && isLater(1) && isLater(2) && isLater(3) ? 4 : 0;
-}
-
-/// Returns whether a terminal would obey the character at the start of a text: a control, also of two bytes, or what
-/// turns the direction of writing.
-bool isControl(std::string_view text) {
-    const unsigned first = byteAt(text, 0);
-    const unsigned lastTwo = first == 0xE2 ? byteAt(text, 1) * 0x100 + byteAt(text, 2) : 0;
-    return first < 0x20 || first == 0x7F ||
-           (first == 0xC2 && byteAt(text, 1) >= 0x80 && byteAt(text, 1) <= 0x9F) || // U+0080 to U+009F
-           (lastTwo >= 0x80AA && lastTwo <= 0x80AE) ||                              // U+202A to U+202E
-           (lastTwo >= 0x81A6 && lastTwo <= 0x81A9);                                // U+2066 to U+2069
+/// Returns whether a terminal would obey a character: a control, or what turns the direction of writing.
+bool isControl(unsigned character) {
+    return character < 0x20 || (character >= 0x7F && character <= 0x9F) ||
+           (character >= 0x202A && character <= 0x202E) || (character >= 0x2066 && character <= 0x2069);
 }
 
 } // namespace
@@ -60,7 +40,8 @@ std::size_t findInvalid(std::string_view text) {
                 continue;
             }
         }
-        const std::size_t length = lengthOfCharacter(text.substr(offset));
+        unsigned character = 0;
+        const std::size_t length = lengthOfCharacter(text.substr(offset), character);
         if (length == 0) {
             return offset;
         }
@@ -98,16 +79,17 @@ std::uint64_t digestOf(std::string_view text) {
 std::string printable(std::string_view text) {
     std::string line;
     while (!text.empty()) {
-        const std::size_t length = lengthOfCharacter(text);
-        const std::string_view character = text.substr(0, std::max<std::size_t>(length, 1));
-        if (length != 0 && !isControl(text)) {
-            line += character;
+        unsigned character = 0;
+        const std::size_t length = lengthOfCharacter(text, character);
+        const std::string_view bytes = text.substr(0, std::max<std::size_t>(length, 1));
+        if (length != 0 && !isControl(character)) {
+            line += bytes;
         } else {
-            for (const char byte : character) {
+            for (const char byte : bytes) {
                 fmt::format_to(std::back_inserter(line), "\\x{:02X}", static_cast<unsigned char>(byte));
             }
         }
-        text.remove_prefix(character.size());
+        text.remove_prefix(bytes.size());
     }
     return line;
 }

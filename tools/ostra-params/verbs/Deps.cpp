@@ -2,7 +2,6 @@
 #include "output/Graphviz.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
-#include "verbs/Find.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>

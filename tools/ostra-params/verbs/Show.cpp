@@ -2,7 +2,6 @@
 #include "output/Json.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
-#include "verbs/Find.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,7 @@ class App;
 namespace Tool {
 
 class Catalogue;
+struct Object;
 
 /// What the program tells the shell.
 enum ExitCode {
@@ -51,5 +53,18 @@ ExitCode warnOfFaults(const Catalogue& catalogue);
 
 /// Prints the faults of a catalogue on standard error, and warnings of a code; returns whether there are any.
 bool printFaults(const Catalogue& catalogue, std::string_view warningCode = {});
+
+/// There is no object of a typeid. Its message names those that may be meant.
+class NotFound : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Adds the typeid of an object to a verb.
+void addTypeId(CLI::App& verb, std::string& typeId);
+
+/// Returns the object of a typeid, or the only one whose typeid has the text in it.
+/// @throws NotFound
+const Object& findObject(const Catalogue& catalogue, const std::string& text);
 
 } // namespace Tool
