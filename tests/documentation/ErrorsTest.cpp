@@ -112,10 +112,10 @@ TEST(PageOfErrors, ListsTheWordOfEachKind) {
     EXPECT_EQ(listed, words);
 }
 
-/// Returns all sources of tests as one text, with literals of several lines in one.
-std::string textOfTheTests() {
+/// Returns all sources in a folder as one text, with literals of several lines in one.
+std::string textOf(const char* folder) {
     std::string text;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(top / "tests")) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(top / folder)) {
         const std::string extension = entry.path().extension().string();
         if ((extension == ".cpp" || extension == ".h") && entry.path().parent_path().filename() != "documentation") {
             text += contentOf(entry.path());
@@ -132,7 +132,7 @@ bool isQuoted(const std::string& sentence, const std::string& text) {
 }
 
 TEST(Messages, AreQuotedByTests) {
-    const std::string tests = textOfTheTests();
+    const std::string tests = textOf("tests");
     std::vector<std::string> missing;
     for (const auto& [sentence, code] : messagesOfTheLibraries()) {
         if (!isQuoted(sentence, tests)) {
@@ -199,10 +199,17 @@ TEST(Messages, AreThrownFromTheirTablesAlone) {
 }
 
 TEST(Guides, QuoteNoMessageThatTheSourcesDoNotHave) {
+    const std::string tool = textOf("tools/ostra-params/faults");
     for (const auto& entry : std::filesystem::directory_iterator(top / "docs")) {
         if (entry.path().extension() == ".md") {
             const auto quoted = sentencesAmong(Documentation::codesOf(contentOf(entry.path())));
-            EXPECT_THAT(difference(quoted, allSentences()), IsEmpty()) << entry.path();
+            auto unknown = difference(quoted, allSentences());
+            if (entry.path().filename() == "tool.md") { // which tells what the tool says itself, too
+                std::erase_if(unknown, [&](const std::string& sentence) {
+                    return isQuoted(std::regex_replace(sentence, std::regex("\\*"), "<>"), tool);
+                });
+            }
+            EXPECT_THAT(unknown, IsEmpty()) << entry.path();
         }
     }
 }

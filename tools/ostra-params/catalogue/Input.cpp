@@ -14,6 +14,7 @@
 #include <fstream>
 #include <iostream>
 #include <istream>
+#include <iterator>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -119,11 +120,14 @@ bool isOfLines(const std::string& text) {
 } // namespace
 
 Input::Input(const std::vector<std::string>& paths) {
+    mayRepeat_ = paths.size() > 1;
     for (const std::string& path : paths) {
         find(path);
     }
-    Once once;
-    std::erase_if(files_, [&](const std::string& file) { return !once.isNew(file); });
+    if (mayRepeat_) {
+        Once once;
+        std::erase_if(files_, [&](const std::string& file) { return !once.isNew(file); });
+    }
     putCopiesLast(files_);
     Progress progress(files_);
     for (const std::string& file : files_) {
@@ -154,7 +158,7 @@ void Input::find(const std::string& path) {
 }
 
 void Input::findBelow(const fs::path& top) {
-    std::vector<fs::path> found;
+    std::vector<std::string> found;
     std::vector<fs::path> folders{top};
     while (!folders.empty()) {
         const fs::path folder = std::move(folders.back());
@@ -164,26 +168,30 @@ void Input::findBelow(const fs::path& top) {
             const fs::path& path = entry->path();
             std::error_code unknown; // as of a link that leads nowhere
             const bool isFolder = entry->is_directory(unknown);
+            mayRepeat_ = mayRepeat_ || entry->is_symlink(unknown);
             if (path.filename().string().front() == '.' || (isFolder && entry->is_symlink(unknown))) {
                 continue;
             }
             if (isFolder) {
                 folders.push_back(path);
             } else if (isSchemaFile(path)) {
-                found.push_back(path);
+                found.push_back(path.string());
             }
         }
         if (error) {
-            found.push_back(folder); // to be refused when it is its turn to be read
+            found.push_back(folder.string()); // to be refused when it is its turn to be read
         }
     }
     if (found.empty()) {
         throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(top.string())));
     }
-    std::sort(found.begin(), found.end());
-    for (const fs::path& path : found) {
-        files_.push_back(path.string());
-    }
+    std::sort(found.begin(), found.end(), [](const std::string& one, const std::string& other) {
+        // As paths are compared, name by name, at a fraction of the cost.
+        const auto rank = [](char byte) { return byte == '/' ? 0 : 1 + static_cast<unsigned char>(byte); };
+        return std::lexicographical_compare(one.begin(), one.end(), other.begin(), other.end(),
+                                            [&](char a, char b) { return rank(a) < rank(b); });
+    });
+    files_.insert(files_.end(), std::make_move_iterator(found.begin()), std::make_move_iterator(found.end()));
 }
 
 void Input::read(const std::string& file) {

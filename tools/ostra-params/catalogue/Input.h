@@ -57,6 +57,7 @@ private:
     void readStandardInput(const std::string& file);
     void add(const std::string& file, std::size_t line, std::string text);
 
+    bool mayRepeat_ = false;
     std::deque<std::string> files_; // never moved, as places point to them
     std::map<std::string, std::string> texts_;
     std::vector<Source> sources_;

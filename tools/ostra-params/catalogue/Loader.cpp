@@ -19,11 +19,15 @@ Loader::Loader(const std::vector<std::string>& paths) : input_(paths), isFaulty_
         }
     }
     findings_ = findingsOf(input_, headings_, faults);
-    counts_ = countAll(engine_);
+}
+
+std::vector<std::size_t> Loader::counts() {
+    std::vector<std::size_t> counts = countAll(engine_);
     const std::size_t sound = schemas() + input_.failures().size() - leftOut();
-    if (std::reduce(counts_.begin(), counts_.end()) != sound) { // the rare case, as it costs time to tell which
+    if (std::reduce(counts.begin(), counts.end()) != sound) { // the rare case, as it costs time to tell which
         mustHaveAll(describeAll(engine_));
     }
+    return counts;
 }
 
 std::size_t Loader::leftOut() const {

@@ -25,7 +25,6 @@ class Loader {
 public:
     /// Reads files, folders and standard input.
     /// @throws InputError as Input does.
-    /// @throws Loss if there are fewer objects than sound schemas.
     explicit Loader(const std::vector<std::string>& paths);
 
     Parameters::ParametersEngine& engine() { return engine_; }
@@ -38,8 +37,9 @@ public:
     std::size_t files() const { return input_.files(); }
     /// Returns how many of them, and of files that cannot be read, are left out.
     std::size_t leftOut() const;
-    /// Returns how many objects there are in each section.
-    const std::vector<std::size_t>& counts() const { return counts_; }
+    /// Returns how many objects there are in each section, which costs time in proportion to their number.
+    /// @throws Loss if there are fewer objects than sound schemas.
+    std::vector<std::size_t> counts();
     /// Returns what is wrong with the files and the schemas, in the order in which they were read.
     const std::vector<Finding>& findings() const { return findings_; }
 
@@ -54,7 +54,6 @@ private:
     std::vector<bool> isFaulty_; // by the number of the schema
     Headings headings_{input_.sources(), isFaulty_};
     std::vector<Finding> findings_;
-    std::vector<std::size_t> counts_;
 };
 
 } // namespace Tool

@@ -101,10 +101,10 @@ private:
             add("typeid-unversioned", typeId, fmt::format("Typeid {} has no version.", typeId));
         }
         if (codes_.contains("content-shared")) {
-            compare("content-shared", object, content, "says the same as");
+            compare("content-shared", object, content, " says the same as ");
         }
         if (codes_.contains("name-shared") && !object.name.empty()) {
-            compare("name-shared", object, fmt::format("{}\n{}", label, object.name), "has the name of");
+            compare("name-shared", object, fmt::format("{}\n{}", label, object.name), " has the name of ");
         }
     }
 
@@ -112,7 +112,7 @@ private:
         const auto [first, isNew] = firsts_[code].try_emplace(std::hash<std::string>()(content), object.typeId);
         if (!isNew) {
             add(code, object.typeId,
-                fmt::format("{} {} {} {}.", object.section->label, object.typeId, verb, first->second));
+                fmt::format("{} {}{}{}.", object.section->label, object.typeId, verb, first->second));
             findings_.back().other = placeOf(*catalogue_.headings().find(first->second));
         }
     }

@@ -152,9 +152,9 @@ std::string findingsAsCommands(const std::vector<Finding>& findings, bool isAll)
     return folded(findings, isAll, commandOf);
 }
 
-std::string summaryAsText(const Loader& catalogue, const std::vector<Finding>& findings) {
+std::string summaryAsText(Loader& catalogue, const std::vector<Finding>& findings) {
     constexpr auto line = "{:<24}{:>10}\n";
-    const auto& counts = catalogue.counts();
+    const std::vector<std::size_t> counts = catalogue.counts();
     std::string text = fmt::format(line, "kind", "objects");
     for (const Section& section : sections()) {
         fmt::format_to(std::back_inserter(text), line, section.plural, counts[indexOf(section)]);
@@ -168,14 +168,15 @@ std::string summaryAsText(const Loader& catalogue, const std::vector<Finding>& f
                               warnings == 0 ? "" : ", " + counted(warnings, "warning"));
 }
 
-std::string checkAsJson(const Loader& catalogue, const std::vector<Finding>& findings) {
+std::string checkAsJson(Loader& catalogue, const std::vector<Finding>& findings) {
     Json faults = Json::array();
     for (const Finding& finding : findings) {
         faults.push_back(asJson(finding));
     }
     Json objects = Json::object();
+    const std::vector<std::size_t> counts = catalogue.counts();
     for (const Section& section : sections()) {
-        objects[std::string(section.id)] = catalogue.counts()[indexOf(section)];
+        objects[std::string(section.id)] = counts[indexOf(section)];
     }
     return toText({{"files", catalogue.files()},
                    {"schemas", catalogue.schemas()},

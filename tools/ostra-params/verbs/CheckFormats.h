@@ -16,10 +16,10 @@ std::string findingsAsText(const std::vector<Finding>& findings, bool isAll = fa
 std::string findingsAsCommands(const std::vector<Finding>& findings, bool isAll);
 
 /// Returns a table of the objects of a catalogue, a line per kind, and a line that sums up.
-std::string summaryAsText(const Loader& catalogue, const std::vector<Finding>& findings);
+std::string summaryAsText(Loader& catalogue, const std::vector<Finding>& findings);
 
 /// Returns both as one JSON object.
-std::string checkAsJson(const Loader& catalogue, const std::vector<Finding>& findings);
+std::string checkAsJson(Loader& catalogue, const std::vector<Finding>& findings);
 
 /// Returns the findings as a log in the Static Analysis Results Interchange Format 2.1.0, which code hosts show in
 /// place.
