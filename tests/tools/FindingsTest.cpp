@@ -47,6 +47,17 @@ TEST(Folding, PutsConsequencesBelowTheirCause) {
                                "\n    1 other names it, too; 2 faults follow; --all shows each.\n");
 }
 
+TEST(Folding, PutsWhatNamesATextThatIsNoJsonBelowThat) {
+    const Folder folder;
+    std::string broken = boolSpec("s", "norvex.spec:discipline-1.0.0");
+    broken.insert(broken.size() - 2, ",");
+    folder.write("f.ndjson", parameter("p", "s") + broken);
+    EXPECT_EQ(folder.run({"check", "-q", "f.ndjson"}).out,
+              "f.ndjson:2:173: JSON parsing error at offset 172: Missing a name for object member.\n"
+              "    hint: no comma stands before a closing bracket.\n"
+              "    1 fault follows; --all shows each.\n");
+}
+
 TEST(Folding, IsUndoneWhenAllAreAskedFor) {
     const Folder folder;
     folder.write("f.ndjson", parameter("p", "s") + boolSpec("s", "gone") + boolSpec("t", "gone"));

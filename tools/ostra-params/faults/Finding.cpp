@@ -78,6 +78,12 @@ std::vector<Finding> findingsOf(const Input& input, const Headings& headings, co
             finding.root = place(others, *fault.root());
             finding.rootSource = Input::numberOf(fault.root()->text);
         }
+        const bool isMissing = !finding.expected.empty() && !finding.other;
+        if (const auto broken = isMissing ? headings.find(finding.name) : std::nullopt;
+            broken && !headings.isSound(*broken)) { // a text that the library could not read so far
+            finding.other = finding.root = beginningOf(input.sources()[*broken]);
+            finding.rootSource = broken;
+        }
         findings.push_back(std::move(finding));
     }
     std::vector<Finding> all = ownFindings(input); // before the others of a text
