@@ -45,7 +45,7 @@ const discharge = "hydro.parameter:ratedDischarge-1.0.0";
 
 test("opens with what the catalogue holds", async () => {
   const tab = await open(example);
-  assert.match(await tab.textContent("#totals"), /^\d+ objects$/);
+  assert.match(await tab.textContent("#totals"), /^\d+ objects(, \d+ warnings)?$/);
   assert.match(await tab.textContent("#card"), /What the catalogue holds/);
   assert.ok(await rows(tab).count() > 5);
   await picture(tab, "overview");
