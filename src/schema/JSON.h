@@ -130,7 +130,8 @@ public:
     MaybeView(std::nullopt_t) {}
     // NOLINTEND(google-explicit-constructor)
 
-    explicit operator bool() const { return view_.value_ != nullptr; }
+    bool has_value() const { return view_.value_ != nullptr; } // NOLINT(readability-identifier-naming): as std::optional
+    explicit operator bool() const { return has_value(); }
     const JSONView& operator*() const { return view_; }
     const JSONView* operator->() const { return &view_; }
 
@@ -146,7 +147,7 @@ inline MaybeView JSONView::member(std::string_view name) const {
     return found != nullptr ? MaybeView(JSONView(found->value, *handler_)) : std::nullopt;
 }
 
-inline bool JSONView::hasMember(std::string_view name) const { return static_cast<bool>(member(name)); }
+inline bool JSONView::hasMember(std::string_view name) const { return member(name).has_value(); }
 
 /// A parsed document. It owns the memory in which its values lie.
 class JSON {
