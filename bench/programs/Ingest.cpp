@@ -64,12 +64,9 @@ void findFaults(const Catalogue& catalogue, Measurement& measurement) {
 } // namespace
 
 Benchmarks ingestBenchmarks() {
-    return {{"ingest", ingest},
-            {"ingest-batch", ingestBatch},
-            {"resolve", resolve},
-            {"find-unresolvable", findUnresolvable},
-            {"try-batch", tryBatch},
-            {"find-faults", findFaults}};
+    return {{"ingest", ingest},      {"ingest-batch", ingestBatch},
+            {"resolve", resolve},    {"find-unresolvable", findUnresolvable},
+            {"try-batch", tryBatch}, {"find-faults", findFaults}};
 }
 
 } // namespace Bench

@@ -11,6 +11,7 @@ struct FloatRangeTraits {
     using Number = double;
     using Reader = Ostra::Number;
 
+    static bool isNumber(Ostra::JSONView value) { return value.isNumber(); }
     static void write(Ostra::SchemaWriter& writer, Number number) { writer.number(number); }
 };
 

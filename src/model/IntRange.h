@@ -11,6 +11,7 @@ struct IntRangeTraits {
     using Number = long long;
     using Reader = Ostra::Integer;
 
+    static bool isNumber(Ostra::JSONView value) { return value.isInteger(); }
     static void write(Ostra::SchemaWriter& writer, Number number) { writer.integer(number); }
 };
 

@@ -33,8 +33,8 @@ struct NumericRangeData {
 
 /// The kind of a range between two numbers; integer and floating-point ranges differ in the numbers alone.
 ///
-/// Traits has the kind's entry in the public list, its Number, the Reader of a number from JSON, and how one is
-/// written.
+/// Traits has the kind's entry in the public list, its Number, the Reader of a number from JSON, what JSON is one, and
+/// how one is written.
 template <class Traits>
 class NumericRangeKind : public DescribedKind<typename Traits::Public> {
 public:
@@ -180,7 +180,7 @@ private:
     static Ostra::MaybeView inspectSide(Find find, std::string_view flagId, std::string_view boundaryId) {
         const auto flag = find(flagId);
         const auto boundary = find(boundaryId);
-        if (!flag || !flag->isBoolean()) {
+        if (!flag || !flag->isBoolean() || (boundary && !Traits::isNumber(*boundary))) {
             return std::nullopt;
         }
         if (flag->boolean() && !boundary) {

@@ -100,7 +100,7 @@ TEST(JSONView, ReadsAnyNumberAsADouble) {
 
 TEST(JSONView, FindsAMemberByName) {
     const JSON json = parse(R"({"a": 1, "b": 2})");
-    EXPECT_EQ(json.view().member("b").value().integer(), 2);
+    EXPECT_EQ(json.view().member("b")->integer(), 2);
     EXPECT_TRUE(json.view().hasMember("a"));
 }
 
@@ -114,16 +114,16 @@ TEST(JSONView, FindsNoMemberOfAnotherName) {
 
 TEST(JSONView, FindsTheFirstOfTwoMembersOfOneName) {
     const JSON json = parse(R"({"x": 0, "a": 1, "a": 2})");
-    EXPECT_EQ(json.view().member("a").value().integer(), 1);
+    EXPECT_EQ(json.view().member("a")->integer(), 1);
     EXPECT_EQ(json.view().size(), 3U);
 }
 
 TEST(JSONView, ComparesNamesToTheLastByte) {
     const JSON json = parse(R"({"": 0, "a": 1, "a\u0000": 2, "a\u0000b": 3})");
-    EXPECT_EQ(json.view().member("").value().integer(), 0);
-    EXPECT_EQ(json.view().member("a").value().integer(), 1);
-    EXPECT_EQ(json.view().member("a\0"sv).value().integer(), 2);
-    EXPECT_EQ(json.view().member("a\0b"sv).value().integer(), 3);
+    EXPECT_EQ(json.view().member("")->integer(), 0);
+    EXPECT_EQ(json.view().member("a")->integer(), 1);
+    EXPECT_EQ(json.view().member("a\0"sv)->integer(), 2);
+    EXPECT_EQ(json.view().member("a\0b"sv)->integer(), 3);
 }
 
 TEST(JSONView, FindsNoMemberInAValueThatIsNoObject) {
@@ -216,7 +216,7 @@ TEST(Writing, PutsNoBlankAnywhere) {
 
 TEST(Writing, StartsAtAnyValueOfADocument) {
     const JSON json = parse(R"({"a": [1, {"b": "x"}]})");
-    EXPECT_EQ(json.view().member("a").value().toText(), R"([1,{"b":"x"}])");
+    EXPECT_EQ(json.view().member("a")->toText(), R"([1,{"b":"x"}])");
 }
 
 TEST(Writing, EscapesNames) { EXPECT_EQ(parse(R"({"a\"\u0000": 1})").toText(), R"({"a\"\u0000":1})"); }

@@ -51,9 +51,11 @@ std::string forMisspelt(const Fault& fault) {
     if (!fault.isError()) {
         return fmt::format("did you mean {}?", fault.nearestName());
     }
-    const auto meant = fault.name() == "value" ? std::vector<std::string_view>{"value", "typedValue"}
-                                               : std::vector<std::string_view>{fault.name()};
-    return fmt::format("there is {}: {}", fault.nearestName(), didYouMean(fault.nearestName(), meant));
+    // What is not defined may be so in an array that is misspelt itself.
+    const std::string question =
+        didYouMean(fault.nearestName(), {fault.name(), "typedValue", "constants", "properties"});
+    return fmt::format("there is {}: {}", fault.nearestName(),
+                       question.empty() ? fmt::format("did you mean {}?", fault.name()) : question);
 }
 
 } // namespace
