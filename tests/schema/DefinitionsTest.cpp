@@ -37,14 +37,14 @@ protected:
 TEST_P(DefinitionsOf, AreFoundByTheirIds) {
     for (std::size_t element = 0; element < ids.size(); ++element) {
         const auto found = definitions.find(ids[element]);
-        ASSERT_TRUE(found.has_value()) << ids[element];
+        ASSERT_TRUE(found) << ids[element];
         EXPECT_EQ(found->integer(), static_cast<std::int64_t>(element));
     }
 }
 
 TEST_P(DefinitionsOf, AreNotFoundByOtherIds) {
     for (const char* other : {"", "i", "id", "id 10008", "id 0 "}) {
-        EXPECT_FALSE(definitions.find(other).has_value()) << other;
+        EXPECT_FALSE(definitions.find(other)) << other;
     }
 }
 

@@ -169,8 +169,8 @@ TEST(SchemaWriter, WritesWhatTheReaderReads) {
     const Schema read(textOf(std::move(schema)), Complaints::shared());
     EXPECT_EQ(read.typeId(), "\"t\xff");
     EXPECT_EQ(read.base(), "b\\");
-    EXPECT_EQ(Schema::valueOf(read.constants().find(std::string("a\0b", 3)).value())->string(), "\x1f");
-    EXPECT_EQ(Schema::valueOf(read.properties().find("\xc3\xa4").value())->toText(), R"({"typeid":"c"})");
+    EXPECT_EQ(Schema::valueOf(*read.constants().find(std::string("a\0b", 3)))->string(), "\x1f");
+    EXPECT_EQ(Schema::valueOf(*read.properties().find("\xc3\xa4"))->toText(), R"({"typeid":"c"})");
 }
 
 } // namespace
