@@ -7,6 +7,7 @@
 #include <string>
 #include <thread>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -115,6 +116,45 @@ TEST(CopyOnWrite, ACopyOutlivesItsOriginal) {
     copy.write() += " once";
     EXPECT_EQ(copy.read(), "shared once");
 }
+
+TEST(CopyOnWrite, TakesAnotherValueInThePlaceOfItsOwn) {
+    Text text;
+    text.write() = "old";
+    text.replace(std::make_shared<std::string>("new"));
+    EXPECT_EQ(text.read(), "new");
+}
+
+TEST(CopyOnWrite, LeavesCopiesTheirValueWhenItTakesAnother) {
+    Text text;
+    text.write() = "old";
+    const Text copy(text);
+    text.replace(std::make_shared<std::string>("new"));
+    EXPECT_EQ(copy.read(), "old");
+    EXPECT_EQ(text.read(), "new");
+}
+
+TEST(CopyOnWrite, WritesInPlaceWhenItHasTakenAnotherValue) {
+    Text text;
+    const Text before(text);
+    text.replace(std::make_shared<std::string>("new"));
+    const std::string* const place = &text.read();
+    EXPECT_EQ(&text.write(), place);
+    const Text after(text);
+    EXPECT_NE(&text.write(), place);
+    EXPECT_EQ(after.read(), "new");
+}
+
+TEST(CopyOnWrite, StillCopiesBeforeItsCopyWritesWhenItHasTakenAnotherValue) {
+    Text text;
+    text.write() = "old";
+    Text copy(text);
+    Text copyOfCopy(copy);
+    text.replace(std::make_shared<std::string>("new"));
+    copy.write() += " changed";
+    EXPECT_EQ(copyOfCopy.read(), "old");
+}
+
+static_assert(noexcept(std::declval<Text&>().replace(nullptr)));
 
 /// A value that may refuse to be copied.
 struct Stubborn {

@@ -1,0 +1,112 @@
+#include "engine/Registry.h"
+
+#include "model/Access.h"
+#include "model/Taxon.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <iterator>
+#include <map>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Parameters::Internal {
+
+namespace {
+
+void addPending(Registry& registry, std::string_view typeId) {
+    registry.addPending<GroupKind>({Texts{typeId, "Name"}}, Directory::Key(typeId));
+}
+
+/// Puts objects in the place of the pending groups that are chosen; the others stay pending.
+template <class Choose>
+void commit(Registry& registry, Choose chosen) {
+    std::vector<Taxon> built;
+    for (const auto& pending : registry.store<GroupKind>().pending) {
+        const bool isBuilt = chosen(pending.record.texts[0]);
+        built.push_back(isBuilt ? makeTaxon(pending.record.texts) : Access::none<Taxon>());
+    }
+    registry.reserveForPending();
+    registry.commit<GroupKind>(built);
+}
+
+/// Checks that a typeid leads to its object or its pending record.
+void expectState(const Registry& registry, const std::string& typeId, bool isResolved) {
+    const Directory::Entry* const entry = registry.find(typeId);
+    ASSERT_NE(entry, nullptr) << typeId;
+    ASSERT_EQ(entry->resolved, isResolved) << typeId;
+    const auto& store = registry.store<GroupKind>();
+    if (isResolved) {
+        EXPECT_EQ(store.objects.at(entry->place).getTypeId(), typeId);
+    } else {
+        EXPECT_EQ(store.pending.at(entry->place).record.texts[0], typeId);
+    }
+}
+
+TEST(Registry, CommitsAllThatIsPending) {
+    Registry registry;
+    addPending(registry, "a");
+    addPending(registry, "b");
+    commit(registry, [](std::string_view) { return true; });
+    expectState(registry, "a", true);
+    expectState(registry, "b", true);
+    EXPECT_FALSE(registry.hasPending());
+}
+
+TEST(Registry, KeepsPendingWhatWasNotBuilt) {
+    Registry registry;
+    for (const char* typeId : {"a", "b", "c", "d", "e"}) {
+        addPending(registry, typeId);
+    }
+    commit(registry, [](std::string_view typeId) { return typeId == "b" || typeId == "d"; });
+    for (const char* typeId : {"a", "c", "e"}) {
+        expectState(registry, typeId, false);
+    }
+    expectState(registry, "b", true);
+    expectState(registry, "d", true);
+    EXPECT_EQ(registry.store<GroupKind>().pending.size(), 3U);
+    EXPECT_EQ(registry.store<GroupKind>().objects.size(), 2U);
+}
+
+TEST(Registry, KeepsAllPendingWhereNothingWasBuilt) {
+    Registry registry;
+    addPending(registry, "a");
+    commit(registry, [](std::string_view) { return false; });
+    expectState(registry, "a", false);
+    EXPECT_TRUE(registry.store<GroupKind>().objects.empty());
+}
+
+TEST(Registry, StaysInStepWhateverIsCommittedAndWithdrawn) {
+    std::mt19937 random(3);
+    for (int round = 0; round < 100; ++round) {
+        Registry registry;
+        std::map<std::string, bool> resolved;
+        for (int step = 0; step < 12; ++step) {
+            for (int i = 0; i < 5; ++i) {
+                const std::string typeId = "t" + std::to_string(step) + "." + std::to_string(i);
+                addPending(registry, typeId);
+                resolved.emplace(typeId, false);
+            }
+            const auto withdrawn = std::next(resolved.begin(), static_cast<std::ptrdiff_t>(random() % resolved.size()));
+            if (!withdrawn->second) {
+                registry.discardPending(withdrawn->first);
+                resolved.erase(withdrawn);
+            }
+            commit(registry, [&](std::string_view typeId) {
+                return resolved.at(std::string(typeId)) = random() % 3 == 0;
+            });
+            for (const auto& [typeId, isResolved] : resolved) {
+                expectState(registry, typeId, isResolved);
+            }
+            ASSERT_EQ(registry.store<GroupKind>().pending.size() + registry.store<GroupKind>().objects.size(),
+                      resolved.size());
+        }
+    }
+}
+
+} // namespace
+
+} // namespace Parameters::Internal
