@@ -63,6 +63,42 @@ void registerAndResolve(ParametersEngine engine, const std::string& text) {
     }
 }
 
+/// Whether a pointer begins with a member or element of the whole, or is the whole.
+bool isPointer(const std::string& pointer) { return pointer.empty() || pointer[0] == '/'; }
+
+void checkPlace(const Parameters::Fault::Place& place, const std::string& text) {
+    Fuzz::require(place.text == "text" && isPointer(place.pointer), "a place is in the text");
+    Fuzz::require(place.begin <= place.end && place.end <= text.size(), "a place lies within the text");
+    const bool isBlank =
+        place.begin < place.end && std::string(" \t\n\r,:").find(text[place.begin]) != std::string::npos;
+    Fuzz::require(!isBlank || place.pointer.empty(), "a place begins with a value");
+}
+
+/// Compares what is told of a text with what happens when it is registered.
+void findFaults(ParametersEngine engine, const std::string& text) {
+    const std::map<std::string, std::string> batch{{"text", text}};
+    const auto faults = engine.findFaults(batch);
+    std::string first;
+    for (const Parameters::Fault& fault : faults) {
+        checkPlace(fault.place(), text);
+        Fuzz::require(!fault.root(), "a text alone has no consequences");
+        Fuzz::require(!fault.code().empty() && !fault.message().empty(), "a fault says what is wrong");
+        if (fault.otherPlace()) {
+            checkPlace(*fault.otherPlace(), text);
+        }
+        if (fault.isError() && first.empty()) {
+            first = fault.message();
+        }
+    }
+    ParametersEngine sound = engine;
+    Fuzz::require(sound.registerSoundSchemas(batch).size() == faults.size(), "registering tells the same faults");
+    const auto before = Fuzz::objectsIn(engine);
+    const std::string refusal = Fuzz::refusalOf([&] { engine.registerSchemas(batch); });
+    Fuzz::require(first == refusal, "the first error is the one that is thrown");
+    Fuzz::require(Fuzz::objectsIn(sound) == (refusal.empty() ? Fuzz::objectsIn(engine) : before),
+                  "what is sound is registered");
+}
+
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -70,5 +106,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(data, data + size);
     readAsParameter(catalogue, text);
     registerAndResolve(catalogue, text);
+    findFaults(catalogue, text);
     return 0;
 }
