@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <map>
 #include <stdexcept>
 #include <string>
 
@@ -115,6 +116,23 @@ std::string outcomeOf(const std::string& text) {
     EXPECT_LE(watch.bytes(), 100 * text.size() + 100'000);
     EXPECT_NE(engine.getSchema("x"), "");
     return {};
+}
+
+/// Returns the message of the first error that is told of a text, or nothing.
+std::string firstErrorIn(const std::string& text) {
+    const std::map<std::string, std::string> batch{{"t", text}};
+    const AllocationWatch watch;
+    std::string message;
+    for (const Parameters::Fault& fault : ParametersEngine().findFaults(batch)) {
+        EXPECT_LE(fault.place().begin, fault.place().end);
+        EXPECT_LE(fault.place().end, text.size());
+        if (fault.isError()) {
+            message = fault.message();
+            break;
+        }
+    }
+    EXPECT_LE(watch.bytes(), 400 * text.size() + 100'000); // a fault says more than the bytes that are wrong
+    return message;
 }
 
 class HostileText : public testing::TestWithParam<HostileInput> {};
@@ -251,6 +269,27 @@ const HostileInput brokenTexts[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Broken, HostileText, testing::ValuesIn(brokenTexts), Support::nameOfRow);
+
+// A fault is told with its place, so a text that is nothing but faults takes hundreds of times its bytes: the long
+// texts of above are not read here.
+class HostileFaults : public testing::TestWithParam<HostileInput> {};
+
+TEST_P(HostileFaults, BeginWithTheOneThatIsThrownOnASmallStackToo) {
+    const std::string text = GetParam().text();
+    std::string message = "(none)";
+    Ostra::runOnSmallStack([&] { message = firstErrorIn(text); });
+    EXPECT_EQ(message, GetParam().message);
+}
+
+INSTANTIATE_TEST_SUITE_P(Deep, HostileFaults, testing::ValuesIn(deepTexts), Support::nameOfRow);
+INSTANTIATE_TEST_SUITE_P(Broken, HostileFaults, testing::ValuesIn(brokenTexts), Support::nameOfRow);
+
+TEST(HostileFaults, OfTenThousandsAreToldInProportion) {
+    const std::string text = stringRangeOf(repeated("\"a\",", 20'000) + "\"a\"");
+    const AllocationWatch watch;
+    EXPECT_EQ(ParametersEngine().findFaults({{"t", text}}).size(), 20'000U);
+    EXPECT_LE(watch.bytes(), 1000 * text.size());
+}
 
 TEST(HostileTexts, KeepInvalidUtf8ByteForByte) {
     const std::string name = "\xff\xfe\xc3(\xe2\x82\xf0\x9f\x80\xc0\x80\xed\xa0\x80";

@@ -95,9 +95,8 @@ TEST(Registry, StaysInStepWhateverIsCommittedAndWithdrawn) {
                 registry.discardPending(withdrawn->first);
                 resolved.erase(withdrawn);
             }
-            commit(registry, [&](std::string_view typeId) {
-                return resolved.at(std::string(typeId)) = random() % 3 == 0;
-            });
+            commit(registry,
+                   [&](std::string_view typeId) { return resolved.at(std::string(typeId)) = random() % 3 == 0; });
             for (const auto& [typeId, isResolved] : resolved) {
                 expectState(registry, typeId, isResolved);
             }

@@ -81,8 +81,8 @@ TEST(Inspection, KeepsAllFaultsAndThenTellsWhatNothingReadsInTheOrderOfTheText) 
                    R"({"id":"count","value":"2","x":5},{"id":"name","value":""}],"w":6})"),
               (Lines{R"(non-empty-string-expected name/ at /constants/2/value "")",
                      R"(integer-expected count/ at /constants/1/value "2")", "member-unknown z/ at /z 1",
-                     R"(constant-unknown extra/ at /constants/0/id "extra")",
-                     "member-unknown x/ at /constants/1/x 5", "member-unknown w/ at /w 6"}));
+                     R"(constant-unknown extra/ at /constants/0/id "extra")", "member-unknown x/ at /constants/1/x 5",
+                     "member-unknown w/ at /w 6"}));
 }
 
 TEST(Inspection, SaysNothingOfWhatIsUnreadWhereReadingDidNotComeToItsEnd) {
@@ -104,9 +104,9 @@ TEST(Inspection, BeginsAnewWithEachText) {
 
 TEST(Inspection, CountsWarningsForNoErrors) {
     Inspection inspection;
-    EXPECT_EQ(read(with(R"({"id":"name","value":"N"},{"id":"units","value":[{"typeid":"u"},{"typeid":"u"}]})"),
-                   inspection),
-              (Lines{R"(typeid-repeated u/ at /constants/1/value/1/typeid "u" beside /constants/1/value/0/typeid "u")"}));
+    EXPECT_EQ(
+        read(with(R"({"id":"name","value":"N"},{"id":"units","value":[{"typeid":"u"},{"typeid":"u"}]})"), inspection),
+        (Lines{R"(typeid-repeated u/ at /constants/1/value/1/typeid "u" beside /constants/1/value/0/typeid "u")"}));
     EXPECT_FALSE(inspection.hasErrors());
 }
 

@@ -106,7 +106,8 @@ TEST(Places, OfAValueAloneAreItsOwn) {
 }
 
 TEST(Places, EndBehindNumbersWhateverFollows) {
-    EXPECT_THAT(spotsIn("[1 ,2\t,3\n,4\r,5]"), ElementsAre(" [1 ,2\t,3\n,4\r,5]", "/0 1", "/1 2", "/2 3", "/3 4", "/4 5"));
+    EXPECT_THAT(spotsIn("[1 ,2\t,3\n,4\r,5]"),
+                ElementsAre(" [1 ,2\t,3\n,4\r,5]", "/0 1", "/1 2", "/2 3", "/3 4", "/4 5"));
     EXPECT_THAT(spotsIn(R"({"a":1e+5})"), ElementsAre(R"( {"a":1e+5})", "/a 1e+5"));
 }
 
@@ -126,7 +127,9 @@ TEST(Places, EscapeTildesAndSlashes) {
 TEST(Places, KeepBytesBeyondAsciiAndUnescapeOthers) {
     const std::string text = "{\"\xc3\xa4\":\"\xe2\x82\xac\",\"\\u00e4b\\ud83d\\ude00\":\"\\u20ac\",\"\xff\":1}";
     EXPECT_THAT(spotsIn(text), ElementsAre(" " + text, "/\xc3\xa4 \"\xe2\x82\xac\"",
-                                           "/\xc3\xa4" "b\xf0\x9f\x98\x80 \"\\u20ac\"", "/\xff 1"));
+                                           "/\xc3\xa4"
+                                           "b\xf0\x9f\x98\x80 \"\\u20ac\"",
+                                           "/\xff 1"));
 }
 
 TEST(Places, HaveEmptyNamesAndNuls) {

@@ -23,8 +23,8 @@ Lines registered(UnitsEngine& engine, const std::string& text) {
     Lines lines;
     for (const Fault& fault : engine.registerSoundSchema(text)) {
         std::string line = fault.isError ? "" : "warning ";
-        line += std::string(fault.code) + " " + fault.name + "/" + fault.nearestName + " at " + fault.place.pointer + " " +
-                text.substr(fault.place.begin, fault.place.end - fault.place.begin);
+        line += std::string(fault.code) + " " + fault.name + "/" + fault.nearestName + " at " + fault.place.pointer +
+                " " + text.substr(fault.place.begin, fault.place.end - fault.place.begin);
         lines.push_back(fault.other ? line + " beside " + fault.other->pointer : line);
     }
     return lines;
@@ -75,22 +75,24 @@ TEST(RegisterSoundSchema, RefusesATypeIdThatIsTaken) {
     engine.registerSchema(unitText("u", "First"));
     EXPECT_EQ(registered(engine, unitText("u", "Second")), (Lines{R"(typeid-taken u/ at /typeid "u")"}));
     engine.resolveSchemas();
-    EXPECT_EQ(registered(engine, unitText("u", "")),
-              (Lines{R"(typeid-taken u/ at /typeid "u")", R"(non-empty-string-expected name/ at /constants/0/value "")"}));
+    EXPECT_EQ(
+        registered(engine, unitText("u", "")),
+        (Lines{R"(typeid-taken u/ at /typeid "u")", R"(non-empty-string-expected name/ at /constants/0/value "")"}));
     EXPECT_EQ(engine.getUnit("u").getName(), "First");
 }
 
 TEST(RegisterSoundSchema, RefusesWhatIsNoUnit) {
-    EXPECT_EQ(faultsOf(Support::groupText("g")),
-              (Lines{R"(base-unrecognized norvex.parameter:group-1.0.0/ at /inherits/0 "norvex.parameter:group-1.0.0")"}));
+    EXPECT_EQ(
+        faultsOf(Support::groupText("g")),
+        (Lines{R"(base-unrecognized norvex.parameter:group-1.0.0/ at /inherits/0 "norvex.parameter:group-1.0.0")"}));
     EXPECT_EQ(faultsOf("[]"), (Lines{"typeid-missing typeid/ at  []"}));
     EXPECT_EQ(faultsOf("1"), (Lines{"typeid-missing typeid/ at  1"}));
     EXPECT_EQ(faultsOf("{\"typeid\" \"u\"}"), (Lines{"json-syntax / at  \"u\"}"}));
 }
 
 TEST(RegisterSoundSchema, SaysWhatRegisterSchemaThrows) {
-    for (const std::string& text :
-         {unitText("u", ""), unitWith(""), unitWith("0"), Support::groupText("g"), std::string("?"), std::string("{}")}) {
+    for (const std::string& text : {unitText("u", ""), unitWith(""), unitWith("0"), Support::groupText("g"),
+                                    std::string("?"), std::string("{}")}) {
         std::string thrown;
         try {
             UnitsEngine().registerSchema(text);

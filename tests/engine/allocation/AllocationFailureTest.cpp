@@ -12,6 +12,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -43,6 +44,26 @@ const std::string added = "the typeid of whatever an operation adds to the engin
 
 std::string pictureOf(const ParametersEngine& engine) {
     return Support::pictureOf(engine, {discipline, group, spec, parameter, added, "pending", "pending spec"});
+}
+
+/// Texts that are sound, faulty in every way that differs inside, of units, and one that waits for another.
+const std::map<std::string, std::string> faultyBatch{
+    {"a", boolParameterText(added, group, spec)},
+    {"b", boolSpecText("a spec that names what is not there", "a discipline that is not there")},
+    {"c", unitText("a unit of the batch that is sound")},
+    {"d", unitText("a unit of the batch that is faulty", "")},
+    {"e", disciplineText(discipline, "Another")},
+    {"f", "? this text is no JSON, and longer than short"},
+    {"g", Support::schemaText("a group with a misspelt constant", "norvex.parameter:group-1.0.0",
+                              R"({"id": "Name", "value": 1, "more": {}}, {"id": "other"})")},
+    {"h", boolParameterText("a parameter that names a faulty spec", group, "a spec that names what is not there")}};
+
+Support::Answers answersOf(const std::vector<Parameters::Fault>& faults) {
+    Support::Answers answers;
+    for (const Parameters::Fault& fault : faults) {
+        answers.insert(fault.place().text + fault.place().pointer + " " + fault.message());
+    }
+    return answers;
 }
 
 /// Returns an engine with objects and pending schemas, and so many more objects: the tables grow at 8 and at 12
@@ -92,6 +113,11 @@ const Operation changes[] = {
     {"ResolveSchemas",
      [](ParametersEngine& engine) {
          engine.resolveSchemas();
+         return Answers();
+     }},
+    {"RegisterSoundSchemas",
+     [](ParametersEngine& engine) {
+         engine.registerSoundSchemas(faultyBatch);
          return Answers();
      }},
     {"RegisterDiscipline",
@@ -151,6 +177,7 @@ const Operation queries[] = {
          }
          return answers;
      }},
+    {"FindFaults", [](ParametersEngine& engine) { return answersOf(engine.findFaults(faultyBatch)); }},
     {"RefusedObject",
      [](ParametersEngine& engine) {
          Answers answers;
