@@ -213,7 +213,7 @@ TEST_P(FaultProperties, OfOneTextBeginWithWhatIsThrown) {
         }
         checkRoots(faults);
         triedTexts.add(1);
-        toldFaults.add(faults.size());
+        toldFaults.add(static_cast<long>(faults.size()));
     }
 }
 
@@ -247,7 +247,7 @@ TEST_P(FaultProperties, OfManyTextsKeepOutNothingButThose) {
         EXPECT_EQ(refusalBy(rest, texts), "");
         EXPECT_EQ(Support::pictureOf(sound), Support::pictureOf(rest));
         triedTexts.add(1);
-        toldFaults.add(faults.size());
+        toldFaults.add(static_cast<long>(faults.size()));
     }
 }
 

@@ -69,8 +69,8 @@ private:
     static void collect(Value& value, std::vector<Value*>& values) {
         values.push_back(&value);
         if (value.IsObject()) {
-            for (auto& member : value.GetObject()) {
-                collect(member.value, values);
+            for (rapidjson::SizeType member = 0; member < value.MemberCount(); ++member) {
+                collect(value.MemberBegin()[member].value, values);
             }
         } else if (value.IsArray()) {
             for (Value& element : value.GetArray()) {
