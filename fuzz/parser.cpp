@@ -1,5 +1,6 @@
 #include "Fuzz.h"
 
+#include "schema/ExceptionFactory.h"
 #include "schema/JSON.h"
 #include "schema/ParseOutcome.h"
 
