@@ -205,7 +205,7 @@ Stocks stocksOf(std::size_t size) {
 
 } // namespace
 
-const std::uint64_t fingerprint = 0xb6f9b8ebb563420e;
+const std::uint64_t fingerprint = 0x3408030b782a5382;
 
 Catalogue makeKindByKind(std::size_t size, Random& random) {
     const Stocks stocks = stocksOf(size);
