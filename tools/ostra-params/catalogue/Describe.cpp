@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -18,14 +19,21 @@ namespace {
 
 using namespace Parameters;
 
-Value named(const Taxon& taxon) { return {taxon.getName(), taxon.getTypeId()}; }
-Value named(const SpecCore& core) { return {core.getName(), core.getTypeId()}; }
-Value named(const Category& category) { return {category.getName(), category.getTypeId()}; }
-Value named(const Units::Unit& unit) { return {unit.getName(), unit.getTypeId()}; }
+template <class Named>
+Value named(const Named& object) {
+    return {object.getName(), object.getTypeId()};
+}
 
-std::string symbolOf(const Units::Unit& unit) {
+Value symbolOf(const Units::Unit& unit) {
     const std::string symbol = unit.getSymbol();
-    return symbol.empty() ? unit.getName() : symbol;
+    return {symbol.empty() ? unit.getName() : symbol};
+}
+
+/// Returns a property with a value for each of several things.
+Property listOf(std::string_view name, const auto& things, const auto& valueOf, bool isOwn = true) {
+    Property list{name, {}, isOwn};
+    std::ranges::transform(things, std::back_inserter(list.values), valueOf);
+    return list;
 }
 
 template <class Number>
@@ -45,11 +53,7 @@ Property limitsOf(const Range& range) {
 
 Property limitsOf(const StringRange& range) {
     if (const auto set = range.getSetStringRangeComponent()) {
-        Property allowed{"allowed values", {}};
-        for (std::string& value : set->getAllowedValues()) {
-            allowed.values.push_back({std::move(value)});
-        }
-        return allowed;
+        return listOf("allowed values", set->getAllowedValues(), [](const std::string& text) { return Value{text}; });
     }
     if (const auto regex = range.getRegexStringRangeComponent()) {
         return {"regular expression", {{regex->getRegex()}}};
@@ -61,7 +65,7 @@ Property limitsOf(const StringRange& range) {
 template <class Range>
 bool isInline(const Range& range) {
     const auto bases = Kinds::Of<Range>::info.bases();
-    return std::find(bases.begin(), bases.end(), range.getTypeId()) != bases.end();
+    return std::ranges::find(bases, range.getTypeId()) != bases.end();
 }
 
 void addRange(Object& object, const auto& range) {
@@ -82,12 +86,9 @@ void addText(Object& object, std::string_view name, std::string text) {
     }
 }
 
-Property choicesOf(const Enumeration& enumeration) {
-    Property choices{"choices", {}};
-    for (const auto& [id, number] : enumeration.getValues()) {
-        choices.values.push_back({fmt::format("{} = {}", id, number)});
-    }
-    return choices;
+Property choicesOf(const Enumeration& enumeration, bool isOwn) {
+    const auto choice = [](const auto& each) { return Value{fmt::format("{} = {}", each.first, each.second)}; };
+    return listOf("choices", enumeration.getValues(), choice, isOwn);
 }
 
 Property disciplineOf(const SpecCore& core, bool isOwn) { return {"discipline", {named(core.getDiscipline())}, isOwn}; }
@@ -127,7 +128,9 @@ Object describe(const Units::Unit& unit) {
 
 Object describe(const Taxon& taxon) { return {taxon.getTypeId(), taxon.getName(), {}}; }
 
-Object describe(const Enumeration& enumeration) { return {enumeration.getTypeId(), {}, {choicesOf(enumeration)}}; }
+Object describe(const Enumeration& enumeration) {
+    return {enumeration.getTypeId(), {}, {choicesOf(enumeration, true)}};
+}
 
 Object describe(const FloatRange& range) { return {range.getTypeId(), {}, {limitsOf(range)}}; }
 Object describe(const IntRange& range) { return {range.getTypeId(), {}, {limitsOf(range)}}; }
@@ -141,11 +144,7 @@ Object describe(const StringSpec& spec) { return describeSpec(spec.getCore()); }
 Object describe(const MeasurableSpec& spec) {
     Object object = describeSpec(spec.getCore());
     object.properties.push_back({"storage unit", {named(spec.getStorageUnit())}});
-    Property applicable{"applicable units", {}};
-    for (const Units::Unit& unit : spec.getApplicableUnits()) {
-        applicable.values.push_back(named(unit));
-    }
-    object.properties.push_back(std::move(applicable));
+    object.properties.push_back(listOf("applicable units", spec.getApplicableUnits(), named<Units::Unit>));
     return object;
 }
 
@@ -165,9 +164,7 @@ Object describe(const EnumerationParameter& parameter) {
     Object object = describeParameter(parameter.getCore(), parameter.getSpec().getCore());
     const Enumeration enumeration = parameter.getEnumeration();
     object.properties.push_back({"enumeration", {{"", enumeration.getTypeId()}}});
-    Property choices = choicesOf(enumeration);
-    choices.isOwn = false;
-    object.properties.push_back(std::move(choices));
+    object.properties.push_back(choicesOf(enumeration, false));
     return object;
 }
 
@@ -176,12 +173,8 @@ Object describe(const StringParameter& parameter) { return describeRanged(parame
 
 Object describe(const MeasurableParameter& parameter) {
     Object object = describeRanged(parameter);
-    object.properties.push_back({"stored in", {{symbolOf(parameter.getSpec().getStorageUnit())}}, false});
-    Property shown{"shown in", {}, false};
-    for (const Units::Unit& unit : parameter.getSpec().getApplicableUnits()) {
-        shown.values.push_back({symbolOf(unit)});
-    }
-    object.properties.push_back(std::move(shown));
+    object.properties.push_back({"stored in", {symbolOf(parameter.getSpec().getStorageUnit())}, false});
+    object.properties.push_back(listOf("shown in", parameter.getSpec().getApplicableUnits(), symbolOf, false));
     return object;
 }
 
@@ -202,11 +195,7 @@ Object describe(const Category& category) {
         object.properties.push_back({"parent", {{"", sub->getParentCategory()}}});
     } else if (const auto major = category.getMajorCategoryComponent()) {
         object.properties.push_back({"domain", {named(major->getDomain())}});
-        Property disciplines{"disciplines", {}};
-        for (const Taxon& discipline : major->getDisciplines()) {
-            disciplines.values.push_back(named(discipline));
-        }
-        object.properties.push_back(std::move(disciplines));
+        object.properties.push_back(listOf("disciplines", major->getDisciplines(), named<Taxon>));
     }
     return object;
 }

@@ -11,9 +11,10 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iomanip>
 #include <iterator>
 #include <optional>
-#include <tuple>
+#include <sstream>
 #include <utility>
 
 namespace Tool {
@@ -21,16 +22,7 @@ namespace Tool {
 namespace {
 
 /// Quotes a text so that Graphviz takes none of it for an escape of its own.
-std::string quoted(const std::string& text) {
-    std::string result = "\"";
-    for (const char character : printable(text)) {
-        if (character == '"' || character == '\\') {
-            result += '\\';
-        }
-        result += character;
-    }
-    return result + "\"";
-}
+std::string quoted(const std::string& text) { return (std::ostringstream() << std::quoted(printable(text))).str(); }
 
 /// Joins the lines of a label.
 std::string labelOf(const Graph::Node& node) {
@@ -61,11 +53,8 @@ bool run(std::vector<std::string> arguments) {
 } // namespace
 
 std::string toDot(Graph graph) {
-    std::sort(graph.nodes.begin(), graph.nodes.end(),
-              [](const auto& one, const auto& other) { return one.typeId < other.typeId; });
-    std::sort(graph.edges.begin(), graph.edges.end(), [](const auto& one, const auto& other) {
-        return std::tie(one.from, one.to, one.label) < std::tie(other.from, other.to, other.label);
-    });
+    std::ranges::sort(graph.nodes);
+    std::ranges::sort(graph.edges);
     std::string dot = "digraph dependencies {\n"
                       "    rankdir=LR\n"
                       "    node [shape=box, style=rounded, fontname=\"Helvetica\", fontsize=11]\n"

@@ -1,12 +1,13 @@
 #include "output/Json.h"
 
+#include <fmt/format.h>
 #include <rapidjson/memorystream.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/reader.h>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
-#include <string_view>
+#include <iterator>
 
 namespace Tool {
 
@@ -23,10 +24,13 @@ public:
 };
 
 template <class Writer>
-void rewrite(const std::string& json, Writer& writer) {
+std::string rewritten(const std::string& json) {
     constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
     rapidjson::MemoryStream stream(json.data(), json.size());
+    rapidjson::StringBuffer buffer;
+    RawNumberWriter<Writer> writer(buffer);
     rapidjson::Reader().Parse<flags>(stream, writer);
+    return {buffer.GetString(), buffer.GetSize()};
 }
 
 std::string dump(const Json& json, int indentation) {
@@ -41,35 +45,19 @@ std::string toTextInHtml(const Json& json) {
     std::string text;
     for (const char character : dump(json, -1)) {
         // Outside strings JSON has none of these; inside, their escapes mean the same.
-        switch (character) {
-        case '<':
-            text += "\\u003c";
-            break;
-        case '>':
-            text += "\\u003e";
-            break;
-        case '&':
-            text += "\\u0026";
-            break;
-        default:
+        if (character == '<' || character == '>' || character == '&') {
+            fmt::format_to(std::back_inserter(text), "\\u{:04x}", static_cast<unsigned>(character));
+        } else {
             text += character;
         }
     }
     return text;
 }
 
-std::string compact(const std::string& json) {
-    rapidjson::StringBuffer buffer;
-    RawNumberWriter<rapidjson::Writer<rapidjson::StringBuffer>> writer(buffer);
-    rewrite(json, writer);
-    return {buffer.GetString(), buffer.GetSize()};
-}
+std::string compact(const std::string& json) { return rewritten<rapidjson::Writer<rapidjson::StringBuffer>>(json); }
 
 std::string indented(const std::string& json) {
-    rapidjson::StringBuffer buffer;
-    RawNumberWriter<rapidjson::PrettyWriter<rapidjson::StringBuffer>> writer(buffer);
-    rewrite(json, writer);
-    return {buffer.GetString(), buffer.GetSize()};
+    return rewritten<rapidjson::PrettyWriter<rapidjson::StringBuffer>>(json);
 }
 
 } // namespace Tool
