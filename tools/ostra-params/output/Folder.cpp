@@ -9,8 +9,10 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdint>
 #include <iterator>
-#include <string_view>
+#include <map>
+#include <set>
 #include <system_error>
 
 namespace Tool {
@@ -41,12 +43,6 @@ private:
     fs::path path_;
 };
 
-void mustSucceed(const fs::path& path, const std::error_code& error) {
-    if (error) {
-        failToWrite(path, error);
-    }
-}
-
 bool isFromAnExport(const fs::path& folder, const fs::directory_entry& entry) {
     const fs::path relative = entry.path().lexically_relative(folder);
     const bool isInSection = sectionOfId(relative.begin()->string()) != nullptr;
@@ -66,23 +62,27 @@ void mustBeReplaceable(const fs::path& folder) {
                                           printable(entry->path().string())));
         }
     }
-    mustSucceed(folder, error);
+    if (error) {
+        failToWrite(folder, error);
+    }
 }
 
-} // namespace
-
-std::string FileNames::nameOf(const std::string& text) {
+/// Returns a file name for a text, the same on every platform: readable, and another one for each text. A name that
+/// would be too long ends in a digest of the text instead.
+std::string fileNameOf(const std::string& text, std::set<std::uint64_t>& digests) {
     constexpr std::size_t longest = 200;                                              // file systems take 255 bytes
     std::string name = percentEncoded(text, text.substr(0, 1) == "." ? "-_" : "-_."); // none is hidden
     if (name.size() <= longest) {
         return name;
     }
     std::uint64_t digest = digestOf(text);
-    while (!digests_.insert(digest).second) {
+    while (!digests.insert(digest).second) {
         ++digest; // texts of one digest can be made on purpose
     }
     return fmt::format("{}%{:016X}", name.substr(0, longest), digest);
 }
+
+} // namespace
 
 void replaceFolder(const fs::path& folder, const std::vector<FolderEntry>& entries) {
     std::error_code error;
@@ -95,23 +95,22 @@ void replaceFolder(const fs::path& folder, const std::vector<FolderEntry>& entri
                                                     : folder.parent_path(); // "folder/" names the folder
     const FolderAside aside(target);
     const fs::path fresh = aside.path() / "new";
-    fs::create_directory(fresh, error);
-    mustSucceed(target, error);
-    for (const FolderEntry& entry : entries) {
-        fs::create_directory(fresh / entry.folder, error);
-        mustSucceed(target, error);
-        writeFile(fresh / entry.folder / entry.file, entry.content);
+    const fs::path old = aside.path() / "old";
+    try {
+        fs::create_directory(fresh);
+        std::map<std::string, std::set<std::uint64_t>> digests; // of the names in each folder
+        for (const FolderEntry& entry : entries) {
+            fs::create_directory(fresh / entry.folder);
+            writeTo(fresh / entry.folder / (fileNameOf(entry.name, digests[entry.folder]) + ".json"), entry.content);
+        }
+        if (isThere) {
+            fs::rename(target, old);
+        }
+        fs::rename(fresh, target);
+    } catch (const fs::filesystem_error& failure) {
+        fs::rename(old, target, error); // if it was moved; the first reason is the one to tell
+        failToWrite(target, failure.code());
     }
-    if (isThere) {
-        fs::rename(target, aside.path() / "old", error);
-        mustSucceed(target, error);
-    }
-    fs::rename(fresh, target, error);
-    if (error && isThere) {
-        std::error_code ignored; // the first reason is the one to tell
-        fs::rename(aside.path() / "old", target, ignored);
-    }
-    mustSucceed(target, error);
 }
 
 } // namespace Tool

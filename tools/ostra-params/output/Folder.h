@@ -1,29 +1,16 @@
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
-#include <set>
 #include <string>
 #include <vector>
 
 namespace Tool {
 
-/// A file to be written, one folder down.
+/// A .json file to be written, one folder down.
 struct FolderEntry {
     std::string folder;
-    std::string file;
+    std::string name; ///< Any text, another one for each file.
     std::string content;
-};
-
-/// The names of the files in one folder, the same on every platform.
-class FileNames {
-public:
-    /// Returns a file name for a text: readable, and another one for each text. A name that would be too long ends in a
-    /// digest of the text instead.
-    std::string nameOf(const std::string& text);
-
-private:
-    std::set<std::uint64_t> digests_;
 };
 
 /// Replaces a folder by one that holds these files and nothing else; the old one stays until the new one is whole.

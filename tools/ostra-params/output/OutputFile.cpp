@@ -85,7 +85,11 @@ void OutputFile::commit() {
     aside_.clear();
 }
 
-void writeFile(const fs::path& file, std::string_view content) {
+void writeTo(const fs::path& file, std::string_view content) {
+    if (file == standardOutput) {
+        print(content);
+        return;
+    }
     OutputFile output(file);
     output.write(content);
     output.commit();

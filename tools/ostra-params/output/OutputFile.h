@@ -41,9 +41,12 @@ private:
     std::filesystem::path aside_;
 };
 
-/// Writes a file as a whole, or not at all.
+/// What names the standard output among paths.
+constexpr std::string_view standardOutput = "-";
+
+/// Writes a file as a whole, or not at all; or to standard output.
 /// @throws OutputError
-void writeFile(const std::filesystem::path& file, std::string_view content);
+void writeTo(const std::filesystem::path& file, std::string_view content);
 
 /// Writes to standard output.
 /// @throws OutputError

@@ -9,6 +9,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <iterator>
+#include <map>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -32,56 +34,66 @@ Exit codes:
   1  they differ
   2  one of them cannot be read, or has faults)";
 
+/// A property with its values on both sides; those of one that is not there are none.
 struct PropertyChange {
-    std::string name;
-    std::string before;
-    std::string after;
+    std::string_view name;
+    std::vector<std::string> before = {};
+    std::vector<std::string> after = {};
 };
 
 struct Change {
-    const Object* object; ///< As it is now.
-    std::vector<PropertyChange> properties;
+    char sign;
+    const Object* object; ///< As it is now, or was.
+    std::vector<PropertyChange> properties = {};
 };
 
-/// What changed from one catalogue to another, each list in the order of its objects.
-struct Difference {
-    std::vector<const Object*> added;
-    std::vector<const Object*> removed;
-    std::vector<Change> changed;
+/// What the signs of changes stand for, in the order of the lists.
+const std::map<char, const char*> words{{'+', "added"}, {'-', "removed"}, {'~', "changed"}};
 
-    bool isNone() const { return added.empty() && removed.empty() && changed.empty(); }
-};
-
-struct Entry {
-    std::string_view name;
-    std::vector<std::string> values;
-};
-
-/// What an object says, its kind and name among it. What other objects say changes there, not here.
-std::vector<Entry> entriesOf(const Object& object) {
-    std::vector<Entry> entries{{"kind", {std::string(object.section->label)}}, {"name", {object.name}}};
+/// Adds what an object says, its kind and name among it, to one side. What other objects say changes there, not here.
+void addSide(std::vector<PropertyChange>& changes, std::vector<std::string> PropertyChange::*side,
+             const Object& object) {
+    const auto valuesOf = [&](std::string_view name) -> std::vector<std::string>& {
+        const auto found = std::ranges::find(changes, name, &PropertyChange::name);
+        return (found == changes.end() ? changes.emplace_back(PropertyChange{name}) : *found).*side;
+    };
+    valuesOf("kind") = {std::string(object.section->label)};
+    valuesOf("name") = {object.name};
     for (const Property& property : object.properties) {
-        Entry entry{property.name, {}};
-        for (const Value& value : property.values) {
-            entry.values.push_back(value.identity());
-        }
         if (property.isOwn) {
-            entries.push_back(std::move(entry));
+            std::ranges::transform(property.values, std::back_inserter(valuesOf(property.name)), &Value::identity);
         }
     }
-    return entries;
 }
 
-/// Takes out the values of a property; there are none of one that is not there.
-std::vector<std::string> take(std::vector<Entry>& entries, std::string_view name) {
-    const auto found =
-        std::find_if(entries.begin(), entries.end(), [&](const Entry& entry) { return entry.name == name; });
-    if (found == entries.end()) {
-        return {};
+std::vector<PropertyChange> changesBetween(const Object& before, const Object& after) {
+    std::vector<PropertyChange> changes;
+    addSide(changes, &PropertyChange::after, after);
+    addSide(changes, &PropertyChange::before, before);
+    std::erase_if(changes, [](const PropertyChange& change) { return change.before == change.after; });
+    return changes;
+}
+
+/// Compares two catalogues, which must outlive the result: what was removed, added and changed, each in the order of
+/// the objects.
+std::vector<Change> compare(const Catalogue& before, const Catalogue& after) {
+    std::vector<Change> changes;
+    for (const Object& object : before.objects()) {
+        if (after.find(object.typeId) == nullptr) {
+            changes.push_back({'-', &object});
+        }
     }
-    std::vector<std::string> values = std::move(found->values);
-    entries.erase(found);
-    return values;
+    std::vector<Change> changed;
+    for (const Object& object : after.objects()) {
+        const Object* old = before.find(object.typeId);
+        if (old == nullptr) {
+            changes.push_back({'+', &object});
+        } else if (auto properties = changesBetween(*old, object); !properties.empty()) {
+            changed.push_back({'~', &object, std::move(properties)});
+        }
+    }
+    std::ranges::move(changed, std::back_inserter(changes));
+    return changes;
 }
 
 std::string textOf(const std::vector<std::string>& values) {
@@ -92,89 +104,30 @@ std::string textOf(const std::vector<std::string>& values) {
     return values.empty() ? "none" : text;
 }
 
-std::vector<PropertyChange> changesBetween(const Object& before, const Object& after) {
-    std::vector<PropertyChange> changes;
-    std::vector<Entry> olds = entriesOf(before);
-    std::vector<Entry> news = entriesOf(after);
-    const auto compareProperty = [&](std::string_view name) {
-        const std::vector<std::string> oldValues = take(olds, name);
-        const std::vector<std::string> newValues = take(news, name);
-        if (oldValues != newValues) {
-            changes.push_back({std::string(name), textOf(oldValues), textOf(newValues)});
-        }
-    };
-    while (!news.empty()) {
-        compareProperty(news.front().name);
-    }
-    while (!olds.empty()) {
-        compareProperty(olds.front().name);
-    }
-    return changes;
-}
-
-/// Compares two catalogues, which must outlive the result.
-Difference compare(const Catalogue& before, const Catalogue& after) {
-    Difference difference;
-    for (const Object& object : before.objects()) {
-        if (after.find(object.typeId) == nullptr) {
-            difference.removed.push_back(&object);
-        }
-    }
-    for (const Object& object : after.objects()) {
-        const Object* old = before.find(object.typeId);
-        if (old == nullptr) {
-            difference.added.push_back(&object);
-        } else if (auto changes = changesBetween(*old, object); !changes.empty()) {
-            difference.changed.push_back({&object, std::move(changes)});
-        }
-    }
-    return difference;
-}
-
-std::string lineOf(char sign, const Object& object) {
-    return fmt::format("{} {}  {}{}\n", sign, printable(object.typeId), object.section->label,
-                       object.name.empty() ? "" : "  " + printable(object.name));
-}
-
-std::string asText(const Difference& difference) {
+std::string asText(const std::vector<Change>& changes) {
     std::string text;
-    for (const Object* object : difference.removed) {
-        text += lineOf('-', *object);
-    }
-    for (const Object* object : difference.added) {
-        text += lineOf('+', *object);
-    }
-    for (const Change& change : difference.changed) {
-        text += lineOf('~', *change.object);
-        for (const PropertyChange& property : change.properties) {
-            text +=
-                fmt::format("    {}: {} -> {}\n", property.name, printable(property.before), printable(property.after));
+    for (const auto& [sign, object, properties] : changes) {
+        text += fmt::format("{} {}  {}{}\n", sign, printable(object->typeId), object->section->label,
+                            object->name.empty() ? "" : "  " + printable(object->name));
+        for (const auto& [name, before, after] : properties) {
+            text += fmt::format("    {}: {} -> {}\n", name, printable(textOf(before)), printable(textOf(after)));
         }
     }
-    return text + fmt::format("{} added, {} removed, {} changed\n", difference.added.size(), difference.removed.size(),
-                              difference.changed.size());
+    const auto count = [&](char sign) { return std::ranges::count(changes, sign, &Change::sign); };
+    return text + fmt::format("{} added, {} removed, {} changed\n", count('+'), count('-'), count('~'));
 }
 
-Json asJson(const Object& object) {
-    return {{"typeid", object.typeId}, {"kind", object.section->id}, {"name", object.name}};
-}
-
-std::string asJson(const Difference& difference) {
-    Json json{{"added", Json::array()}, {"removed", Json::array()}, {"changed", Json::array()}};
-    for (const Object* object : difference.added) {
-        json["added"].push_back(asJson(*object));
+std::string asJson(const std::vector<Change>& changes) {
+    Json json;
+    for (const auto& [sign, word] : words) {
+        json[word] = Json::array();
     }
-    for (const Object* object : difference.removed) {
-        json["removed"].push_back(asJson(*object));
-    }
-    for (const Change& change : difference.changed) {
-        Json entry = asJson(*change.object);
-        entry["properties"] = Json::array();
-        for (const PropertyChange& property : change.properties) {
-            entry["properties"].push_back(
-                {{"name", property.name}, {"before", property.before}, {"after", property.after}});
+    for (const auto& [sign, object, properties] : changes) {
+        Json entry{{"typeid", object->typeId}, {"kind", object->section->id}, {"name", object->name}};
+        for (const auto& [name, before, after] : properties) {
+            entry["properties"].push_back({{"name", name}, {"before", textOf(before)}, {"after", textOf(after)}});
         }
-        json["changed"].push_back(std::move(entry));
+        json[words.at(sign)].push_back(std::move(entry));
     }
     return toText(json);
 }
@@ -185,14 +138,13 @@ ExitCode diff(const Options& options) {
     }
     const Catalogue before({options.oldPath});
     const Catalogue after({options.newPath});
-    const bool isOldSound = !printFaults(before);
-    const bool isNewSound = !printFaults(after);
-    if (!isOldSound || !isNewSound) { // what is left out as faulty would seem to be removed
+    const bool isOldFaulty = printFaults(before);
+    if (printFaults(after) || isOldFaulty) { // what is left out as faulty would seem to be removed
         return Unusable;
     }
-    const Difference difference = compare(before, after);
-    print(options.isJson ? asJson(difference) : asText(difference));
-    return difference.isNone() ? Good : Bad;
+    const std::vector<Change> changes = compare(before, after);
+    print(options.isJson ? asJson(changes) : asText(changes));
+    return changes.empty() ? Good : Bad;
 }
 
 } // namespace
@@ -200,11 +152,8 @@ ExitCode diff(const Options& options) {
 Action addDiff(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("diff", "Tell what changed from one catalogue to another");
-    verb->add_option("OLD", options->oldPath, "The one catalogue: a file, a folder, or - for standard input")
-        ->required()
-        ->check(refuseEmpty)
-        ->type_name("");
-    verb->add_option("NEW", options->newPath, "The other one")->required()->check(refuseEmpty)->type_name("");
+    addRequired(*verb, "OLD", options->oldPath, "The one catalogue: a file, a folder, or - for standard input", "");
+    addRequired(*verb, "NEW", options->newPath, "The other one", "");
     verb->add_flag("--json", options->isJson, "Print a JSON object");
     verb->footer(details);
     return [options] { return diff(*options); };

@@ -9,9 +9,7 @@
 #include <fmt/format.h>
 
 #include <filesystem>
-#include <map>
 #include <memory>
-#include <string_view>
 
 namespace Tool {
 
@@ -38,10 +36,8 @@ std::string lines(const Catalogue& catalogue) {
 
 std::vector<FolderEntry> files(const Catalogue& catalogue) {
     std::vector<FolderEntry> entries;
-    std::map<std::string_view, FileNames> names;
     for (const Object& object : catalogue.objects()) {
-        entries.push_back({std::string(object.section->id), names[object.section->id].nameOf(object.typeId) + ".json",
-                           catalogue.schemaOf(object) + "\n"});
+        entries.push_back({std::string(object.section->id), object.typeId, catalogue.schemaOf(object) + "\n"});
     }
     return entries;
 }
@@ -54,7 +50,7 @@ bool isFolder(const std::string& output) {
                                       "do folders, of any other name.",
                                       printable(output)));
     }
-    return path.extension() != ".ndjson";
+    return output != standardOutput && path.extension() != ".ndjson";
 }
 
 ExitCode exportCatalogue(const Options& options) {
@@ -62,12 +58,10 @@ ExitCode exportCatalogue(const Options& options) {
     if (printFaults(catalogue, encodingInvalid)) {
         return Bad;
     }
-    if (options.output == "-") {
-        print(lines(catalogue));
-    } else if (isFolder(options.output)) {
+    if (isFolder(options.output)) {
         replaceFolder(options.output, files(catalogue));
     } else {
-        writeFile(options.output, lines(catalogue));
+        writeTo(options.output, lines(catalogue));
     }
     return Good;
 }
@@ -78,12 +72,10 @@ Action addExport(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("export", "Write the schemas of a catalogue in their normal form");
     addPaths(*verb, options->paths);
-    verb->add_option("-o,--output", options->output,
-                     "A file that ends in .ndjson gets one schema a line, -\nstands for standard output, and anything "
-                     "else is a folder\nthat gets one file each")
-        ->required()
-        ->check(refuseEmpty)
-        ->type_name("FILE|DIR");
+    addRequired(*verb, "-o,--output", options->output,
+                "A file that ends in .ndjson gets one schema a line, -\nstands for standard output, and anything "
+                "else is a folder\nthat gets one file each",
+                "FILE|DIR");
     verb->footer(details);
     return [options] { return exportCatalogue(*options); };
 }

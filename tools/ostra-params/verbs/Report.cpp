@@ -68,12 +68,7 @@ std::string pageOf(const Catalogue& catalogue) {
 
 ExitCode report(const Options& options) {
     const Catalogue catalogue(options.paths);
-    const std::string page = pageOf(catalogue);
-    if (options.output == "-") {
-        print(page);
-    } else {
-        writeFile(options.output, page);
-    }
+    writeTo(options.output, pageOf(catalogue));
     return warnOfFaults(catalogue);
 }
 
@@ -83,10 +78,7 @@ Action addReport(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("report", "Write a page to browse a catalogue with, in one file");
     addPaths(*verb, options->paths);
-    verb->add_option("-o,--output", options->output, "The page, an HTML file; - stands for standard output")
-        ->required()
-        ->check(refuseEmpty)
-        ->type_name("FILE");
+    addRequired(*verb, "-o,--output", options->output, "The page, an HTML file; - stands for standard output", "FILE");
     verb->footer("The page needs no network. What is faulty is left out of it, and listed.");
     return [options] { return report(*options); };
 }

@@ -42,6 +42,11 @@ void addOptionalPaths(CLI::App& verb, std::vector<std::string>& paths) {
     addPathOption(verb, paths, "; the working folder\nwhen none is given");
 }
 
+void addRequired(CLI::App& verb, const std::string& name, std::string& value, const std::string& help,
+                 const std::string& type) {
+    verb.add_option(name, value, help)->required()->check(refuseEmpty)->type_name(type);
+}
+
 std::string refuseEmpty(const std::string& argument) { return argument.empty() ? "must not be empty" : ""; }
 
 std::string kindIds() {
@@ -75,10 +80,7 @@ bool printFaults(const Catalogue& catalogue, std::string_view warningCode) {
 }
 
 void addTypeId(CLI::App& verb, std::string& typeId) {
-    verb.add_option("TYPEID", typeId, "The typeid of an object, or a part that no other has")
-        ->required()
-        ->check(refuseEmpty)
-        ->type_name("");
+    addRequired(verb, "TYPEID", typeId, "The typeid of an object, or a part that no other has", "");
 }
 
 const Object& findObject(const Catalogue& catalogue, const std::string& text) {

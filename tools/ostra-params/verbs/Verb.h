@@ -42,6 +42,10 @@ void addPaths(CLI::App& verb, std::vector<std::string>& paths);
 void addOptionalPaths(CLI::App& verb, std::vector<std::string>& paths);
 /// @}
 
+/// Adds an argument that must be given, and not be empty, to a verb.
+void addRequired(CLI::App& verb, const std::string& name, std::string& value, const std::string& help,
+                 const std::string& type);
+
 /// Returns what is wrong with an argument: that it is empty. A check for options of paths and typeids.
 std::string refuseEmpty(const std::string& argument);
 
