@@ -21,46 +21,18 @@ struct Options {
     std::string svgFile;
 };
 
-/// What can be reached from an object along its dependencies, or against them.
+/// What can be reached from an object along its dependencies, or against them: as a tree and as a graph.
 class Walk {
 public:
-    Walk(const Catalogue& catalogue, bool isReverse) : catalogue_(catalogue), isReverse_(isReverse) {}
-
-    std::string tree(const Object& root) {
-        text_ = labelOf(root.typeId) + "\n";
+    Walk(const Catalogue& catalogue, const Object& root, bool isReverse)
+        : catalogue_(catalogue), isReverse_(isReverse), tree_(labelOf(root.typeId) + "\n") {
         addBranches(root.typeId, "");
-        return text_;
     }
 
-    Graph graph(const Object& root) {
-        std::vector<std::string> open{root.typeId};
-        while (!open.empty()) {
-            const std::string typeId = std::move(open.back());
-            open.pop_back();
-            if (!seen_.insert(typeId).second) {
-                continue;
-            }
-            const Object* object = catalogue_.find(typeId);
-            graph_.nodes.push_back({typeId, object == nullptr ? "" : object->name,
-                                    object == nullptr ? "built in" : std::string(object->section->label)});
-            for (const auto& [property, other] : linksOf(typeId)) {
-                graph_.edges.push_back(
-                    {isReverse_ ? other : typeId, isReverse_ ? typeId : other, std::string(property)});
-                open.push_back(other);
-            }
-        }
-        return std::move(graph_);
-    }
+    const std::string& tree() const { return tree_; }
+    const Graph& graph() const { return graph_; }
 
 private:
-    std::vector<Link> linksOf(const std::string& typeId) const {
-        const Object* object = catalogue_.find(typeId);
-        if (isReverse_) {
-            return catalogue_.dependents(typeId);
-        }
-        return object == nullptr ? std::vector<Link>() : catalogue_.dependencies(*object);
-    }
-
     std::string labelOf(const std::string& typeId) const {
         const std::string name = catalogue_.nameOf(typeId);
         return printable(typeId) + (name.empty() ? "" : "  " + printable(name)) +
@@ -69,16 +41,22 @@ private:
 
     /// Catalogues are not deep: a parameter, its spec, a category, its parent, a domain.
     void addBranches(const std::string& typeId, const std::string& indentation) {
-        const std::vector<Link> links = linksOf(typeId);
-        const bool isRepeated = !seen_.insert(typeId).second && !links.empty();
-        if (isRepeated) {
-            text_.insert(text_.size() - 1, "  (see above)");
+        const Object* object = catalogue_.find(typeId);
+        const std::vector<Link> links = isReverse_          ? catalogue_.dependents(typeId)
+                                        : object == nullptr ? std::vector<Link>()
+                                                            : catalogue_.dependencies(*object);
+        if (!seen_.insert(typeId).second) {
+            tree_.insert(tree_.size() - 1, links.empty() ? "" : "  (see above)");
             return;
         }
+        graph_.nodes.push_back(
+            {typeId, catalogue_.nameOf(typeId), object == nullptr ? "built in" : std::string(object->section->label)});
         for (const Link& link : links) {
             const bool isLast = &link == &links.back();
-            text_ += indentation + (isLast ? "\u2514\u2500 " : "\u251C\u2500 ");
-            text_ += std::string(link.property) + ": " + labelOf(link.typeId) + "\n";
+            tree_ += indentation + (isLast ? "\u2514\u2500 " : "\u251C\u2500 ");
+            tree_ += std::string(link.property) + ": " + labelOf(link.typeId) + "\n";
+            graph_.edges.push_back(
+                {isReverse_ ? link.typeId : typeId, isReverse_ ? typeId : link.typeId, std::string(link.property)});
             addBranches(link.typeId, indentation + (isLast ? "   " : "\u2502  "));
         }
     }
@@ -86,18 +64,17 @@ private:
     const Catalogue& catalogue_;
     bool isReverse_;
     std::set<std::string> seen_;
-    std::string text_;
+    std::string tree_;
     Graph graph_;
 };
 
 ExitCode deps(const Options& options) {
     const Catalogue catalogue(options.paths);
-    const Object& object = findObject(catalogue, options.typeId);
-    Walk walk(catalogue, options.isReverse);
+    const Walk walk(catalogue, findObject(catalogue, options.typeId), options.isReverse);
     if (!options.svgFile.empty()) {
-        writeSvg(walk.graph(object), options.svgFile);
+        writeSvg(walk.graph(), options.svgFile);
     } else {
-        print(options.isDot ? toDot(walk.graph(object)) : walk.tree(object));
+        print(options.isDot ? toDot(walk.graph()) : walk.tree());
     }
     return warnOfFaults(catalogue);
 }
