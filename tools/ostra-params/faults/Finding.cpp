@@ -39,8 +39,7 @@ std::vector<Finding> ownFindings(const Input& input) {
                                 .hint = "save the file in UTF-8."});
         }
     }
-    std::stable_sort(findings.begin(), findings.end(),
-                     [](const Finding& one, const Finding& other) { return one.source < other.source; });
+    std::ranges::stable_sort(findings, {}, &Finding::source);
     return findings;
 }
 
@@ -48,7 +47,7 @@ std::vector<Finding> ownFindings(const Input& input) {
 
 std::vector<Finding> findingsOf(const Input& input, const Headings& headings, const std::vector<Fault>& faults) {
     std::vector<Finding> findings;
-    Hints hints(input, headings, faults);
+    std::vector<std::string> hints = hintsFor(input, headings, faults);
     Positions positions;
     Positions others; // which lie in other texts
     const auto place = [&](Positions& in, const Fault::Place& where) {
@@ -56,21 +55,23 @@ std::vector<Finding> findingsOf(const Input& input, const Headings& headings, co
         found.pointer = where.pointer;
         return found;
     };
-    for (const Fault& fault : faults) {
+    for (std::size_t i = 0; i < faults.size(); ++i) {
+        const Fault& fault = faults[i];
+        const std::size_t number = Input::numberOf(fault.place().text);
         if (fault.code() == "inherits-missing" && !findings.empty() && findings.back().code == "typeid-missing" &&
-            findings.back().source == Input::numberOf(fault.place().text)) {
+            findings.back().source == number) {
             continue; // it is no schema, and once is enough
         }
         Finding finding{.code = std::string(fault.code()),
                         .isError = fault.isError(),
                         .message = fault.message(),
-                        .source = Input::numberOf(fault.place().text),
+                        .source = number,
                         .place = place(positions, fault.place()),
                         .typeId = fault.typeId(),
                         .name = fault.name(),
                         .expected = std::string(fault.expectedKind()),
                         .nearest = fault.nearestName(),
-                        .hint = hints.hintFor(fault)};
+                        .hint = std::move(hints[i])};
         if (fault.otherPlace()) {
             finding.other = place(others, *fault.otherPlace());
         }
@@ -93,9 +94,8 @@ std::vector<Finding> findingsOf(const Input& input, const Headings& headings, co
 
 void addTo(std::vector<Finding>& findings, std::vector<Finding> more) {
     const auto middle = static_cast<std::ptrdiff_t>(findings.size());
-    findings.insert(findings.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
-    std::inplace_merge(findings.begin(), findings.begin() + middle, findings.end(),
-                       [](const Finding& one, const Finding& other) { return one.source < other.source; });
+    std::ranges::move(more, std::back_inserter(findings));
+    std::ranges::inplace_merge(findings, findings.begin() + middle, {}, &Finding::source);
 }
 
 } // namespace Tool

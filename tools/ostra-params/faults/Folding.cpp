@@ -4,13 +4,17 @@
 
 #include <fmt/format.h>
 
-#include <map>
 #include <unordered_map>
-#include <utility>
 
 namespace Tool {
 
 namespace {
+
+/// Findings that are alike.
+struct Group {
+    std::size_t shown = 0;
+    std::size_t last = 0; ///< The fold of the last one that is shown.
+};
 
 /// What is alike has one of these; nothing is like an error that has none.
 std::string likenessOf(const Finding& finding) {
@@ -46,30 +50,27 @@ std::vector<Fold> fold(const std::vector<Finding>& findings) {
     }
     std::vector<Fold> folds;
     std::unordered_map<const Finding*, std::size_t> foldOf;
-    std::unordered_map<std::string, std::pair<std::size_t, std::size_t>> alike; // how many, and the last one's fold
+    std::unordered_map<std::string, Group> alike;
     for (const Finding& finding : findings) {
         if (&rootOf(finding, firstErrors) != &finding) {
             continue;
         }
         const std::string likeness = likenessOf(finding);
-        auto* group = &alike[likeness];
-        std::size_t most = finding.isError ? 1 : mostWarnings;
-        if (!finding.isError && group->first == 0) { // the first of its name
-            group = &alike[finding.code];
-            most = mostOfOneCode;
-        }
-        const bool isShown = likeness.empty() || group->first < most;
-        if (isShown) {
-            alike[likeness] = {alike[likeness].first + 1, folds.size()};
+        Group& ofName = alike[likeness];
+        Group& ofCode = finding.isError ? ofName : alike[finding.code];
+        const bool isFirst = ofName.shown == 0;
+        const std::size_t most = finding.isError ? 1 : isFirst ? mostOfOneCode : mostWarnings;
+        Group& group = isFirst ? ofCode : ofName;
+        if (likeness.empty() || group.shown < most) {
+            ofCode.shown += finding.isError ? 0 : 1;
+            ++ofName.shown;
+            ofCode.last = ofName.last = folds.size();
             folds.push_back({&finding});
         } else {
-            ++folds[group->second].alike;
-            folds[group->second].folded.push_back(&finding);
+            ++folds[group.last].alike;
+            folds[group.last].folded.push_back(&finding);
         }
-        if (isShown && !finding.isError) {
-            alike[finding.code] = {alike[finding.code].first + 1, folds.size() - 1};
-        }
-        foldOf.emplace(&finding, isShown ? folds.size() - 1 : group->second);
+        foldOf.emplace(&finding, group.last);
     }
     for (const Finding& finding : findings) {
         if (const Finding& root = rootOf(finding, firstErrors); &root != &finding) {

@@ -1,11 +1,17 @@
 #include "faults/Hints.h"
 
+#include "catalogue/Sections.h"
 #include "output/Text.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <array>
+#include <iterator>
+#include <map>
+#include <optional>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
 
 namespace Tool {
 
@@ -14,26 +20,17 @@ namespace {
 using Parameters::Fault;
 
 /// What names something that is not there. Its name is that of the missing.
-constexpr std::array missing{"dependency-missing", "unit-missing", "parent-not-major"};
+constexpr std::string_view missing = " dependency-missing unit-missing parent-not-major ";
 
 /// Messages that say what is expected, but not where.
-constexpr std::array nameless{"string-expected",
-                              "non-empty-string-expected",
-                              "boolean-expected",
-                              "integer-expected",
-                              "number-expected",
-                              "array-expected",
-                              "array-of-strings-expected",
-                              "array-of-unique-strings-expected",
-                              "array-of-typed-values-expected",
-                              "definition-value-missing",
-                              "typed-value-object-expected",
-                              "typed-value-typeid-only",
-                              "typed-value-typeid-missing",
-                              "typed-value-typeid-empty"};
+constexpr std::string_view nameless =
+    " string-expected non-empty-string-expected boolean-expected integer-expected number-expected array-expected "
+    "array-of-strings-expected array-of-unique-strings-expected array-of-typed-values-expected "
+    "definition-value-missing typed-value-object-expected typed-value-typeid-only typed-value-typeid-missing "
+    "typed-value-typeid-empty ";
 
-bool isOneOf(std::string_view code, const auto& codes) {
-    return std::find(codes.begin(), codes.end(), code) != codes.end();
+bool isOneOf(std::string_view code, std::string_view codes) {
+    return codes.find(fmt::format(" {} ", code)) != codes.npos;
 }
 
 /// A known name that is meant: one nearly the same or, of a name without a version, the same with one.
@@ -58,140 +55,152 @@ std::string forMisspelt(const Fault& fault) {
                        question.empty() ? fmt::format("did you mean {}?", fault.name()) : question);
 }
 
-} // namespace
-
-Hints::Hints(const Input& input, const Headings& headings, const std::vector<Fault>& faults)
-    : input_(input), headings_(headings) {
-    std::unordered_set<std::string_view> faulty;
-    for (const Fault& fault : faults) {
-        if (isOneOf(fault.code(), missing)) {
-            faulty.insert(fault.typeId());
+/// Says what may help to mend each fault.
+class Hints {
+public:
+    Hints(const Input& input, const Headings& headings, const std::vector<Fault>& faults)
+        : input_(input), headings_(headings) {
+        std::unordered_set<std::string_view> faulty;
+        for (const Fault& fault : faults) {
+            if (isOneOf(fault.code(), missing)) {
+                faulty.insert(fault.typeId());
+            }
+            if (fault.code() == "property-unknown") {
+                properties_.insert(fault.place().text + fault.name());
+            }
         }
-        if (fault.code() == "property-unknown") {
-            properties_.insert(fault.place().text + fault.name());
-        }
-    }
-    for (const Fault& fault : faults) {
-        if (isOneOf(fault.code(), missing) && faulty.contains(fault.name())) {
-            naming_.emplace(fault.typeId(), &fault);
-        }
-    }
-}
-
-std::string Hints::hintFor(const Fault& fault) {
-    const std::string& text = *input_.sources()[Input::numberOf(fault.place().text)].text;
-    if (fault.code() == "json-syntax") {
-        return std::string(slipAt(text, fault.place().begin));
-    }
-    if (!fault.nearestName().empty()) {
-        return forMisspelt(fault);
-    }
-    if (fault.code() == "constant-undefined" && properties_.contains(fault.place().text + fault.name())) {
-        return fmt::format("{} stands among the properties.", fault.name());
-    }
-    if (fault.code() == "typeid-missing") {
-        const std::size_t begin = text.find_first_not_of(" \t\r\n");
-        return text[begin] == '[' ? "a text is one schema, no list of them."
-               : headings_.of(Input::numberOf(fault.place().text)).base.empty()
-                   ? "this is no schema; it need not be here."
-                   : "";
-    }
-    if (fault.code() == "base-unrecognized") {
-        return forBase(headings_.of(Input::numberOf(fault.place().text)).base);
-    }
-    if (fault.code() == "typeid-taken") {
-        return fault.otherPlace() ? fmt::format("it is that of {}.", beginningOf(*fault.otherPlace()))
-                                  : "it contains a built-in identifier.";
-    }
-    if (isOneOf(fault.code(), missing)) {
-        return forMissing(fault);
-    }
-    if (isOneOf(fault.code(), nameless) && !fault.name().empty()) {
-        return fmt::format("this is about {}.", fault.name());
-    }
-    return {};
-}
-
-std::string Hints::forBase(const std::string& base) const {
-    if (headings_.find(base)) {
-        return "only built-in bases can be inherited, and this is another schema.";
-    }
-    std::vector<std::string_view> bases;
-    for (const Section& section : sections()) {
-        bases.insert(bases.end(), section.bases.begin(), section.bases.end());
-    }
-    return meant(base, bases);
-}
-
-std::string Hints::forMissing(const Fault& fault) {
-    const Section* expected = sectionOfLabel(fault.expectedKind());
-    if (std::string circle = circleOf(fault); !circle.empty()) {
-        return circle;
-    }
-    if (const auto broken = headings_.find(fault.name());
-        !fault.otherPlace() && broken && !headings_.isSound(*broken)) { // too faulty for the library
-        return fmt::format("it is in {}, and faulty.", toString(Tool::beginningOf(input_.sources()[*broken])));
-    }
-    if (!fault.otherPlace()) {
-        const Section* actual = sectionOfBase(fault.name());
-        return expected == nullptr ? std::string()
-               : actual != nullptr && actual != expected
-                   ? fmt::format("this is the base of the kind {}, and the kind {} is expected.", actual->label,
-                                 expected->label)
-                   : similarTo(fault.name(), *expected);
-    }
-    const std::size_t number = Input::numberOf(fault.otherPlace()->text);
-    const std::string place = beginningOf(*fault.otherPlace());
-    if (fault.root() || !headings_.isSound(number)) {
-        return fmt::format("it is in {}, and faulty.", place);
-    }
-    const Section* actual = sectionOfBase(headings_.of(number).base);
-    if (expected == nullptr || actual == nullptr || actual == expected) {
-        return {};
-    }
-    return fmt::format("{} is of the kind {}, and the kind {} is expected.", place, actual->label, expected->label);
-}
-
-std::string Hints::circleOf(const Fault& fault) const {
-    constexpr std::size_t longest = 10;
-    if (fault.name() == fault.typeId()) {
-        return "the schema names itself.";
-    }
-    std::string circle = fault.typeId();
-    const Fault* next = &fault;
-    for (std::size_t i = 0; i < longest; ++i) {
-        circle += ", " + next->name();
-        const auto found = naming_.find(next->name());
-        if (found == naming_.end()) {
-            return {};
-        }
-        next = found->second;
-        if (next->name() == fault.typeId()) {
-            return "they name each other in a circle: " + circle + ".";
-        }
-    }
-    return {};
-}
-
-std::string Hints::similarTo(const std::string& typeId, const Section& section) {
-    constexpr std::size_t mostSearches = 200; // each goes through all typeids of a section
-    const auto [similar, isNew] = similar_.try_emplace({&section, typeId});
-    if (!isNew || similar_.size() > mostSearches) {
-        return similar->second;
-    }
-    std::vector<std::string_view>& typeIds = typeIds_[&section];
-    if (typeIds.empty()) {
-        for (const Heading& heading : headings_.all()) {
-            if (sectionOfBase(heading.base) == &section) {
-                typeIds.emplace_back(heading.typeId);
+        for (const Fault& fault : faults) {
+            if (isOneOf(fault.code(), missing) && faulty.contains(fault.name())) {
+                naming_.emplace(fault.typeId(), &fault);
             }
         }
     }
-    return similar->second = meant(typeId, typeIds);
-}
 
-std::string Hints::beginningOf(const Fault::Place& place) const {
-    return toString(Tool::beginningOf(input_.sources()[Input::numberOf(place.text)]));
+    std::string hintFor(const Fault& fault) {
+        const std::size_t number = Input::numberOf(fault.place().text);
+        const std::string& text = *input_.sources()[number].text;
+        if (fault.code() == "json-syntax") {
+            return std::string(slipAt(text, fault.place().begin));
+        }
+        if (!fault.nearestName().empty()) {
+            return forMisspelt(fault);
+        }
+        if (fault.code() == "constant-undefined" && properties_.contains(fault.place().text + fault.name())) {
+            return fmt::format("{} stands among the properties.", fault.name());
+        }
+        if (fault.code() == "typeid-missing") {
+            return text[text.find_first_not_of(blanks)] == '[' ? "a text is one schema, no list of them."
+                   : headings_.of(number).base.empty()         ? "this is no schema; it need not be here."
+                                                               : "";
+        }
+        if (fault.code() == "base-unrecognized") {
+            return forBase(headings_.of(number).base);
+        }
+        if (fault.code() == "typeid-taken") {
+            return fault.otherPlace()
+                       ? fmt::format("it is that of {}.", placeOf(Input::numberOf(fault.otherPlace()->text)))
+                       : "it contains a built-in identifier.";
+        }
+        if (isOneOf(fault.code(), missing)) {
+            return forMissing(fault);
+        }
+        if (isOneOf(fault.code(), nameless) && !fault.name().empty()) {
+            return fmt::format("this is about {}.", fault.name());
+        }
+        return {};
+    }
+
+private:
+    std::string forBase(const std::string& base) const {
+        if (headings_.find(base)) {
+            return "only built-in bases can be inherited, and this is another schema.";
+        }
+        std::vector<std::string_view> bases;
+        for (const Section& section : sections()) {
+            bases.insert(bases.end(), section.bases.begin(), section.bases.end());
+        }
+        return meant(base, bases);
+    }
+
+    std::string forMissing(const Fault& fault) {
+        if (std::string circle = circleOf(fault); !circle.empty()) {
+            return circle;
+        }
+        const auto number = fault.otherPlace() ? std::optional(Input::numberOf(fault.otherPlace()->text))
+                                               : headings_.find(fault.name());
+        const bool isFaulty = number && (fault.root() || !headings_.isSound(*number));
+        if (isFaulty) { // perhaps too faulty for the library
+            return fmt::format("it is in {}, and faulty.", placeOf(*number));
+        }
+        const Section* expected = sectionOfLabel(fault.expectedKind());
+        const Section* actual = sectionOfBase(fault.otherPlace() ? headings_.of(*number).base : fault.name());
+        if (expected == nullptr) {
+            return {};
+        }
+        if (actual == nullptr || actual == expected) {
+            return fault.otherPlace() ? std::string() : similarTo(fault.name(), *expected);
+        }
+        return fault.otherPlace() ? fmt::format("{} is of the kind {}, and the kind {} is expected.", placeOf(*number),
+                                                actual->label, expected->label)
+                                  : fmt::format("this is the base of the kind {}, and the kind {} is expected.",
+                                                actual->label, expected->label);
+    }
+
+    std::string circleOf(const Fault& fault) const {
+        constexpr std::size_t longest = 10;
+        if (fault.name() == fault.typeId()) {
+            return "the schema names itself.";
+        }
+        std::string circle = fault.typeId();
+        const Fault* next = &fault;
+        for (std::size_t i = 0; i < longest; ++i) {
+            circle += ", " + next->name();
+            const auto found = naming_.find(next->name());
+            if (found == naming_.end()) {
+                return {};
+            }
+            next = found->second;
+            if (next->name() == fault.typeId()) {
+                return "they name each other in a circle: " + circle + ".";
+            }
+        }
+        return {};
+    }
+
+    std::string similarTo(const std::string& typeId, const Section& section) {
+        constexpr std::size_t mostSearches = 200; // each goes through all typeids of a section
+        const auto [similar, isNew] = similar_.try_emplace({&section, typeId});
+        if (!isNew || similar_.size() > mostSearches) {
+            return similar->second;
+        }
+        std::vector<std::string_view>& typeIds = typeIds_[&section];
+        if (typeIds.empty()) {
+            for (const Heading& heading : headings_.all()) {
+                if (sectionOfBase(heading.base) == &section) {
+                    typeIds.emplace_back(heading.typeId);
+                }
+            }
+        }
+        return similar->second = meant(typeId, typeIds);
+    }
+
+    std::string placeOf(std::size_t number) const { return toString(beginningOf(input_.sources()[number])); }
+
+    const Input& input_;
+    const Headings& headings_;
+    std::unordered_map<std::string, const Fault*> naming_; // what names a faulty schema, by its typeid
+    std::unordered_set<std::string> properties_;           // which nothing reads, behind the keys of their texts
+    std::map<const Section*, std::vector<std::string_view>> typeIds_;       // of each section that was asked for
+    std::map<std::pair<const Section*, std::string>, std::string> similar_; // what was found, as many may miss the same
+};
+
+} // namespace
+
+std::vector<std::string> hintsFor(const Input& input, const Headings& headings, const std::vector<Fault>& faults) {
+    Hints hints(input, headings, faults);
+    std::vector<std::string> texts;
+    std::ranges::transform(faults, std::back_inserter(texts), [&](const Fault& fault) { return hints.hintFor(fault); });
+    return texts;
 }
 
 } // namespace Tool
