@@ -35,8 +35,7 @@ std::string noVerb(const CLI::App& program, const char* argument) {
     for (const CLI::App* verb : program.get_subcommands([](const CLI::App*) { return true; })) {
         names.emplace_back(verb->get_name());
     }
-    const std::string question = Tool::didYouMean(argument, names);
-    return "there is no verb " + Tool::printable(argument) + (question.empty() ? "" : "; " + question);
+    return Tool::thereIsNo("verb", argument, names);
 }
 
 /// Says what is wrong with the arguments.

@@ -30,7 +30,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-constexpr std::string_view blanks = " \t\r\n";
 
 [[noreturn]] void failToRead(const std::string& path, const std::error_code& reason) {
     throw InputError(fmt::format("Cannot read {}: {}.", printable(nameOf(path)), reason.message()));
@@ -53,25 +52,20 @@ std::string originalOf(const std::string& path) {
                                  std::regex::icase);
     constexpr std::size_t longest = 1000; // it takes stack for each character
     const std::string name = lower(fs::path(path).filename().string());
-    const auto signs = {"copy", "bak", "back", "orig", "old", " ("};
+    const auto isIn = [&](const char* sign) { return name.find(sign) != std::string::npos; };
+    const bool isCopy =
+        path.size() <= longest && std::ranges::any_of(std::array{"copy", "bak", "back", "orig", "old", " ("}, isIn);
     std::smatch parts;
-    const bool isCopy = path.size() <= longest && std::any_of(signs.begin(), signs.end(), [&](const char* sign) {
-                            return name.find(sign) != std::string::npos;
-                        });
     return isCopy && std::regex_match(path, parts, copy) ? parts.str(1) + parts.str(3) + parts.str(9) : std::string();
 }
 
 /// Puts copies behind all other files, so that a text that stands in both is faulty in the copy.
 void putCopiesLast(std::deque<std::string>& files) {
     const std::unordered_set<std::string> known(files.begin(), files.end());
-    std::unordered_set<std::string> copies;
-    for (const std::string& file : files) {
+    std::ranges::stable_partition(files, [&](const std::string& file) {
         const std::string original = originalOf(file);
-        if (original != file && known.contains(original)) {
-            copies.insert(file);
-        }
-    }
-    std::stable_partition(files.begin(), files.end(), [&](const std::string& file) { return !copies.contains(file); });
+        return original == file || !known.contains(original);
+    });
 }
 
 /// Leaves out files that were there before, under another name perhaps.
@@ -185,13 +179,12 @@ void Input::findBelow(const fs::path& top) {
     if (found.empty()) {
         throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(top.string())));
     }
-    std::sort(found.begin(), found.end(), [](const std::string& one, const std::string& other) {
+    std::ranges::sort(found, [](const std::string& one, const std::string& other) {
         // As paths are compared, name by name, at a fraction of the cost.
         const auto rank = [](char byte) { return byte == '/' ? 0 : 1 + static_cast<unsigned char>(byte); };
-        return std::lexicographical_compare(one.begin(), one.end(), other.begin(), other.end(),
-                                            [&](char a, char b) { return rank(a) < rank(b); });
+        return std::ranges::lexicographical_compare(one, other, {}, rank, rank);
     });
-    files_.insert(files_.end(), std::make_move_iterator(found.begin()), std::make_move_iterator(found.end()));
+    std::ranges::move(found, std::back_inserter(files_));
 }
 
 void Input::read(const std::string& file) {

@@ -1,9 +1,11 @@
 #include "catalogue/Sections.h"
 
+#include "output/Text.h"
+
 #include <parameters/Kinds.h>
 
 #include <algorithm>
-#include <cctype>
+#include <array>
 #include <string>
 
 namespace Tool {
@@ -26,18 +28,15 @@ std::vector<Section> makeSections() {
 }
 
 const Section* sectionWhere(std::string_view Section::*name, std::string_view wanted) {
-    const auto& all = sections();
-    const auto found = std::find_if(all.begin(), all.end(), [&](const Section& each) { return each.*name == wanted; });
-    return found == all.end() ? nullptr : &*found;
+    const auto found = std::ranges::find(sections(), wanted, name);
+    return found == sections().end() ? nullptr : &*found;
 }
 
 /// Returns a word in small letters, with hyphens between its parts.
 std::string normal(std::string_view word) {
-    std::string result(word);
-    for (char& character : result) {
-        const bool isBlank = character == ' ' || character == '_';
-        character = isBlank ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
-    }
+    std::string result = lower(word);
+    std::ranges::replace_if(
+        result, [](char character) { return character == ' ' || character == '_'; }, '-');
     return result;
 }
 
@@ -68,8 +67,7 @@ const Section* sectionOfLabel(std::string_view label) { return sectionWhere(&Sec
 
 bool isMeant(const Section& section, std::string_view word) {
     const std::string wanted = normal(word);
-    const auto names = {section.id, section.label, section.plural};
-    return std::any_of(names.begin(), names.end(), [&](std::string_view name) {
+    return std::ranges::any_of(std::array{section.id, section.label, section.plural}, [&](std::string_view name) {
         return wanted == normal(name) || wanted == normal(name.substr(name.rfind(' ') + 1));
     });
 }

@@ -40,7 +40,7 @@ Place Positions::placeOf(const Source& source, std::size_t begin, std::size_t en
 }
 
 Place beginningOf(const Source& source) {
-    const std::size_t begin = std::min(source.text->find_first_not_of(" \t\r\n"), source.text->size());
+    const std::size_t begin = std::min(source.text->find_first_not_of(blanks), source.text->size());
     return Positions().placeOf(source, begin, begin);
 }
 

@@ -2,6 +2,7 @@
 
 #include "catalogue/Describe.h"
 #include "catalogue/Sections.h"
+#include "output/Text.h"
 
 #include <fmt/format.h>
 
@@ -65,8 +66,7 @@ public:
                 add("object-unused", typeId, fmt::format("Nothing names {} {}.", label, typeId));
             }
         }
-        std::stable_sort(findings_.begin(), findings_.end(),
-                         [](const Finding& one, const Finding& other) { return one.source < other.source; });
+        std::ranges::stable_sort(findings_, {}, &Finding::source);
         return std::move(findings_);
     }
 
@@ -131,7 +131,7 @@ private:
     Place placeOf(std::size_t number) {
         const Source& source = catalogue_.source(number);
         const std::string& text = *source.text;
-        return Positions().placeOf(source, text.find_first_not_of(" \t\r\n"), text.find_last_not_of(" \t\r\n") + 1);
+        return Positions().placeOf(source, text.find_first_not_of(blanks), text.find_last_not_of(blanks) + 1);
     }
 
     Loader& catalogue_;

@@ -1,5 +1,7 @@
 #include "faults/Hints.h"
 
+#include "output/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -86,7 +88,7 @@ std::string_view slipAt(std::string_view text, std::size_t offset) {
         return "the text is in UTF-16, and must be in UTF-8.";
     }
     if (offset >= text.size()) {
-        return text.find_first_not_of(" \t\r\n") == std::string_view::npos ? "" : "the text ends too early.";
+        return text.find_first_not_of(blanks) == std::string_view::npos ? "" : "the text ends too early.";
     }
     const char at = text[offset];
     if (at == '\n' || at == '\r') {
@@ -96,7 +98,7 @@ std::string_view slipAt(std::string_view text, std::size_t offset) {
         return at == '\t' ? "a tab within a string is written as \\t."
                           : "a backslash within a string is written as \\\\.";
     }
-    const std::size_t last = offset == 0 ? std::string_view::npos : text.find_last_not_of(" \t\r\n", offset - 1);
+    const std::size_t last = offset == 0 ? std::string_view::npos : text.find_last_not_of(blanks, offset - 1);
     const char before = last == std::string_view::npos ? '\0' : text[last];
     if ((at == '}' || at == ']') && before == ',') {
         return "no comma stands before a closing bracket.";

@@ -10,7 +10,6 @@
 #include <cctype>
 #include <cstring>
 #include <iterator>
-#include <utility>
 
 namespace Tool {
 
@@ -26,6 +25,10 @@ std::size_t lengthOfCharacter(std::string_view text, unsigned& character) {
 bool isControl(unsigned character) {
     return character < 0x20 || (character >= 0x7F && character <= 0x9F) ||
            (character >= 0x202A && character <= 0x202E) || (character >= 0x2066 && character <= 0x2069);
+}
+
+std::size_t widthOf(std::string_view text) {
+    return static_cast<std::size_t>(std::ranges::count_if(text, isFirstOfCharacter));
 }
 
 } // namespace
@@ -120,13 +123,20 @@ std::string didYouMean(std::string_view text, const std::vector<std::string_view
     return question.empty() ? question : question + "?";
 }
 
-std::size_t widthOf(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), isFirstOfCharacter));
+std::string thereIsNo(std::string_view kind, std::string_view name, const std::vector<std::string_view>& candidates) {
+    const std::string question = didYouMean(name, candidates);
+    return fmt::format("there is no {} {}{}{}", kind, printable(name), question.empty() ? "" : "; ", question);
 }
 
-std::string padded(std::string text, std::size_t width) {
-    const std::size_t taken = widthOf(text);
-    return taken < width ? std::move(text) + std::string(width - taken, ' ') : text;
+std::vector<std::string> aligned(const std::vector<std::vector<std::string>>& rows) {
+    std::vector<std::string> lines(rows.size());
+    for (std::size_t column = 0; !rows.empty() && column < rows.front().size(); ++column) {
+        const std::size_t width = widthOf(*std::ranges::max_element(lines, {}, widthOf));
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            lines[row] += std::string(width - widthOf(lines[row]), ' ') + (column == 0 ? "" : "  ") + rows[row][column];
+        }
+    }
+    return lines;
 }
 
 } // namespace Tool

@@ -8,6 +8,9 @@
 
 namespace Tool {
 
+/// What JSON takes for blank.
+constexpr std::string_view blanks = " \t\r\n";
+
 /// Returns whether a byte of a UTF-8 text is the first one of a character.
 constexpr bool isFirstOfCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; }
 
@@ -36,10 +39,11 @@ std::string counted(std::size_t count, std::string_view noun);
 /// Returns a question that offers the candidates nearest to a text; empty when none is near.
 std::string didYouMean(std::string_view text, const std::vector<std::string_view>& candidates);
 
-/// Returns how many columns a text takes: its characters, wide ones and marks not told apart.
-std::size_t widthOf(std::string_view text);
+/// Returns that there is none of a kind of things by a name, and the question that offers those which there are.
+std::string thereIsNo(std::string_view kind, std::string_view name, const std::vector<std::string_view>& candidates);
 
-/// Returns the text with blanks behind it, so that it takes that many columns at least.
-std::string padded(std::string text, std::size_t width);
+/// Returns a line for each row of cells, with two blanks between columns that are as wide as they must be: in
+/// characters, wide ones and marks not told apart.
+std::vector<std::string> aligned(const std::vector<std::vector<std::string>>& rows);
 
 } // namespace Tool

@@ -10,6 +10,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <set>
 
@@ -44,23 +45,15 @@ Exit codes:
 
 std::string refuseUnknownCode(const std::string& code) {
     std::vector<std::string_view> known;
-    for (const Rule& rule : rules()) {
-        known.push_back(rule.code);
-    }
-    if (std::find(known.begin(), known.end(), code) != known.end()) {
-        return {};
-    }
-    const std::string question = didYouMean(code, known);
-    return "there is no code " + printable(code) + (question.empty() ? "" : "; " + question);
+    std::ranges::transform(rules(), std::back_inserter(known), &Rule::code);
+    return std::ranges::find(known, code) == known.end() ? thereIsNo("code", code, known) : std::string();
 }
 
 /// Returns what to look for beside faults: what is asked for or, as long as nothing alone is asked for, the default.
 Codes lintsOf(const Options& options) {
     Codes codes;
     for (const Lint& lint : lints()) {
-        const auto isIn = [&](const auto& list) {
-            return std::find(list.begin(), list.end(), lint.code) != list.end();
-        };
+        const auto isIn = [&](const auto& list) { return std::ranges::find(list, lint.code) != list.end(); };
         const bool isWanted = options.only.empty() ? lint.isDefault || isIn(options.lints) : isIn(options.only);
         if (isWanted && !isIn(options.ignored) && options.severity == "warning") {
             codes.emplace(lint.code);
@@ -91,8 +84,7 @@ ExitCode check(const Options& options) {
         print(findingsAsText(findings, options.isAll) +
               (options.isQuiet ? std::string() : summaryAsText(catalogue, findings)));
     }
-    const bool isBad = std::any_of(findings.begin(), findings.end(),
-                                   [&](const Finding& finding) { return finding.isError || options.isStrict; });
+    const bool isBad = options.isStrict ? !findings.empty() : std::ranges::count(findings, true, &Finding::isError) > 0;
     return isBad ? Bad : Good;
 }
 

@@ -9,7 +9,6 @@
 #include <fnmatch.h>
 
 #include <algorithm>
-#include <array>
 #include <memory>
 
 namespace Tool {
@@ -33,9 +32,8 @@ bool matches(const std::string& name, const std::string& pattern) {
 std::vector<const Object*> select(const Catalogue& catalogue, const Options& options) {
     std::vector<const Object*> selected;
     for (const Object& object : catalogue.objects()) {
-        const bool isOfKind =
-            options.kinds.empty() || std::any_of(options.kinds.begin(), options.kinds.end(),
-                                                 [&](const auto& word) { return isMeant(*object.section, word); });
+        const auto isOf = [&](const std::string& word) { return isMeant(*object.section, word); };
+        const bool isOfKind = options.kinds.empty() || std::ranges::any_of(options.kinds, isOf);
         if (isOfKind && (options.name.empty() || matches(object.name, options.name))) {
             selected.push_back(&object);
         }
@@ -52,17 +50,12 @@ std::string asJson(const std::vector<const Object*>& objects) {
 }
 
 std::string asTable(const std::vector<const Object*>& objects) {
-    std::vector<std::array<std::string, 3>> rows;
-    std::array<std::size_t, 2> widths{};
+    std::vector<std::vector<std::string>> rows;
     for (const Object* object : objects) {
         rows.push_back({printable(object->typeId), std::string(object->section->label), printable(object->name)});
-        for (std::size_t column = 0; column < widths.size(); ++column) {
-            widths[column] = std::max(widths[column], widthOf(rows.back()[column]));
-        }
     }
     std::string table;
-    for (const auto& [typeId, kind, name] : rows) {
-        const std::string line = padded(typeId, widths[0]) + "  " + padded(kind, widths[1]) + "  " + name;
+    for (const std::string& line : aligned(rows)) {
         table += line.substr(0, line.find_last_not_of(' ') + 1) + "\n";
     }
     return table;
@@ -76,8 +69,7 @@ std::string refuseUnknownKind(const std::string& word) {
         }
         names.insert(names.end(), {section.id, section.label, section.plural});
     }
-    const std::string question = didYouMean(word, names);
-    return "there is no kind " + printable(word) + (question.empty() ? "" : "; " + question);
+    return thereIsNo("kind", word, names);
 }
 
 ExitCode list(const Options& options) {

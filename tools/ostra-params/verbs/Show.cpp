@@ -7,7 +7,6 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <memory>
 
 namespace Tool {
@@ -20,30 +19,16 @@ struct Options {
     bool isSchema = false;
 };
 
-/// Lines of a label and what it is about, the labels in a column of their own.
-class Sheet {
-public:
-    void add(std::string_view label, std::string text) { lines_.push_back({std::string(label), std::move(text)}); }
+/// Rows of a label and what it is about.
+using Rows = std::vector<std::vector<std::string>>;
 
-    std::string text() const {
-        std::size_t width = 0;
-        for (const Line& line : lines_) {
-            width = std::max(width, widthOf(line.label));
-        }
-        std::string text;
-        for (const Line& line : lines_) {
-            text += "  " + padded(line.label, width) + "  " + line.text + "\n";
-        }
-        return text;
+std::string sheetOf(const Rows& rows) {
+    std::string text;
+    for (const std::string& line : aligned(rows)) {
+        text += "  " + line + "\n";
     }
-
-private:
-    struct Line {
-        std::string label;
-        std::string text;
-    };
-    std::vector<Line> lines_;
-};
+    return text;
+}
 
 std::string textOf(const Catalogue& catalogue, const Value& value) {
     if (value.typeId.empty()) {
@@ -54,38 +39,33 @@ std::string textOf(const Catalogue& catalogue, const Value& value) {
 }
 
 std::string properties(const Catalogue& catalogue, const Object& object) {
-    Sheet sheet;
+    Rows rows;
     for (const Property& property : object.properties) {
         std::string_view label = property.name;
         for (const Value& value : property.values) {
-            sheet.add(label, textOf(catalogue, value));
+            rows.push_back({std::string(label), textOf(catalogue, value)});
             label = {}; // once for all values
         }
     }
-    sheet.add("defined in", toString(beginningOf(catalogue.sourceOf(object))));
-    return sheet.text();
+    rows.push_back({"defined in", toString(beginningOf(catalogue.sourceOf(object)))});
+    return sheetOf(rows);
 }
 
-std::string links(const Catalogue& catalogue, const std::vector<Link>& links) {
-    Sheet sheet;
+std::string links(const Catalogue& catalogue, std::string_view relation, const std::vector<Link>& links) {
+    Rows rows;
     for (const auto& [property, typeId] : links) {
         const std::string name = catalogue.nameOf(typeId);
-        sheet.add(property, printable(typeId) + (name.empty() ? "" : "  " + printable(name)));
+        rows.push_back({std::string(property), printable(typeId) + (name.empty() ? "" : "  " + printable(name))});
     }
-    return sheet.text();
+    return fmt::format("\n{} {}\n{}", relation, links.empty() ? "nothing" : counted(links.size(), "object"),
+                       sheetOf(rows));
 }
 
 std::string sheetOf(const Catalogue& catalogue, const Object& object) {
-    const std::vector<Link> dependencies = catalogue.dependencies(object);
-    const std::vector<Link>& dependents = catalogue.dependents(object.typeId);
-    std::string text = object.name.empty() ? std::string() : printable(object.name) + "\n";
-    text += fmt::format("{}  {}\n\n{}", object.section->label, printable(object.typeId), properties(catalogue, object));
-    text +=
-        fmt::format("\ndepends on {}\n{}", dependencies.empty() ? "nothing" : counted(dependencies.size(), "object"),
-                    links(catalogue, dependencies));
-    text += fmt::format("\nnamed by {}\n{}", dependents.empty() ? "nothing" : counted(dependents.size(), "object"),
-                        links(catalogue, dependents));
-    return text;
+    return fmt::format("{}{}{}  {}\n\n{}{}{}", printable(object.name), object.name.empty() ? "" : "\n",
+                       object.section->label, printable(object.typeId), properties(catalogue, object),
+                       links(catalogue, "depends on", catalogue.dependencies(object)),
+                       links(catalogue, "named by", catalogue.dependents(object.typeId)));
 }
 
 ExitCode show(const Options& options) {
