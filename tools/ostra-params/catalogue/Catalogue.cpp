@@ -1,6 +1,5 @@
 #include "catalogue/Catalogue.h"
 
-#include "catalogue/Describe.h"
 #include "output/Json.h"
 
 namespace Tool {

@@ -8,10 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <string>
-#include <string_view>
 #include <utility>
-#include <vector>
 
 namespace Tool {
 
@@ -95,7 +92,9 @@ Property disciplineOf(const SpecCore& core, bool isOwn) { return {"discipline", 
 
 Object describeSpec(const SpecCore& core) { return {core.getTypeId(), core.getName(), {disciplineOf(core, true)}}; }
 
-Object describeParameter(const ParameterCore& core, const SpecCore& spec) {
+Object describeParameter(const auto& parameter) {
+    const ParameterCore core = parameter.getCore();
+    const SpecCore spec = parameter.getSpec().getCore();
     Object object{core.getTypeId(), core.getName(), {}};
     addText(object, "description", core.getDescription());
     addText(object, "sample text", core.getSampleText());
@@ -113,9 +112,8 @@ bool isFamilyType(const std::string& specTypeId) {
     return specTypeId.find(anyMinor) != std::string::npos;
 }
 
-template <class Parameter>
-Object describeRanged(const Parameter& parameter) {
-    Object object = describeParameter(parameter.getCore(), parameter.getSpec().getCore());
+Object describeRanged(const auto& parameter) {
+    Object object = describeParameter(parameter);
     addRange(object, parameter.getRange());
     return object;
 }
@@ -156,12 +154,10 @@ Object describe(const ReferenceSpec& spec) {
     return object;
 }
 
-Object describe(const BoolParameter& parameter) {
-    return describeParameter(parameter.getCore(), parameter.getSpec().getCore());
-}
+Object describe(const BoolParameter& parameter) { return describeParameter(parameter); }
 
 Object describe(const EnumerationParameter& parameter) {
-    Object object = describeParameter(parameter.getCore(), parameter.getSpec().getCore());
+    Object object = describeParameter(parameter);
     const Enumeration enumeration = parameter.getEnumeration();
     object.properties.push_back({"enumeration", {{"", enumeration.getTypeId()}}});
     object.properties.push_back(choicesOf(enumeration, false));
@@ -180,7 +176,7 @@ Object describe(const MeasurableParameter& parameter) {
 
 Object describe(const ReferenceParameter& parameter) {
     const ReferenceSpec spec = parameter.getSpec();
-    Object object = describeParameter(parameter.getCore(), spec.getCore());
+    Object object = describeParameter(parameter);
     // The category of a family type is said by the parameter itself; that of a spec belongs to the spec.
     if (const auto category = spec.getCategory()) {
         object.properties.push_back({"category", {named(*category)}, isFamilyType(spec.getCore().getTypeId())});

@@ -33,8 +33,6 @@ struct HeadingFinder : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, HeadingFi
     Heading heading = {};
 };
 
-} // namespace
-
 Heading headingOf(const std::string& schemaText) {
     // Iterative, as a text may be nested without limit; raw numbers, as their values do not matter here.
     constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
@@ -43,6 +41,8 @@ Heading headingOf(const std::string& schemaText) {
     rapidjson::Reader().Parse<flags>(stream, finder);
     return std::move(finder.heading);
 }
+
+} // namespace
 
 const std::vector<Heading>& Headings::all() const {
     if (headings_.empty()) {

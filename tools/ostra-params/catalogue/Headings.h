@@ -17,9 +17,6 @@ struct Heading {
     std::string base;
 };
 
-/// Returns the heading of a schema text.
-Heading headingOf(const std::string& schemaText);
-
 /// The headings of all texts, which are read when the first one is asked for: few need them.
 class Headings {
 public:

@@ -16,8 +16,7 @@
 namespace Tool {
 
 /// A path that cannot be read as part of a catalogue. Its message names the path.
-class InputError : public std::runtime_error {
-public:
+struct InputError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 

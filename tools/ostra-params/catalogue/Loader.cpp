@@ -1,6 +1,5 @@
 #include "catalogue/Loader.h"
 
-#include "catalogue/Describe.h"
 #include "output/Text.h"
 
 #include <algorithm>

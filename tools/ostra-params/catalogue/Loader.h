@@ -15,8 +15,7 @@
 namespace Tool {
 
 /// A schema was registered and became no object: a fault of this program, not of the catalogue.
-class Loss : public std::logic_error {
-public:
+struct Loss : std::logic_error {
     using std::logic_error::logic_error;
 };
 

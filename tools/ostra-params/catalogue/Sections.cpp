@@ -17,19 +17,11 @@ constexpr std::string_view unitBase = "norvex.unit:unit-1.0.0"; // the units lib
 std::vector<Section> makeSections() {
     std::vector<Section> made{{"unit", "unit", "units", {unitBase}}};
     Parameters::forEachKind([&](auto kind) {
-        const auto bases = kind.info.bases();
-        made.push_back({kind.info.id(),
-                        kind.info.word(),
-                        kind.info.plural(),
-                        {bases.begin(), bases.end()},
-                        kind.info.isParameter()});
+        constexpr auto info = kind.info;
+        const auto bases = info.bases();
+        made.push_back({info.id(), info.word(), info.plural(), {bases.begin(), bases.end()}, info.isParameter()});
     });
     return made;
-}
-
-const Section* sectionWhere(std::string_view Section::*name, std::string_view wanted) {
-    const auto found = std::ranges::find(sections(), wanted, name);
-    return found == sections().end() ? nullptr : &*found;
 }
 
 /// Returns a word in small letters, with hyphens between its parts.
@@ -51,7 +43,7 @@ std::size_t indexOf(const Section& section) { return static_cast<std::size_t>(&s
 
 const Section& sectionOfUnits() { return sections().front(); }
 
-const Section& sectionOf(Parameters::KindInfo kind) { return *sectionOfId(kind.id()); }
+const Section& sectionOf(Parameters::KindInfo kind) { return *findSection(&Section::id, kind.id()); }
 
 const Section* sectionOfBase(std::string_view inherited) {
     if (const auto kind = Parameters::findKindOfBase(inherited)) {
@@ -61,9 +53,10 @@ const Section* sectionOfBase(std::string_view inherited) {
     return inherited.find(anyMinor) == std::string_view::npos ? nullptr : &sectionOfUnits();
 }
 
-const Section* sectionOfId(std::string_view id) { return sectionWhere(&Section::id, id); }
-
-const Section* sectionOfLabel(std::string_view label) { return sectionWhere(&Section::label, label); }
+const Section* findSection(std::string_view Section::*name, std::string_view wanted) {
+    const auto found = std::ranges::find(sections(), wanted, name);
+    return found == sections().end() ? nullptr : &*found;
+}
 
 bool isMeant(const Section& section, std::string_view word) {
     const std::string wanted = normal(word);

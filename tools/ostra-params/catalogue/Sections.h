@@ -30,11 +30,8 @@ const Section& sectionOf(Parameters::KindInfo kind);
 /// none.
 const Section* sectionOfBase(std::string_view inherited);
 
-/// Returns the section of an identifier as options name it; nullptr if there is none.
-const Section* sectionOfId(std::string_view id);
-
-/// Returns the section of what a sentence of the library calls one of its objects; nullptr if there is none.
-const Section* sectionOfLabel(std::string_view label);
+/// Returns the section of an identifier, label or plural; nullptr if there is none.
+const Section* findSection(std::string_view Section::*name, std::string_view wanted);
 
 /// Tells whether a person means a section by a word: its identifier or label, one or many, or the last word alone,
 /// which all parameters have in common. Case does not matter.

@@ -10,12 +10,6 @@
 
 namespace Tool {
 
-namespace {
-
-constexpr std::size_t markEvery = 4096;
-
-} // namespace
-
 Positions::Position Positions::positionOf(std::size_t offset) const {
     const std::size_t mark = std::min(offset / markEvery, marks_.size() - 1);
     auto [line, column] = marks_[mark];

@@ -34,8 +34,9 @@ private:
     using Position = std::pair<std::size_t, std::size_t>; // line and column
     Position positionOf(std::size_t offset) const;
 
+    static constexpr std::size_t markEvery = 4096; // bytes
     const std::string* text_ = nullptr;
-    std::vector<Position> marks_; // of every so many bytes of the text that was asked for last
+    std::vector<Position> marks_; // of the text that was asked for last
 };
 
 /// Returns where a text begins, blanks apart.

@@ -1,4 +1,4 @@
-#include "faults/Folding.h"
+#include "faults/Finding.h"
 
 #include "output/Text.h"
 

@@ -132,7 +132,7 @@ private:
         if (isFaulty) { // perhaps too faulty for the library
             return fmt::format("it is in {}, and faulty.", placeOf(*number));
         }
-        const Section* expected = sectionOfLabel(fault.expectedKind());
+        const Section* expected = findSection(&Section::label, fault.expectedKind());
         const Section* actual = sectionOfBase(fault.otherPlace() ? headings_.of(*number).base : fault.name());
         if (expected == nullptr) {
             return {};

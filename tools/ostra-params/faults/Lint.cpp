@@ -1,6 +1,6 @@
-#include "faults/Lint.h"
+#include "faults/Rules.h"
 
-#include "catalogue/Describe.h"
+#include "catalogue/Loader.h"
 #include "catalogue/Sections.h"
 #include "output/Text.h"
 
@@ -40,12 +40,9 @@ bool isRegex(const std::string& text) {
 }
 
 bool hasVersion(std::string_view typeId) {
-    std::size_t points = 0;
-    while (!typeId.empty() && (typeId.back() == '.' || (typeId.back() >= '0' && typeId.back() <= '9'))) {
-        points += typeId.back() == '.' ? 1 : 0;
-        typeId.remove_suffix(1);
-    }
-    return points == 2 && typeId.ends_with('-');
+    const std::size_t hyphen = typeId.find_last_not_of("0123456789.");
+    return hyphen != std::string_view::npos && typeId[hyphen] == '-' &&
+           std::ranges::count(typeId.substr(hyphen), '.') == 2;
 }
 
 /// Looks at one object after the other.

@@ -1,7 +1,6 @@
-#include "output/Folder.h"
+#include "output/OutputFile.h"
 
 #include "catalogue/Sections.h"
-#include "output/OutputFile.h"
 #include "output/Text.h"
 
 #include <fmt/format.h>
@@ -13,7 +12,6 @@
 #include <iterator>
 #include <map>
 #include <set>
-#include <system_error>
 
 namespace Tool {
 
@@ -45,7 +43,7 @@ private:
 
 bool isFromAnExport(const fs::path& folder, const fs::directory_entry& entry) {
     const fs::path relative = entry.path().lexically_relative(folder);
-    const bool isInSection = sectionOfId(relative.begin()->string()) != nullptr;
+    const bool isInSection = findSection(&Section::id, relative.begin()->string()) != nullptr;
     const auto depth = std::distance(relative.begin(), relative.end());
     return isInSection && !entry.is_symlink() &&
            (entry.is_directory() ? depth == 1 : depth == 2 && entry.path().extension() == ".json");

@@ -38,12 +38,8 @@ std::string labelOf(const Graph::Node& node) {
 
 /// Runs a program and returns whether it came to a good end.
 bool run(std::vector<std::string> arguments) {
-    std::vector<char*> pointers;
-    pointers.reserve(arguments.size() + 1);
-    for (std::string& argument : arguments) {
-        pointers.push_back(argument.data());
-    }
-    pointers.push_back(nullptr);
+    std::vector<char*> pointers(arguments.size() + 1); // the last one null
+    std::ranges::transform(arguments, pointers.begin(), [](std::string& argument) { return argument.data(); });
     pid_t process = 0;
     int status = 0;
     return ::posix_spawnp(&process, pointers.front(), nullptr, nullptr, pointers.data(), environ) == 0 &&

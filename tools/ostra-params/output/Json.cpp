@@ -1,13 +1,12 @@
 #include "output/Json.h"
 
-#include <fmt/format.h>
+#include "output/Text.h"
+
 #include <rapidjson/memorystream.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/reader.h>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
-
-#include <iterator>
 
 namespace Tool {
 
@@ -42,16 +41,9 @@ std::string dump(const Json& json, int indentation) {
 std::string toText(const Json& json) { return dump(json, 2) + "\n"; }
 
 std::string toTextInHtml(const Json& json) {
-    std::string text;
-    for (const char character : dump(json, -1)) {
-        // Outside strings JSON has none of these; inside, their escapes mean the same.
-        if (character == '<' || character == '>' || character == '&') {
-            fmt::format_to(std::back_inserter(text), "\\u{:04x}", static_cast<unsigned>(character));
-        } else {
-            text += character;
-        }
-    }
-    return text;
+    // Outside strings JSON has none of these; inside, their escapes mean the same.
+    const auto isPlain = [](char character) { return character != '<' && character != '>' && character != '&'; };
+    return encoded(dump(json, -1), isPlain, "\\u{:04x}");
 }
 
 std::string compact(const std::string& json) { return rewritten<rapidjson::Writer<rapidjson::StringBuffer>>(json); }

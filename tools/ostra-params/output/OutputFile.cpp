@@ -10,8 +10,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <fstream>
-#include <string>
-#include <system_error>
 #include <tuple>
 #include <utility>
 

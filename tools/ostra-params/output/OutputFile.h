@@ -2,14 +2,15 @@
 
 #include <filesystem>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace Tool {
 
 /// Something that cannot be written. Its message names the path.
-class OutputError : public std::runtime_error {
-public:
+struct OutputError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
@@ -47,6 +48,17 @@ constexpr std::string_view standardOutput = "-";
 /// Writes a file as a whole, or not at all; or to standard output.
 /// @throws OutputError
 void writeTo(const std::filesystem::path& file, std::string_view content);
+
+/// A .json file to be written, one folder down.
+struct FolderEntry {
+    std::string folder;
+    std::string name; ///< Any text, another one for each file.
+    std::string content;
+};
+
+/// Replaces a folder by one that holds these files and nothing else; the old one stays until the new one is whole.
+/// @throws OutputError if that fails, or the folder holds what such a replacement would not have written.
+void replaceFolder(const std::filesystem::path& folder, const std::vector<FolderEntry>& entries);
 
 /// Writes to standard output.
 /// @throws OutputError

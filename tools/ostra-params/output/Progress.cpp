@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdio>
 #include <filesystem>
-#include <string>
 #include <system_error>
 
 namespace Tool {

@@ -88,26 +88,30 @@ std::string printable(std::string_view text) {
         if (length != 0 && !isControl(character)) {
             line += bytes;
         } else {
-            for (const char byte : bytes) {
-                fmt::format_to(std::back_inserter(line), "\\x{:02X}", static_cast<unsigned char>(byte));
-            }
+            line += encoded(
+                bytes, [](char) { return false; }, "\\x{:02X}");
         }
         text.remove_prefix(bytes.size());
     }
     return line;
 }
 
-std::string percentEncoded(std::string_view text, std::string_view plain) {
-    std::string encoded;
+std::string encoded(std::string_view text, const std::function<bool(char)>& isPlain, const char* format) {
+    std::string result;
     for (const char byte : text) {
-        const auto code = static_cast<unsigned char>(byte);
-        if (std::isalnum(code) != 0 || plain.find(byte) != std::string_view::npos) {
-            encoded += byte;
+        if (isPlain(byte)) {
+            result += byte;
         } else {
-            fmt::format_to(std::back_inserter(encoded), "%{:02X}", code);
+            fmt::format_to(std::back_inserter(result), fmt::runtime(format), static_cast<unsigned char>(byte));
         }
     }
-    return encoded;
+    return result;
+}
+
+std::string percentEncoded(std::string_view text, std::string_view plain) {
+    return encoded(text, [&](char byte) {
+        return std::isalnum(static_cast<unsigned char>(byte)) != 0 || plain.find(byte) != std::string_view::npos;
+    });
 }
 
 std::string counted(std::size_t count, std::string_view noun) {
@@ -115,12 +119,8 @@ std::string counted(std::size_t count, std::string_view noun) {
 }
 
 std::string didYouMean(std::string_view text, const std::vector<std::string_view>& candidates) {
-    std::string question;
-    for (const std::string_view candidate : Ostra::nearest(text, candidates)) {
-        question += question.empty() ? "did you mean " : " or ";
-        question += candidate;
-    }
-    return question.empty() ? question : question + "?";
+    const std::vector<std::string_view> near = Ostra::nearest(text, candidates);
+    return near.empty() ? std::string() : fmt::format("did you mean {}?", fmt::join(near, " or "));
 }
 
 std::string thereIsNo(std::string_view kind, std::string_view name, const std::vector<std::string_view>& candidates) {

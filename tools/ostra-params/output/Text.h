@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +30,9 @@ std::uint64_t digestOf(std::string_view text);
 /// Returns the text in one line that a terminal shows as it is, whatever bytes its author put into it: UTF-8 without
 /// controls.
 std::string printable(std::string_view text);
+
+/// Returns the text with the codes of the bytes that are not plain in their places, written as fmt's format says.
+std::string encoded(std::string_view text, const std::function<bool(char)>& isPlain, const char* format = "%{:02X}");
 
 /// Returns the text with %XX for all bytes but letters, digits and the plain ones.
 std::string percentEncoded(std::string_view text, std::string_view plain);

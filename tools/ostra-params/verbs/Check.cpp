@@ -1,6 +1,5 @@
 #include "catalogue/Loader.h"
 #include "faults/Finding.h"
-#include "faults/Lint.h"
 #include "faults/Rules.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
@@ -24,9 +23,9 @@ struct Options {
     std::vector<std::string> paths;
     std::string format = "text";
     std::string severity = "warning";
-    std::vector<std::string> ignored;
-    std::vector<std::string> only;
-    std::vector<std::string> lints;
+    Codes ignored;
+    Codes only;
+    Codes lints;
     bool isStrict = false;
     bool isAll = false;
     bool isQuiet = false;
@@ -53,9 +52,9 @@ std::string refuseUnknownCode(const std::string& code) {
 Codes lintsOf(const Options& options) {
     Codes codes;
     for (const Lint& lint : lints()) {
-        const auto isIn = [&](const auto& list) { return std::ranges::find(list, lint.code) != list.end(); };
-        const bool isWanted = options.only.empty() ? lint.isDefault || isIn(options.lints) : isIn(options.only);
-        if (isWanted && !isIn(options.ignored) && options.severity == "warning") {
+        const bool isWanted = options.only.empty() ? lint.isDefault || options.lints.contains(lint.code)
+                                                   : options.only.contains(lint.code);
+        if (isWanted && !options.ignored.contains(lint.code) && options.severity == "warning") {
             codes.emplace(lint.code);
         }
     }
@@ -68,10 +67,9 @@ ExitCode check(const Options& options) {
     if (const Codes codes = lintsOf(options); !codes.empty()) {
         addTo(findings, lint(catalogue, codes));
     }
-    const Codes ignored(options.ignored.begin(), options.ignored.end());
-    const Codes only(options.only.begin(), options.only.end());
     std::erase_if(findings, [&](const Finding& finding) {
-        return ignored.contains(finding.code) || (!only.empty() && !only.contains(finding.code)) ||
+        return options.ignored.contains(finding.code) ||
+               (!options.only.empty() && !options.only.contains(finding.code)) ||
                (options.severity == "error" && !finding.isError);
     });
     if (options.format == "json") {
@@ -93,12 +91,12 @@ ExitCode check(const Options& options) {
 Action addCheck(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("check", "Find every fault in the schemas of files and folders");
-    addPaths(*verb, options->paths);
+    addPaths(*verb, options->paths, true);
     const auto addChoice = [&](const char* name, std::string& value, const char* help,
                                const std::vector<std::string>& choices, const char* type) {
         verb->add_option(name, value, help)->check(CLI::IsMember(choices))->type_name(type);
     };
-    const auto addCodes = [&](const char* name, std::vector<std::string>& codes, const std::string& help) {
+    const auto addCodes = [&](const char* name, Codes& codes, const std::string& help) {
         return verb->add_option(name, codes, help)->delimiter(',')->allow_extra_args(false)->type_name("CODE");
     };
     addChoice("--format", options->format,

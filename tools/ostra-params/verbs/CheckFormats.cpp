@@ -2,7 +2,6 @@
 
 #include "catalogue/Input.h"
 #include "catalogue/Sections.h"
-#include "faults/Folding.h"
 #include "faults/Rules.h"
 #include "output/Json.h"
 #include "output/Text.h"
@@ -47,13 +46,7 @@ std::string lineOf(const Finding& finding, const std::string& rest) {
 /// Escapes what would end a command or, in a property of one, the property.
 std::string escaped(std::string_view text, bool isProperty) {
     const std::string_view special = isProperty ? "%\r\n:," : "%\r\n";
-    std::string result;
-    for (const char byte : text) {
-        result += special.find(byte) == std::string_view::npos
-                      ? std::string(1, byte)
-                      : fmt::format("%{:02X}", static_cast<unsigned char>(byte));
-    }
-    return result;
+    return encoded(text, [&](char byte) { return special.find(byte) == std::string_view::npos; });
 }
 
 std::string commandOf(const Finding& finding, const std::string& rest) {
@@ -115,16 +108,15 @@ Json locationOf(const Place& place) {
 
 Json relatedLocations(const Finding& finding) {
     Json related = Json::array();
-    const auto add = [&](const std::optional<Place>& place, const char* text) {
+    for (const auto& [place, text] :
+         {std::pair(finding.other, "The other side"), std::pair(finding.root, "What this follows from")}) {
         if (place) {
             Json location{{"id", related.size() + 1}};
             location.update(locationOf(*place));
             location["message"] = {{"text", text}};
             related.push_back(std::move(location));
         }
-    };
-    add(finding.other, "The other side");
-    add(finding.root, "What this follows from");
+    }
     return related;
 }
 
@@ -160,8 +152,7 @@ std::string summaryAsText(Loader& catalogue, const std::vector<Finding>& finding
         fmt::format_to(std::back_inserter(text), line, section.plural, counts[indexOf(section)]);
     }
     fmt::format_to(std::back_inserter(text), line, "total", std::reduce(counts.begin(), counts.end()));
-    const auto errors = static_cast<std::size_t>(
-        std::count_if(findings.begin(), findings.end(), [](const Finding& finding) { return finding.isError; }));
+    const auto errors = static_cast<std::size_t>(std::ranges::count(findings, true, &Finding::isError));
     const std::size_t warnings = findings.size() - errors;
     return text + fmt::format("{} in {}: {}{}\n", counted(catalogue.schemas(), "schema"),
                               counted(catalogue.files(), "file"), counted(errors, "fault"),

@@ -85,7 +85,7 @@ Action addDeps(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("deps", "Show what an object depends on, as a tree or a picture");
     addTypeId(*verb, options->typeId);
-    addOptionalPaths(*verb, options->paths);
+    addPaths(*verb, options->paths, false);
     verb->add_flag("--reverse", options->isReverse, "Show what depends on the object instead");
     CLI::Option* dot = verb->add_flag("--dot", options->isDot, "Print a graph in the language of Graphviz");
     verb->add_option("--svg", options->svgFile,

@@ -1,6 +1,4 @@
 #include "catalogue/Catalogue.h"
-#include "faults/Finding.h"
-#include "output/Folder.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
 #include "verbs/Verb.h"
@@ -71,7 +69,7 @@ ExitCode exportCatalogue(const Options& options) {
 Action addExport(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("export", "Write the schemas of a catalogue in their normal form");
-    addPaths(*verb, options->paths);
+    addPaths(*verb, options->paths, true);
     addRequired(*verb, "-o,--output", options->output,
                 "A file that ends in .ndjson gets one schema a line, -\nstands for standard output, and anything "
                 "else is a folder\nthat gets one file each",

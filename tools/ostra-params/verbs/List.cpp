@@ -84,7 +84,7 @@ ExitCode list(const Options& options) {
 Action addList(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("list", "List the objects of a catalogue: typeid, kind and name");
-    addOptionalPaths(*verb, options->paths);
+    addPaths(*verb, options->paths, false);
     verb->add_option(
             "--kind", options->kinds,
             "Only this kind, or these with commas between them;\nparameter, spec and range stand for all of them:\n" +

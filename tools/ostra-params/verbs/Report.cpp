@@ -1,5 +1,4 @@
 #include "catalogue/Catalogue.h"
-#include "faults/Folding.h"
 #include "output/Json.h"
 #include "output/OutputFile.h"
 #include "report/Page.h"
@@ -77,7 +76,7 @@ ExitCode report(const Options& options) {
 Action addReport(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("report", "Write a page to browse a catalogue with, in one file");
-    addPaths(*verb, options->paths);
+    addPaths(*verb, options->paths, true);
     addRequired(*verb, "-o,--output", options->output, "The page, an HTML file; - stands for standard output", "FILE");
     verb->footer("The page needs no network. What is faulty is left out of it, and listed.");
     return [options] { return report(*options); };

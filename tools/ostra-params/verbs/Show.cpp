@@ -81,7 +81,7 @@ Action addShow(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("show", "Show one object: what it says, what it names and what names it");
     addTypeId(*verb, options->typeId);
-    addOptionalPaths(*verb, options->paths);
+    addPaths(*verb, options->paths, false);
     verb->add_flag("--schema", options->isSchema, "Print its schema as the library writes it, indented");
     return [options] { return show(*options); };
 }

@@ -14,16 +14,6 @@ namespace Tool {
 
 namespace {
 
-CLI::Option* addPathOption(CLI::App& verb, std::vector<std::string>& paths, const std::string& otherwise) {
-    return verb
-        .add_option("PATH", paths,
-                    ".json files (one schema each), .ndjson and .jsonl files\n(one schema per line), folders to be "
-                    "searched for such\nfiles at all depths, and - for standard input" +
-                        otherwise)
-        ->check(refuseEmpty)
-        ->type_name("");
-}
-
 std::string severalHave(const std::string& text, const std::vector<const Object*>& objects) {
     constexpr std::size_t most = 10;
     std::string message = fmt::format("{} typeids have {} in them:", objects.size(), printable(text));
@@ -35,11 +25,16 @@ std::string severalHave(const std::string& text, const std::vector<const Object*
 
 } // namespace
 
-void addPaths(CLI::App& verb, std::vector<std::string>& paths) { addPathOption(verb, paths, "")->required(); }
-
-void addOptionalPaths(CLI::App& verb, std::vector<std::string>& paths) {
+void addPaths(CLI::App& verb, std::vector<std::string>& paths, bool isRequired) {
     paths = {"."};
-    addPathOption(verb, paths, "; the working folder\nwhen none is given");
+    verb.add_option(
+            "PATH", paths,
+            std::string(".json files (one schema each), .ndjson and .jsonl files\n(one schema per line), folders "
+                        "to be searched for such\nfiles at all depths, and - for standard input") +
+                (isRequired ? "" : "; the working folder\nwhen none is given"))
+        ->required(isRequired)
+        ->check(refuseEmpty)
+        ->type_name("");
 }
 
 void addRequired(CLI::App& verb, const std::string& name, std::string& value, const std::string& help,
@@ -52,12 +47,9 @@ std::string refuseEmpty(const std::string& argument) { return argument.empty() ?
 std::string kindIds() {
     constexpr std::size_t width = 50;
     std::string ids;
-    std::size_t lineBegin = 0;
     for (const Section& section : sections()) {
-        ids += ids.empty() ? "" : ",";
-        const bool isFull = ids.size() + section.id.size() - lineBegin > width;
-        ids += ids.empty() ? "" : isFull ? "\n" : " ";
-        lineBegin = isFull ? ids.size() : lineBegin;
+        const std::size_t taken = ids.size() - (ids.rfind('\n') + 1) + 1; // with a comma
+        ids += ids.empty() ? "" : taken + section.id.size() > width ? ",\n" : ", ";
         ids += section.id;
     }
     return ids;

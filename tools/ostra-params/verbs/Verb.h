@@ -37,10 +37,7 @@ Action addReport(CLI::App& program);
 /// @}
 
 /// Adds the paths of a catalogue to a verb: required, or the working folder when none is given.
-/// @{
-void addPaths(CLI::App& verb, std::vector<std::string>& paths);
-void addOptionalPaths(CLI::App& verb, std::vector<std::string>& paths);
-/// @}
+void addPaths(CLI::App& verb, std::vector<std::string>& paths, bool isRequired);
 
 /// Adds an argument that must be given, and not be empty, to a verb.
 void addRequired(CLI::App& verb, const std::string& name, std::string& value, const std::string& help,
@@ -59,8 +56,7 @@ ExitCode warnOfFaults(const Catalogue& catalogue);
 bool printFaults(const Catalogue& catalogue, std::string_view warningCode = {});
 
 /// There is no object of a typeid. Its message names those that may be meant.
-class NotFound : public std::runtime_error {
-public:
+struct NotFound : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
