@@ -1,15 +1,17 @@
 #include "catalogue/Input.h"
 
 #include "output/Json.h"
-#include "output/Progress.h"
 #include "output/Text.h"
 
 #include <fmt/format.h>
+
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <charconv>
+#include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
@@ -62,7 +64,7 @@ std::string originalOf(const std::string& path) {
 /// Puts copies behind all other files, so that a text that stands in both is faulty in the copy.
 void putCopiesLast(std::deque<std::string>& files) {
     const std::unordered_set<std::string> known(files.begin(), files.end());
-    std::ranges::stable_partition(files, [&](const std::string& file) {
+    std::stable_partition(files.begin(), files.end(), [&](const std::string& file) {
         const std::string original = originalOf(file);
         return original == file || !known.contains(original);
     });
@@ -88,6 +90,50 @@ private:
     std::set<std::string> seen_;
     fs::path folder_ = "/";
     fs::path canonicalFolder_ = "/";
+};
+
+/// Shows on a terminal's standard error how much of the files is read, once that takes more than a second.
+class Progress {
+public:
+    explicit Progress(const std::deque<std::string>& files) {
+        for (const std::string& file : files) {
+            std::error_code unknown; // the size of standard input, for one
+            const std::uintmax_t size = isShown_ ? fs::file_size(file, unknown) : 0;
+            total_ += unknown ? 0 : size;
+        }
+    }
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+    ~Progress() {
+        if (isDrawn_) {
+            std::fputs("\r\x1B[K", stderr);
+        }
+    }
+
+    /// Says that so many bytes are read.
+    void advance(std::uintmax_t bytes) {
+        if (!isShown_ || Clock::now() < nextDrawing_) {
+            return;
+        }
+        isDrawn_ = true;
+        nextDrawing_ = Clock::now() + std::chrono::milliseconds(100);
+        const auto read = static_cast<double>(bytes);
+        if (total_ == 0 || bytes > total_) { // more than was announced, as from standard input
+            fmt::print(stderr, "\rreading: {:.1f} MB", read / 1e6);
+        } else {
+            const double part = read / static_cast<double>(total_);
+            fmt::print(stderr, "\rreading [{:40}] {:3.0f} %", std::string(static_cast<std::size_t>(part * 40), '#'),
+                       part * 100);
+        }
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    bool isShown_ = ::isatty(STDERR_FILENO) == 1; // whether anybody could see it
+    bool isDrawn_ = false;
+    std::uintmax_t total_ = 0;
+    Clock::time_point nextDrawing_ = Clock::now() + std::chrono::seconds(1);
 };
 
 std::string readAll(std::istream& stream) {

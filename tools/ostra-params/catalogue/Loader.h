@@ -1,7 +1,6 @@
 #pragma once
 
 #include "catalogue/Describe.h"
-#include "catalogue/Headings.h"
 #include "catalogue/Input.h"
 #include "faults/Finding.h"
 

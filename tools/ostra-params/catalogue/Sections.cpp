@@ -27,8 +27,8 @@ std::vector<Section> makeSections() {
 /// Returns a word in small letters, with hyphens between its parts.
 std::string normal(std::string_view word) {
     std::string result = lower(word);
-    std::ranges::replace_if(
-        result, [](char character) { return character == ' ' || character == '_'; }, '-');
+    const auto isBlank = [](char character) { return character == ' ' || character == '_'; };
+    std::ranges::replace_if(result, isBlank, '-');
     return result;
 }
 

@@ -20,7 +20,7 @@ using Parameters::Fault;
 std::vector<Finding> ownFindings(const Input& input) {
     std::vector<Finding> findings;
     for (const Input::Failure& failure : input.failures()) {
-        findings.push_back({.code = fileUnreadable,
+        findings.push_back({.code = "file-unreadable",
                             .message = fmt::format("The file cannot be read: {}.", failure.reason),
                             .source = failure.before,
                             .place = {failure.file}});

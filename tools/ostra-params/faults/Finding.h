@@ -1,6 +1,5 @@
 #pragma once
 
-#include "catalogue/Headings.h"
 #include "catalogue/Input.h"
 #include "catalogue/Source.h"
 
@@ -30,8 +29,7 @@ struct Finding {
     std::string hint = {}; ///< What may help to mend it; often empty.
 };
 
-/// The code of files that cannot be read, and of texts that are no UTF-8.
-constexpr const char* fileUnreadable = "file-unreadable";
+/// The code of texts that are no UTF-8.
 constexpr const char* encodingInvalid = "encoding-invalid";
 
 /// Returns what is wrong with the input: what cannot be read, and the faults that the library found in the texts, with

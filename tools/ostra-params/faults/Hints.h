@@ -1,6 +1,5 @@
 #pragma once
 
-#include "catalogue/Headings.h"
 #include "catalogue/Input.h"
 
 #include <parameters/Fault.h>

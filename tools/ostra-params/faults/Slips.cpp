@@ -3,7 +3,6 @@
 #include "output/Text.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 
 namespace Tool {
@@ -11,35 +10,29 @@ namespace Tool {
 namespace {
 
 struct Slip {
-    std::string_view beginnings;
+    std::vector<std::string_view> beginnings;
     std::string_view hint;
 };
 
-/// What begins there, with blanks between, and what to say of it.
-constexpr std::array slips{
-    Slip{"// /* #", "JSON has no comments."},
-    Slip{"' ` \u2018 \u2019 \u201A \u201C \u201D \u201E \u00AB \u00BB", "strings stand between \" and nothing else."},
-    Slip{"\u00A0 \u200B \u202F \u3000", "this is no plain blank, though it looks like one or like nothing."},
-    Slip{"\uFEFF", "this is a second byte order mark."},
-    Slip{"True TRUE False FALSE", "true and false are written in small letters."},
-    Slip{"None NULL Null undefined", "leave out what has no value."},
-    Slip{"NaN nan Infinity inf", "JSON has no such number; a range without a limit has a flag that says so."},
-    Slip{"+", "a number has no plus sign."},
-    Slip{". -.", "a number begins with a digit."},
-    Slip{"<<<<<<< ======= >>>>>>> |||||||", "this is left from a merge: keep one of its sides."},
-    Slip{"=", "a colon stands between a name and its value."},
-    Slip{";", "commas stand between members and between elements."},
+/// What begins there, and what to say of it.
+const std::vector<Slip> slips{
+    {{"//", "/*", "#"}, "JSON has no comments."},
+    {{"'", "`", "\u2018", "\u2019", "\u201A", "\u201C", "\u201D", "\u201E", "\u00AB", "\u00BB"},
+     "strings stand between \" and nothing else."},
+    {{"\u00A0", "\u200B", "\u202F", "\u3000"}, "this is no plain blank, though it looks like one or like nothing."},
+    {{"\uFEFF"}, "this is a second byte order mark."},
+    {{"True", "TRUE", "False", "FALSE"}, "true and false are written in small letters."},
+    {{"None", "NULL", "Null", "undefined"}, "leave out what has no value."},
+    {{"NaN", "nan", "Infinity", "inf"}, "JSON has no such number; a range without a limit has a flag that says so."},
+    {{"+"}, "a number has no plus sign."},
+    {{".", "-."}, "a number begins with a digit."},
+    {{"<<<<<<<", "=======", ">>>>>>>", "|||||||"}, "this is left from a merge: keep one of its sides."},
+    {{"="}, "a colon stands between a name and its value."},
+    {{";"}, "commas stand between members and between elements."},
 };
 
-bool beginsWithOneOf(std::string_view text, std::string_view beginnings) {
-    while (!beginnings.empty()) {
-        const std::size_t length = std::min(beginnings.find(' '), beginnings.size());
-        if (text.starts_with(beginnings.substr(0, length))) {
-            return true;
-        }
-        beginnings.remove_prefix(std::min(length + 1, beginnings.size()));
-    }
-    return false;
+bool beginsWithOneOf(std::string_view text, const std::vector<std::string_view>& beginnings) {
+    return std::ranges::any_of(beginnings, [&](std::string_view each) { return text.starts_with(each); });
 }
 
 bool isLetter(char character) { return std::isalpha(static_cast<unsigned char>(character)) != 0; }

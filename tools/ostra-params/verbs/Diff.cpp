@@ -47,7 +47,7 @@ struct Change {
     std::vector<PropertyChange> properties = {};
 };
 
-/// What the signs of changes stand for, in the order of the lists.
+/// What the signs of changes stand for.
 const std::map<char, const char*> words{{'+', "added"}, {'-', "removed"}, {'~', "changed"}};
 
 /// Adds what an object says, its kind and name among it, to one side. What other objects say changes there, not here.
@@ -118,10 +118,7 @@ std::string asText(const std::vector<Change>& changes) {
 }
 
 std::string asJson(const std::vector<Change>& changes) {
-    Json json;
-    for (const auto& [sign, word] : words) {
-        json[word] = Json::array();
-    }
+    Json json{{"added", Json::array()}, {"removed", Json::array()}, {"changed", Json::array()}};
     for (const auto& [sign, object, properties] : changes) {
         Json entry{{"typeid", object->typeId}, {"kind", object->section->id}, {"name", object->name}};
         for (const auto& [name, before, after] : properties) {

@@ -6,7 +6,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <array>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -55,13 +54,12 @@ Json dataOf(const Catalogue& catalogue) {
 
 std::string pageOf(const Catalogue& catalogue) {
     std::string page(Page::html);
-    // Data last, so that no mark is looked for in what schemas say.
-    const std::array<std::pair<std::string_view, std::string>, 3> parts{{{"@STYLE@", std::string(Page::css)},
-                                                                         {"@SCRIPT@", std::string(Page::js)},
-                                                                         {"@DATA@", toTextInHtml(dataOf(catalogue))}}};
-    for (const auto& [mark, text] : parts) {
+    const auto fill = [&](std::string_view mark, std::string_view text) {
         page.replace(page.find(mark), mark.size(), text);
-    }
+    };
+    fill("@STYLE@", Page::css);
+    fill("@SCRIPT@", Page::js);
+    fill("@DATA@", toTextInHtml(dataOf(catalogue))); // last, so that no mark is looked for in what schemas say
     return page;
 }
 
