@@ -342,6 +342,11 @@ const FaultRow dependencies[] = {
       {"c", Support::subCategoryText("s", "m")},
       {"t", Support::subCategoryText("x", "s")}},
      {R"(parent-not-major s needs category at t:/constants/1/typedValue/typeid "s" beside c:/typeid)"}},
+    {"RangeWithABoundaryOfAnotherType", // which limits nothing, and so is above or below nothing
+     {{"t", of(intRange, constant("fromBottom", "true") + "," + constant("fromTop", "true") + "," +
+                             constant("bottomBoundary", "7") + "," + constant("topBoundary", "1.5"))}},
+     {"integer-expected topBoundary at t:/constants/3/value 1.5"},
+     "Expected an integer."},
 };
 
 const FaultRow warnings[] = {

@@ -63,6 +63,12 @@ const Hint hints[] = {
     {"ConstantAmongProperties",
      R"({"typeid":"a","inherits":["norvex.parameter:group-1.0.0"],"properties":[{"id":"name","value":"A"}]})",
      "name stands among the properties."},
+    {"MisspeltArrayOfConstants",
+     R"({"typeid":"a","inherits":["norvex.parameter:group-1.0.0"],"constant":[{"id":"name","value":"A"}]})",
+     "there is constant: did you mean constants?"},
+    {"TypeIdUnderAnotherName", // alone where a typeid belongs
+     schema("p", "norvex.parameter:parameter.bool-2.0.0", R"(,{"id":"group","typedValue":{"kind":"g"}})"),
+     "there is kind: did you mean typeid?"},
     {"MisspeltTypeId", R"({"typeId":"a","inherits":["norvex.parameter:group-1.0.0"]})",
      "there is typeId: did you mean typeid?"},
     {"MisspeltInherits", R"({"typeid":"a","inherit":["norvex.parameter:group-1.0.0"]})",
