@@ -30,6 +30,7 @@ using TextId = std::size_t;
 /// What is known of a text once it is read.
 struct ReadText {
     static constexpr std::size_t unknownKind = StoreOrder::size;
+    static constexpr std::size_t unit = unknownKind + 1;
 
     const std::string* key;
     const std::string* text;
@@ -41,6 +42,12 @@ struct ReadText {
 
     std::string_view typeId() const { return texts.size() > 0 ? texts[0] : std::string_view(); }
 };
+
+/// Whether a fault leaves open what a text is: an installed units library may refuse one for any reason.
+bool isOfNoBase(const FaultData& fault) {
+    return fault.code == EngineMessages::messages("base-unrecognized").code ||
+           fault.code == EngineMessages::messages("unit-refused").code;
+}
 
 /// Records that are sound enough to look for what they name, but not to be registered.
 template <class K>
@@ -125,7 +132,7 @@ private:
 
 bool Review::isTaken(const Directory::Key& key) {
     return !key.typeId.empty() && (registry_.find(key) != nullptr || isReserved(key.typeId) ||
-                                   units_.isRegistered(std::string(key.typeId)) || (hasFaulty_ && textOf(key.typeId)));
+                                   units_.isRegistered(key.typeId) || (hasFaulty_ && textOf(key.typeId)));
 }
 
 void Review::read(const std::string& key, const std::string& text) {
@@ -217,6 +224,9 @@ void Review::readUnit(TextId id, bool isTaken) {
             fault.message = refusal.what();
             found.push_back(std::move(fault));
         }
+    }
+    if (std::none_of(found.begin(), found.end(), [](const FaultData& fault) { return isOfNoBase(fault); })) {
+        texts_[id].kind = ReadText::unit;
     }
     addFaults(id, std::move(found));
 }
@@ -388,7 +398,7 @@ bool Review::isConsequence(const Missing& missing, TextId named) const {
     if (other.kind == ReadText::unknownKind) {
         return true;
     }
-    bool isOfKind = false;
+    bool isOfKind = other.kind == ReadText::unit && missing.cause.expected == Finder::unitWord;
     withKind(other.kind, [&]<class K>() { isOfKind = K::word == missing.cause.expected; });
     return isOfKind && (other.kind != text.kind || other.pass < text.pass);
 }

@@ -8,14 +8,13 @@ namespace Parameters::Internal {
 
 std::optional<Units::Unit> Finder::requireUnit(std::string_view typeId, std::string_view inConstant,
                                                std::string_view schemaTypeId) const {
-    constexpr std::string_view word = "unit";
     if (auto unit = findUnit(std::string(typeId))) {
         return unit;
     }
     if (binds()) {
-        failMissing(word, typeId, schemaTypeId);
+        failMissing(unitWord, typeId, schemaTypeId);
     } else {
-        fail(messages("unit-missing"), {typeId, inConstant, schemaTypeId}, typeId, word);
+        fail(messages("unit-missing"), {typeId, inConstant, schemaTypeId}, typeId, unitWord);
     }
     return std::nullopt;
 }

@@ -47,6 +47,7 @@ struct Unresolved {
 class Finder {
 public:
     enum class Purpose { resolution, binding };
+    static constexpr std::string_view unitWord = "unit"; // where kinds have their own
 
     explicit Finder(Purpose purpose) : purpose_(purpose) {}
     Finder(const Finder&) = delete;

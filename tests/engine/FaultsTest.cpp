@@ -348,6 +348,13 @@ TEST(FaultsOfNames, AreConsequencesOfATextWithoutAKnownBase) {
                "base-unrecognized norvex.spec:disciplin-1.0.0 at 2:/inherits/0 \"norvex.spec:disciplin-1.0.0\""}));
 }
 
+TEST(FaultsOfNames, AreNoConsequencesOfAFaultyUnitWhereSomethingElseHadToBe) {
+    EXPECT_EQ(faultsOf({{"1", boolSpecText("s", "u")}, {"2", unitText("u", "")}}),
+              (Lines{"dependency-missing u needs discipline at 1:/constants/1/typedValue/typeid \"u\" "
+                     "beside 2:/typeid",
+                     "non-empty-string-expected name at 2:/constants/0/value \"\""}));
+}
+
 TEST(FaultsOfNames, AreConsequencesOfUnitsThatAreFaulty) {
     EXPECT_EQ(faultsOf({{"1", measurableSpecText("m", "u", {"u"})}, {"2", unitText("u", "")}}),
               (Lines{"unit-missing u needs unit at 1:/constants/3/typedValue/typeid \"u\" beside 2:/typeid after "
