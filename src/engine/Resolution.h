@@ -113,10 +113,7 @@ private:
 
 template <class Record>
 void Resolution::takeFaults(const Record& record) {
-    struct Hash {
-        std::size_t operator()(std::string_view typeId) const { return Ostra::hashOf(typeId); }
-    };
-    std::unordered_map<std::string_view, std::size_t, Hash> counts;
+    std::unordered_map<std::string_view, std::size_t, Ostra::TextHash> counts;
     std::unordered_map<const char*, std::size_t> occurrences; // of what stands there in the record
     const auto countIn = [&](const Texts& named) {
         for (const std::string_view typeId : named) {

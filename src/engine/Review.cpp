@@ -85,9 +85,6 @@ private:
         std::string named; // a copy, where the cause has a view
         std::size_t occurrence;
     };
-    struct Hash {
-        std::size_t operator()(std::string_view typeId) const { return Ostra::hashOf(typeId); }
-    };
 
     bool isTaken(const Directory::Key& key);
     static void tellTaken(const Ostra::Schema& schema);
@@ -124,7 +121,8 @@ private:
     std::vector<Missing> missing_;
     Ostra::Inspection inspection_;
     bool hasFaulty_ = false;
-    std::unordered_map<std::string_view, TextId, Hash> byTypeId_; // the first text of each, as far as it is made
+    std::unordered_map<std::string_view, TextId, Ostra::TextHash>
+        byTypeId_; // the first text of each, as far as it is made
     std::size_t indexed_ = 0;
     std::unordered_map<TextId, Fault::Place> typeIdPlaces_;
     std::vector<std::pair<std::size_t, TextId>> consequences_; // which fault, and of which text

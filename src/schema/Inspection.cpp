@@ -11,15 +11,6 @@
 
 namespace Ostra {
 
-namespace {
-
-/// No text can make a table of this hash degenerate.
-struct Hash {
-    std::size_t operator()(std::string_view text) const { return hashOf(text); }
-};
-
-} // namespace
-
 void Inspection::begin(std::string_view text, const ParsedText& parsed, const JSONValue& root) {
     text_ = text;
     parsed_ = parsed;
@@ -92,7 +83,7 @@ std::vector<DocumentFault> Inspection::faults() {
 }
 
 std::vector<Spot> Inspection::placesOf(const std::vector<Reference>& references) const {
-    std::unordered_map<std::string_view, std::vector<const JSONValue*>, Hash> byTypeId;
+    std::unordered_map<std::string_view, std::vector<const JSONValue*>, TextHash> byTypeId;
     for (const JSONValue* const value : references_) {
         byTypeId[stringIn(*value)].push_back(value);
     }

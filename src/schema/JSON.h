@@ -130,9 +130,8 @@ public:
     MaybeView(std::nullopt_t) {}
     // NOLINTEND(google-explicit-constructor)
 
-    bool has_value() const {
-        return view_.value_ != nullptr;
-    } // NOLINT(readability-identifier-naming): as std::optional
+    // NOLINTNEXTLINE(readability-identifier-naming): as of std::optional
+    bool has_value() const { return view_.value_ != nullptr; }
     explicit operator bool() const { return has_value(); }
     const JSONView& operator*() const { return view_; }
     const JSONView* operator->() const { return &view_; }

@@ -86,14 +86,7 @@ private:
 
     bool isResolved(const Entry& entry) const { return entry.position < resolved_; }
 
-    /// No catalogue can make a table of this hash degenerate. Not noexcept: the table then keeps the hashes.
-    /// Transparent: it can be asked for a view.
-    struct Hash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view typeId) const { return Ostra::hashOf(typeId); }
-    };
-
-    std::unordered_map<std::string, Entry, Hash, std::equal_to<>> entries_;
+    std::unordered_map<std::string, Entry, Ostra::TextHash, std::equal_to<>> entries_;
     std::size_t resolved_ = 0;
 };
 
