@@ -14,6 +14,7 @@
 
 namespace {
 
+using namespace std::string_literals;
 using Parameters::ParametersEngine;
 using Parameters::ValidationException;
 using Support::boolParameterText;
@@ -77,6 +78,11 @@ TEST(FindUnresolvable, NamesEveryFaultOfEveryKind) {
 TEST(FindUnresolvable, NamesWhatIsOfAnotherKindAsMissing) {
     const ParametersEngine engine = engineWithPending({boolSpecText("s", "g"), groupText("g")});
     EXPECT_EQ(engine.findUnresolvable(), (Faults{{"s", unresolvable("g", "s")}}));
+}
+
+TEST(FindUnresolvable, TellsATypeIdWholeThatHasANul) {
+    const ParametersEngine engine = engineWithPending({boolSpecText("s\0t"s, "d\0e"s), disciplineText("d")});
+    EXPECT_EQ(engine.findUnresolvable(), (Faults{{"s\0t"s, unresolvable("d\0e"s, "s\0t"s)}}));
 }
 
 TEST(FindUnresolvable, ListsWhatNamesAFaultySchemaToo) {
