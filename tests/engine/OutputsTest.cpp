@@ -1,3 +1,4 @@
+#include "support/Engines.h"
 #include "support/Messages.h"
 #include "support/Picture.h"
 #include "support/RowNames.h"
@@ -180,6 +181,87 @@ TEST(ExportedSchemas, OfEachKindMakeTheSameObjectInAnotherEngine) {
             << kind.info.id();
     });
 }
+
+TEST(ExportedSchemas, WithAnEmptyNameAreRefused) {
+    Parameters::forEachKind([](auto kind) {
+        using Kind = decltype(kind);
+        if constexpr (Support::Sample<Kind>::hasName) {
+            ParametersEngine engine;
+            Support::addSample<Kind>(engine, "x", "");
+            EXPECT_EQ(Support::refusalOf(engine.getSchema("x")), "Expected a non-empty string.") << kind.info.id();
+        }
+    });
+}
+
+/// What an object made in code has, and its schema does not say.
+struct Loss {
+    const char* name;
+    void (*add)(ParametersEngine& engine);
+    std::string (*describe)(const ParametersEngine& engine);
+    const char* had;
+    const char* readsBackAs;
+};
+
+class LossOnTheRoundTrip : public testing::TestWithParam<Loss> {};
+
+TEST_P(LossOnTheRoundTrip, IsOfWhatTheSchemaDoesNotSay) {
+    ParametersEngine engine = Support::engineOf({Support::disciplineText("discipline", "Registered")});
+    ParametersEngine other = engine;
+    GetParam().add(engine);
+    EXPECT_EQ(GetParam().describe(engine), GetParam().had);
+    other.registerSchemas({{"x", engine.getSchema("x")}});
+    EXPECT_EQ(GetParam().describe(other), GetParam().readsBackAs);
+}
+
+SpecCore ownSpec(const std::string& typeId) { return {typeId, "Mine", Taxon("unknown", "Mine")}; }
+
+void addBoolParameter(ParametersEngine& engine, const std::string& spec) {
+    engine.registerBoolParameter({ParameterCore("x", "Name", "", "", false), BoolSpec(ownSpec(spec))});
+}
+
+void addIntParameter(ParametersEngine& engine, const std::string& spec) {
+    engine.registerIntParameter({ParameterCore("x", "Name", "", "", false), Parameters::IntSpec(ownSpec(spec)),
+                                 Parameters::IntRange(false, 0, false, 0)});
+}
+
+void addBoolSpec(ParametersEngine& engine, const std::string& discipline) {
+    engine.registerBoolSpec(BoolSpec(SpecCore("x", "Name", Taxon(discipline, "Mine"))));
+}
+
+std::string boolSpecIn(const ParametersEngine& engine) {
+    return Support::describe(engine.getBoolParameter("x").getSpec());
+}
+
+std::string intSpecIn(const ParametersEngine& engine) {
+    return Support::describe(engine.getIntParameter("x").getSpec());
+}
+
+std::string disciplineIn(const ParametersEngine& engine) {
+    return Support::describe(engine.getBoolSpec("x").getCore().getDiscipline());
+}
+
+const Loss losses[] = {
+    {"OwnBoolSpecOfTheBuiltInTypeId", [](ParametersEngine& e) { addBoolParameter(e, "norvex.spec:spec.bool-1.0.0"); },
+     boolSpecIn, R"(("norvex.spec:spec.bool-1.0.0" "Mine" of ("unknown" "Mine")))",
+     R"(("norvex.spec:spec.bool-1.0.0" "Yes/No" of ("norvex.spec:discipline-1.0.0" "Common")))"},
+    {"OwnBoolSpecOfAnotherVersion", [](ParametersEngine& e) { addBoolParameter(e, "norvex.spec:spec.bool-1.4.0"); },
+     boolSpecIn, R"(("norvex.spec:spec.bool-1.4.0" "Mine" of ("unknown" "Mine")))",
+     R"(("norvex.spec:spec.bool-1.4.0" "Yes/No" of ("norvex.spec:discipline-1.0.0" "Common")))"},
+    {"OwnIntSpecOfTheBuiltInTypeId", [](ParametersEngine& e) { addIntParameter(e, "norvex.spec:spec.int64-2.0.0"); },
+     intSpecIn, R"(("norvex.spec:spec.int64-2.0.0" "Mine" of ("unknown" "Mine")))",
+     R"(("norvex.spec:spec.int64-2.0.0" "Integer" of ("norvex.spec:discipline-1.0.0" "Common")))"},
+    {"OwnIntSpecOfAnotherVersion", [](ParametersEngine& e) { addIntParameter(e, "norvex.spec:spec.int64-2.4.0"); },
+     intSpecIn, R"(("norvex.spec:spec.int64-2.4.0" "Mine" of ("unknown" "Mine")))",
+     R"(("norvex.spec:spec.int64-2.4.0" "Integer" of ("norvex.spec:discipline-1.0.0" "Common")))"},
+    {"OwnDisciplineOfTheBuiltInTypeId", [](ParametersEngine& e) { addBoolSpec(e, "norvex.spec:discipline-1.0.0"); },
+     disciplineIn, R"(("norvex.spec:discipline-1.0.0" "Mine"))", R"(("norvex.spec:discipline-1.0.0" "Common"))"},
+    {"OwnDisciplineOfAnotherVersion", [](ParametersEngine& e) { addBoolSpec(e, "norvex.spec:discipline-1.4.0"); },
+     disciplineIn, R"(("norvex.spec:discipline-1.4.0" "Mine"))", R"(("norvex.spec:discipline-1.4.0" "Common"))"},
+    {"OwnDisciplineOfARegisteredTypeId", [](ParametersEngine& e) { addBoolSpec(e, "discipline"); }, disciplineIn,
+     R"(("discipline" "Mine"))", R"(("discipline" "Registered"))"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Outputs, LossOnTheRoundTrip, testing::ValuesIn(losses), Support::nameOfRow);
 
 const Export exports[] = {
     {"Discipline", "discipline",

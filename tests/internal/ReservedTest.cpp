@@ -73,7 +73,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"RangedReferenceParameter", "norvex.parameter:parameter.reference.ranged-2.0.0"},
                     Row{"StringParameter", "norvex.parameter:parameter.string-3.0.0"},
                     Row{"MajorCategory", "norvex.talmo.category:majorCategory-1.0.0"},
-                    Row{"SubCategory", "norvex.talmo.category:subCategory-1.0.0"}, Row{"Enumeration", "Enum"}),
+                    Row{"SubCategory", "norvex.talmo.category:subCategory-1.0.0"}, Row{"Enumeration", "Enum"},
+                    Row{"Unit", "norvex.unit:unit-1.0.0"}),
     Support::nameOfRow);
 
 INSTANTIATE_TEST_SUITE_P(Ordinary, FreeTypeId,

@@ -188,6 +188,15 @@ TYPED_TEST(ParameterCoreOfEachKind, TakesItsGroupAsAPlainValueToo) {
                    [](const ParameterCore& core) { EXPECT_EQ(core.getGroup().getName(), "Dam Safety"); });
 }
 
+TYPED_TEST(ParameterCoreOfEachKind, TakesTheValueOfADefinitionThatHasATypedValueToo) {
+    const std::string constants = R"({"id": "name", "typedValue": "Lock", "value": "Gate"},
+        {"id": "group", "typedValue": {"typeid": "missing"}, "value": {"typeid": "safety"}})";
+    this->expectOf(constants, [](const ParameterCore& core) {
+        EXPECT_EQ(core.getName(), "Gate");
+        EXPECT_EQ(core.getGroup().getName(), "Dam Safety");
+    });
+}
+
 TYPED_TEST(ParameterCoreOfEachKind, IsRefusedForItsTypeIdBeforeItsGroup) {
     const auto refusal = [](const std::string& typeId) {
         ParametersEngine engine = engineOf({disciplineText("gate")}, TestFixture::plant());
