@@ -349,6 +349,27 @@ TEST(UnitsEngineOfAnEngine, StaysWhereItIs) {
     EXPECT_EQ(units.getUnit("u").getName(), "The unit");
 }
 
+TEST(UnitsEngineOfAnEngine, KnowsNoTypeIdThatOnlyTheEngineHas) {
+    Parameters::forEachKind([](auto kind) {
+        using Kind = decltype(kind);
+        ParametersEngine engine;
+        Support::addSample<Kind>(engine, "x", "1");
+        engine.registerSchema(Support::groupText("pending"));
+        Units::UnitsEngine& units = engine.getUnitsEngine();
+        for (const char* typeId : {"x", "pending", "norvex.parameter:group-1.0.0"}) {
+            EXPECT_FALSE(units.isRegistered(typeId)) << kind.info.id();
+            units.registerSchema(Support::unitText(typeId, "The unit"));
+        }
+        engine.resolveSchemas();
+        for (const char* typeId : {"x", "pending", "norvex.parameter:group-1.0.0"}) {
+            EXPECT_EQ(units.getUnit(typeId).getName(), "The unit") << kind.info.id();
+        }
+        EXPECT_EQ(Support::contentIn<Kind>(engine, "x"), "1") << kind.info.id();
+        EXPECT_EQ(engine.getGroup("pending").getName(), "Name");
+        EXPECT_EQ(engine.getGroup("norvex.parameter:group-1.0.0").getName(), "Other");
+    });
+}
+
 TEST(UnitsEngineOfAnEngine, IsEmptyAtFirst) { EXPECT_TRUE(ParametersEngine().getUnitsEngine().getAllUnits().empty()); }
 
 } // namespace
