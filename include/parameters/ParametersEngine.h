@@ -152,11 +152,12 @@ public:
     /// @name Registering objects made in code
     /// @{
 
-    /// Registers an object made in code. What it names by type identifier must be registered or built in; the
-    /// registered objects take the place of those that it was made with.
+    /// Registers an object made in code. What it names by type identifier must be registered and resolved, or built in.
+    /// In most places the registered object takes the place of the one given; a spec keeps its discipline as it is.
+    /// @ref md_docs_engine_life "The life of an engine" tells what holds for each kind.
     /// @throws ValidationException "Typeid must not be empty."
     /// @throws ValidationException "Schema with typeid T is already registered." if T names anything at all: a schema
-    ///         or object of any kind, a unit, or a built-in identifier.
+    ///         or object of any kind, or a unit; or if it contains a reserved identifier.
     /// @throws ValidationException "Could not find K with typeid T." if the object names something that is not there.
     /// @throws ValidationException if the object itself is faulty: an enumeration without values or with one twice, a
     ///         string range with a value twice, a string parameter whose range is not what its base says, a subcategory
@@ -184,12 +185,13 @@ public:
     /// @}
 
     /// Returns whether a type identifier is taken: by a schema, resolved or not, by an object, by a unit, or because it
-    /// contains a built-in identifier.
+    /// contains the version prefix of a reserved identifier: that of a built-in object or of a base of ranges.
     bool isRegistered(const std::string& typeId) const;
 
-    /// Returns the units engine, through which units can be registered and resolved directly. The reference is good
-    /// until the engine is assigned to or destroyed; when the engine is moved, it belongs to the new one. An engine
-    /// whose units engine was moved from may only be assigned to or destroyed.
+    /// Returns the units engine, through which units can be registered and resolved directly, under any type identifier
+    /// that no unit has: it does not know which are taken in this engine. The reference is good until the engine is
+    /// assigned to or destroyed; when the engine is moved, it belongs to the new one. An engine whose units engine was
+    /// moved from may only be assigned to or destroyed.
     Units::UnitsEngine& getUnitsEngine();
 
     /// Returns what values a parameter schema describes; None for other kinds, for enumeration parameters, and for a
@@ -217,7 +219,7 @@ public:
     /// @return the type identifiers that the schema names and that are not registered yet: schemas first, then units.
     /// @throws ValidationException if the text is no schema, or one with a fault that its kind finds.
     /// @throws ValidationException "Schema with typeid T is already registered." if T is that of a schema or object, of
-    ///         a unit, or built in.
+    ///         a unit, or contains a reserved identifier.
     /// @throws ValidationException "Inheritance from an unrecognized base schema." if it is of no kind of this engine.
     ///
     /// An application that gets its schemas one by one asks for what is missing until nothing is:
