@@ -126,6 +126,19 @@ function(ostra_install_pkg_config target)
     )
 endfunction()
 
+# ostra_install_debuggers(<target>): gdb loads a script of a library's name by itself, when it lies below the folder in
+# which gdb looks under the full name of the library.
+function(ostra_install_debuggers target)
+    if(BUILD_SHARED_LIBS AND UNIX AND NOT APPLE)
+        install(
+            FILES ${PROJECT_SOURCE_DIR}/debuggers/ostra_gdb.py
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR}
+            RENAME $<TARGET_FILE_NAME:${target}>-gdb.py
+            COMPONENT ${target}-dev
+        )
+    endif()
+endfunction()
+
 # ostra_install_package(<target> DEPENDENCIES <library>...): the library, its headers, and the CMake package of its
 # name, which finds the packages of the dependencies (Ostra::Units is in OstraUnits). What runs is in the component of
 # the target's name, what is compiled with in the component <target>-dev.
@@ -144,6 +157,7 @@ function(ostra_install_package target)
         )
     endforeach()
     ostra_install_pkg_config(${target} DEPENDENCIES ${arg_DEPENDENCIES})
+    ostra_install_debuggers(${target})
     set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/${target})
     configure_package_config_file(
         ${PROJECT_SOURCE_DIR}/cmake/Config.cmake.in ${target}Config.cmake INSTALL_DESTINATION ${package_folder}

@@ -1,0 +1,227 @@
+"""Shows values of OstraParameters and OstraUnits in gdb by type identifier and name.
+
+A library may be without debug information, so that gdb does not know the data behind a handle. It is read as it lies in
+memory: in 64-bit programs with libstdc++. What does not look like that data is shown as the pointer that it is.
+"""
+
+import codecs
+import os
+import struct
+
+import gdb
+import gdb.printing
+
+WORD = 8
+STRING = 4 * WORD  # the size of a std::string
+SHOWN = 200  # the bytes that are shown of a text
+CHECKED = 1024  # the texts of a block that are looked at; nonsense may claim billions
+
+
+class Damaged(Exception):
+    """This memory cannot be what it should be."""
+
+
+def read(format, address):
+    size = struct.calcsize("=" + format)
+    return struct.unpack("=" + format, bytes(gdb.selected_inferior().read_memory(address, size)))
+
+
+def text(address, length):
+    """The beginning of a text, as far as it can be shown on this terminal."""
+    if length:
+        read("s", address + length - 1)  # a length of nonsense leads out of the memory
+    shown = min(length, SHOWN)
+    content = bytes(gdb.selected_inferior().read_memory(address, shown)) if shown else b""
+    characters = codecs.getincrementaldecoder("utf-8")("backslashreplace").decode(content, shown == length)
+    printable = "".join(c if c.isprintable() else c.encode("unicode_escape").decode() for c in characters)
+    charset = gdb.target_charset()
+    return printable.encode(charset, "backslashreplace").decode(charset) + ("..." if shown < length else "")
+
+
+def texts(block):
+    """What a Texts holds: a count of owners, one of texts, where each text ends, and the texts."""
+    owners, count = read("II", block)
+    ends = read(f"{min(count, CHECKED)}I", block + 8)
+    begins = (0,) + ends
+    if owners == 0 or any(begin > end for begin, end in zip(begins, ends)):
+        raise Damaged
+    characters = block + 8 + 4 * count
+    return [(characters + begin, end - begin) for begin, end in zip(begins, ends)]
+
+
+def texts_of(data, least):
+    found = texts(*read("Q", data))
+    if len(found) < least:
+        raise Damaged
+    return found
+
+
+def quoted(address, length):
+    return f'"{text(address, length)}"'
+
+
+def listed(texts):
+    """The texts in braces, and no more of them than a text is long."""
+    parts, length = [], 0
+    for part in texts:
+        if length >= SHOWN:
+            parts.append("...")
+            break
+        parts.append(quoted(*part))
+        length += len(parts[-1])
+    return "{" + ", ".join(parts) + "}"
+
+
+def string(address):
+    """A std::string begins with the address and the length of its text."""
+    return read("QQ", address)
+
+
+def flag(address):
+    (byte,) = read("B", address)
+    if byte > 1:
+        raise Damaged
+    return byte == 1
+
+
+def named(data):
+    typeid, name = texts_of(data, 2)[:2]
+    return f"{text(*typeid)} {quoted(*name)}"
+
+
+def identified(data):
+    return text(*texts_of(data, 1)[0])
+
+
+def enumeration(data):
+    typeid, *identifiers = texts_of(data, 1)
+    return f"{text(*typeid)} {listed(identifiers)}"
+
+
+def bounded(number):
+    def show(data):
+        parts = [identified(data)]
+        for preposition, present in (("from", data + WORD), ("to", data + 3 * WORD)):
+            if flag(present):
+                parts.append(f"{preposition} {read(number, present + WORD)[0]}")
+        return " ".join(parts)
+
+    return show
+
+
+def major_component(data):
+    return named(*read("Q", data))  # its domain
+
+
+def set_component(data):
+    return listed(texts_of(data, 0))
+
+
+def regex_component(data):
+    return quoted(*texts_of(data, 1)[0])
+
+
+def fault(data):
+    length, code, severity = read("QQI", data)
+    if severity > 1:
+        raise Damaged
+    return f"{('error', 'warning')[severity]} {text(code, length)} {quoted(*string(data + 3 * WORD))}"
+
+
+def unit(data):
+    return f"{text(*string(data))} {quoted(*string(data + STRING))}"
+
+
+CLASSES = {
+    "Parameters::BoolParameter": named,
+    "Parameters::BoolSpec": named,
+    "Parameters::Category": named,
+    "Parameters::Enumeration": enumeration,
+    "Parameters::EnumerationParameter": named,
+    "Parameters::Fault": fault,
+    "Parameters::FloatRange": bounded("d"),
+    "Parameters::GeneralSpec": named,
+    "Parameters::IntParameter": named,
+    "Parameters::IntRange": bounded("q"),
+    "Parameters::IntSpec": named,
+    "Parameters::MajorCategoryComponent": major_component,
+    "Parameters::MeasurableParameter": named,
+    "Parameters::MeasurableSpec": named,
+    "Parameters::ParameterCore": named,
+    "Parameters::ReferenceParameter": named,
+    "Parameters::ReferenceSpec": named,
+    "Parameters::RegexStringRangeComponent": regex_component,
+    "Parameters::SetStringRangeComponent": set_component,
+    "Parameters::SpecCore": named,
+    "Parameters::StringParameter": named,
+    "Parameters::StringRange": identified,
+    "Parameters::StringSpec": named,
+    "Parameters::SubCategoryComponent": identified,
+    "Parameters::Taxon": named,
+    "Units::Unit": unit,
+}
+
+
+def members(value):
+    """The pointers in a value, however its members are called."""
+    type = value.type.strip_typedefs()
+    if type.code == gdb.TYPE_CODE_PTR:
+        yield int(value)
+    elif type.code == gdb.TYPE_CODE_STRUCT:
+        for field in type.fields():
+            yield from members(value[field])
+
+
+def pointers(handle):
+    """The two pointers of a handle: to its data, and to the counts of its owners."""
+    if handle.address is None:  # what a function returned
+        data, counts = members(handle)
+        return data, counts
+    return read("QQ", int(handle.address))  # a compiler may have said nothing of its members
+
+
+def check_owned(counts):
+    """Data that nobody owns is gone; its memory may still look like it."""
+    functions, owners, others = read("Qii", counts)
+    read("Q", functions)
+    if owners <= 0 or others <= 0:
+        raise Damaged
+
+
+class HandlePrinter:
+    def __init__(self, name, show, handle):
+        self.name = name
+        self.show = show
+        self.handle = handle
+
+    def to_string(self):
+        handle = self.handle
+        if handle.type.code in (gdb.TYPE_CODE_REF, gdb.TYPE_CODE_RVALUE_REF):
+            handle = handle.referenced_value()
+        try:
+            data, counts = pointers(handle)
+        except (ValueError, gdb.error):
+            return f"{self.name} <unknown>"
+        try:
+            check_owned(counts)
+            return f"{self.name} {self.show(data)}"
+        except (Damaged, OverflowError, gdb.error):
+            return f"{self.name} <{data:#x}>"
+
+
+def register(library, objfile):
+    printers = gdb.printing.RegexpCollectionPrettyPrinter(library)
+    for type, show in CLASSES.items():
+        namespace, name = type.split("::")
+        if library == "Ostra" + namespace:
+            printers.add_printer(
+                name, f"^{type}$", lambda handle, name=name, show=show: HandlePrinter(name, show, handle)
+            )
+    gdb.printing.register_pretty_printer(objfile, printers, replace=True)
+
+
+# gdb loads this file with each of the libraries, under its name; one that is sourced by hand is for both.
+loaded_with = gdb.current_objfile()
+for library in ("OstraParameters", "OstraUnits"):
+    if loaded_with is None or os.path.basename(loaded_with.filename).startswith(f"lib{library}."):
+        register(library, loaded_with)
