@@ -4,9 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
+#include <sstream>
 #include <string>
+#include <string_view>
 #include <type_traits>
+#include <unordered_set>
 #include <utility>
 
 namespace {
@@ -18,6 +22,10 @@ static_assert(std::is_nothrow_copy_constructible_v<Unit>);
 static_assert(std::is_nothrow_copy_assignable_v<Unit>);
 static_assert(std::is_nothrow_move_constructible_v<Unit>);
 static_assert(std::is_nothrow_move_assignable_v<Unit>);
+static_assert(std::is_nothrow_swappable_v<Unit>);
+static_assert(noexcept(std::declval<const Unit&>().typeId()));
+static_assert(noexcept(std::declval<const Unit&>().name()));
+static_assert(noexcept(std::declval<const Unit&>().symbol()));
 
 Unit unitOf(const std::string& typeId) { return {typeId, "Name", "Symbol"}; }
 
@@ -26,6 +34,26 @@ TEST(Unit, AnswersWhatItWasMadeFrom) {
     EXPECT_EQ(unit.getTypeId(), "ship.unit:knot-1.0.0");
     EXPECT_EQ(unit.getName(), "Knot");
     EXPECT_EQ(unit.getSymbol(), "kn");
+}
+
+TEST(Unit, ShowsWhatItWasMadeFrom) {
+    const Unit unit("ship.unit:knot-1.0.0", std::string("K\0t", 3), "");
+    EXPECT_EQ(unit.typeId(), "ship.unit:knot-1.0.0");
+    EXPECT_EQ(unit.name(), std::string_view("K\0t", 3));
+    EXPECT_EQ(unit.symbol(), "");
+}
+
+TEST(Unit, ViewsAreGoodAsLongAsACopy) {
+    auto original = std::make_unique<Unit>("ship.unit:knot-1.0.0", "Knot, which is a nautical mile per hour", "kn");
+    const std::string_view typeId = original->typeId();
+    const std::string_view name = original->name();
+    const std::string_view symbol = original->symbol();
+    const Unit copy(*original);
+    original.reset();
+    EXPECT_EQ(typeId, "ship.unit:knot-1.0.0");
+    EXPECT_EQ(name, "Knot, which is a nautical mile per hour");
+    EXPECT_EQ(symbol, "kn");
+    EXPECT_EQ(copy.name().data(), name.data());
 }
 
 TEST(Unit, ChecksNothingOfWhatItIsMadeFrom) {
@@ -80,6 +108,35 @@ TEST(Unit, SurvivesAssignmentToItself) {
     const Unit& same = unit;
     unit = same;
     EXPECT_EQ(unit.getSymbol(), "kn");
+}
+
+TEST(Unit, SwapsWithAnother) {
+    Unit knot("ship.unit:knot-1.0.0", "Knot", "kn");
+    Unit mile("ship.unit:mile-1.0.0", "Nautical Mile", "M");
+    const char* const bytesOfKnot = knot.typeId().data();
+    swap(knot, mile);
+    EXPECT_EQ(knot.name(), "Nautical Mile");
+    EXPECT_EQ(mile.typeId().data(), bytesOfKnot);
+}
+
+TEST(Unit, SurvivesASwapWithItself) {
+    Unit unit("ship.unit:knot-1.0.0", "Knot", "kn");
+    swap(unit, unit);
+    EXPECT_EQ(unit.symbol(), "kn");
+}
+
+TEST(Unit, IsHashedByItsTypeIdWhateverTheRest) {
+    const Unit unit("ship.unit:knot-1.0.0", "Knot", "kn");
+    const Unit other("ship.unit:knot-1.0.0", "Knoten", "kt");
+    EXPECT_EQ(std::hash<Unit>()(unit), std::hash<Unit>()(other));
+    EXPECT_EQ((std::unordered_set<Unit>{unit, other, unitOf("a"), unitOf("b")}).size(), 3U);
+    EXPECT_NE(std::hash<Unit>()(unitOf("a")), std::hash<Unit>()(unitOf("b")));
+}
+
+TEST(Unit, PrintsTheBytesOfItsTypeId) {
+    std::ostringstream stream;
+    stream << unitOf(std::string("a\0b", 3)) << '|' << unitOf("ship.unit:knot-1.0.0");
+    EXPECT_EQ(stream.str(), std::string("a\0b|ship.unit:knot-1.0.0", 24));
 }
 
 TEST(Unit, IsEqualToAnotherOfItsTypeIdWhateverTheRest) {

@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <map>
 #include <new>
 #include <string>
+#include <string_view>
 #include <tuple>
 #include <vector>
 
@@ -81,6 +83,26 @@ TEST_F(UnitsEngineOutOfMemory, RegistersNothing) {
 TEST_F(UnitsEngineOutOfMemory, KeepsWhatAnAssignmentWouldReplace) {
     const UnitsEngine other;
     EXPECT_GT(failEachAllocationOf([&](UnitsEngine& engine) { engine = other; }), 0);
+}
+
+TEST_F(UnitsEngineOutOfMemory, FindsUnitsAllTheSame) {
+    const UnitsEngine engine = prepared();
+    const AllocationWatch watch;
+    const bool findsResolved = engine.findUnit(std::string_view(resolvedId)).has_value();
+    const bool findsPending = engine.findUnit(std::string_view(pendingId)).has_value();
+    const bool findsNew = engine.findUnit(std::string_view(newId)).has_value();
+    EXPECT_EQ(watch.requests(), 0);
+    EXPECT_TRUE(findsResolved);
+    EXPECT_FALSE(findsPending);
+    EXPECT_FALSE(findsNew);
+}
+
+TEST_F(UnitsEngineOutOfMemory, ShowsUnitsAllTheSame) {
+    const Units::Unit unit = prepared().getUnit(resolvedId);
+    const AllocationWatch watch;
+    const std::size_t shown = unit.typeId().size() + unit.name().size() + unit.symbol().size();
+    EXPECT_EQ(watch.requests(), 0);
+    EXPECT_GT(shown, resolvedId.size());
 }
 
 TEST_F(UnitsEngineOutOfMemory, ResolvesAllTheSame) {

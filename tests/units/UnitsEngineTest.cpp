@@ -8,6 +8,7 @@
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -67,6 +68,29 @@ TEST(UnitsEngine, HandsOutWhatTheSchemaSays) {
     EXPECT_EQ(unit.getTypeId(), "ship.unit:knot-1.0.0");
     EXPECT_EQ(unit.getName(), "Knot");
     EXPECT_EQ(unit.getSymbol(), "kn");
+}
+
+TEST(UnitsEngine, FindsWhatItHandsOut) {
+    const UnitsEngine engine = resolved(knot);
+    const std::string_view text = "in ship.unit:knot-1.0.0 a view need not end";
+    const auto unit = engine.findUnit(text.substr(3, 20));
+    ASSERT_TRUE(unit);
+    EXPECT_EQ(unit->name(), "Knot");
+    EXPECT_EQ(unit->name().data(), engine.getUnit("ship.unit:knot-1.0.0").name().data());
+}
+
+TEST(UnitsEngine, FindsNothingUnderAnotherTypeId) {
+    const UnitsEngine engine = resolved(knot);
+    EXPECT_FALSE(engine.findUnit("ship.unit:knot-1.0.1"));
+    EXPECT_FALSE(engine.findUnit(""));
+}
+
+TEST(UnitsEngine, FindsNoUnitBeforeResolution) {
+    UnitsEngine engine = resolved(mile);
+    engine.registerSchema(knot);
+    EXPECT_FALSE(engine.findUnit("ship.unit:knot-1.0.0"));
+    engine.resolveSchemas();
+    EXPECT_TRUE(engine.findUnit("ship.unit:knot-1.0.0"));
 }
 
 TEST(UnitsEngine, RegistrationReportsNothingMissing) {

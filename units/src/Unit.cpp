@@ -21,6 +21,12 @@ std::string Unit::getName() const { return data_->name; }
 
 std::string Unit::getSymbol() const { return data_->symbol; }
 
+std::string_view Unit::typeId() const noexcept { return data_->typeId; }
+
+std::string_view Unit::name() const noexcept { return data_->name; }
+
+std::string_view Unit::symbol() const noexcept { return data_->symbol; }
+
 bool Unit::operator==(const Unit& other) const noexcept { return data_->typeId == other.data_->typeId; }
 
 bool Unit::operator!=(const Unit& other) const noexcept { return !(*this == other); }

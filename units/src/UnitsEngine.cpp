@@ -60,12 +60,17 @@ public:
 
     void resolve() noexcept { resolved_ = entries_.size(); }
 
-    const Unit& find(const std::string& typeId) const {
+    /// Returns null for what is unknown or not resolved.
+    const Unit* find(std::string_view typeId) const {
         const auto found = entries_.find(typeId);
-        if (found == entries_.end() || !isResolved(found->second)) {
-            throw ValidationException(Internal::messages("unit-unknown").with({typeId}));
+        return found != entries_.end() && isResolved(found->second) ? &found->second.unit : nullptr;
+    }
+
+    const Unit& get(std::string_view typeId) const {
+        if (const Unit* unit = find(typeId)) {
+            return *unit;
         }
-        return found->second.unit;
+        throw ValidationException(Internal::messages("unit-unknown").with({typeId}));
     }
 
     std::map<std::string, Unit> all() const {
@@ -135,12 +140,17 @@ std::vector<Fault> UnitsEngine::registerSoundSchema(const std::string& schemaTex
 
 void UnitsEngine::resolveSchemas() { registry_->resolve(); }
 
-Unit UnitsEngine::getUnit(const std::string& typeId) const { return registry_->find(typeId); }
+Unit UnitsEngine::getUnit(const std::string& typeId) const { return registry_->get(typeId); }
+
+std::optional<Unit> UnitsEngine::findUnit(std::string_view typeId) const {
+    const Unit* unit = registry_->find(typeId);
+    return unit != nullptr ? std::optional(*unit) : std::nullopt;
+}
 
 std::map<std::string, Unit> UnitsEngine::getAllUnits() const { return registry_->all(); }
 
 std::set<std::string> UnitsEngine::getDependencies(const std::string& typeId) const {
-    registry_->find(typeId);
+    registry_->get(typeId);
     return {};
 }
 

@@ -7,6 +7,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -58,6 +59,10 @@ public:
     /// @throws ValidationException "Could not find unit with typeid T." if there is none, or its schema is not resolved
     ///         yet.
     Unit getUnit(const std::string& typeId) const;
+
+    /// Returns the unit of that typeid, or nothing if there is none, or its schema is not resolved yet. Costs one
+    /// look-up and no memory.
+    [[nodiscard]] std::optional<Unit> findUnit(std::string_view typeId) const;
 
     /// Returns all units, by typeid in ascending byte order. Costs time in proportion to their number.
     std::map<std::string, Unit> getAllUnits() const;
