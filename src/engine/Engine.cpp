@@ -1,5 +1,6 @@
 #include "engine/Engine.h"
 
+#include "engine/AnyUnits.h"
 #include "engine/Review.h"
 
 #include <algorithm>
@@ -17,7 +18,8 @@ namespace {
 } // namespace
 
 bool Engine::isRegistered(const Directory::Key& key) const {
-    return registry_.read().find(key) != nullptr || isReserved(key.typeId) || units_.isRegistered(key.typeId);
+    return registry_.read().find(key) != nullptr || isReserved(key.typeId) ||
+           AnyUnits::isRegistered(units_, key.typeId);
 }
 
 void Engine::checkNew(const Directory::Key& key) const {

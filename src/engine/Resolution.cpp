@@ -1,8 +1,7 @@
 #include "engine/Resolution.h"
 
+#include "engine/AnyUnits.h"
 #include "model/Access.h"
-
-#include <units/ValidationException.h>
 
 #include <algorithm>
 #include <array>
@@ -44,11 +43,7 @@ const void* RegistryFinder::lookUp(std::size_t kind, std::string_view typeId) co
 
 std::optional<Units::Unit> RegistryFinder::findUnit(const std::string& typeId) const {
     if (binds()) {
-        try {
-            return units_.getUnit(typeId);
-        } catch (const Units::ValidationException&) {
-            return std::nullopt;
-        }
+        return AnyUnits::find(units_, typeId);
     }
     if (!allUnits_) {
         allUnits_ = units_.getAllUnits();

@@ -1,5 +1,6 @@
 #include "engine/Review.h"
 
+#include "engine/AnyUnits.h"
 #include "engine/FaultData.h"
 #include "engine/Messages.h"
 #include "engine/Resolution.h"
@@ -7,8 +8,6 @@
 #include "schema/Hash.h"
 #include "schema/Inspection.h"
 #include "schema/Schema.h"
-
-#include <units/ValidationException.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -58,12 +57,6 @@ struct Aside {
 
 template <class... Ks>
 std::tuple<std::vector<Aside<Ks>>...> asidesOf(KindList<Ks...>);
-
-/// Whether a units library tells what is wrong with a text as ours does.
-template <class Engine>
-constexpr bool tellsFaults = requires(Engine& engine, const std::string& text) {
-    engine.registerSoundSchema(text);
-};
 
 class Review {
 public:
@@ -130,7 +123,7 @@ private:
 
 bool Review::isTaken(const Directory::Key& key) {
     return !key.typeId.empty() && (registry_.find(key) != nullptr || isReserved(key.typeId) ||
-                                   units_.isRegistered(key.typeId) || (hasFaulty_ && textOf(key.typeId)));
+                                   AnyUnits::isRegistered(units_, key.typeId) || (hasFaulty_ && textOf(key.typeId)));
 }
 
 void Review::read(const std::string& key, const std::string& text) {
@@ -202,26 +195,23 @@ void Review::readUnit(TextId id, bool isTaken) {
         apart_.emplace(units_);
     }
     Units::UnitsEngine& units = isRefused ? *apart_ : units_;
-    if constexpr (tellsFaults<Units::UnitsEngine>) {
+    if (AnyUnits::tellsFaults<Units::UnitsEngine> || found.empty()) {
         std::vector<FaultData> all;
-        for (auto& fault : units.registerSoundSchema(text)) {
+        const auto takeFault = [&](auto& fault) {
             if (!isTaken || fault.code != EngineMessages::messages("typeid-taken").code) { // which is told here
                 all.push_back(faultOf(id, std::move(fault)));
             }
-        }
+        };
+        const auto takeRefusal = [&](const char* message) {
+            all.push_back(emptyFault(id, EngineMessages::messages("unit-refused")));
+            all.back().message = message;
+        };
+        AnyUnits::registerSound(units, text, takeFault, takeRefusal);
         if (isTaken) { // behind what was found before
             const std::size_t place = std::min(found.size() - 1, all.size());
             all.insert(all.begin() + static_cast<std::ptrdiff_t>(place), std::move(found.back()));
         }
         found = std::move(all);
-    } else if (found.empty()) {
-        try {
-            units.registerSchema(text);
-        } catch (const Units::ValidationException& refusal) {
-            FaultData fault = emptyFault(id, EngineMessages::messages("unit-refused"));
-            fault.message = refusal.what();
-            found.push_back(std::move(fault));
-        }
     }
     if (std::none_of(found.begin(), found.end(), [](const FaultData& fault) { return isOfNoBase(fault); })) {
         texts_[id].kind = ReadText::unit;
