@@ -1,22 +1,14 @@
+#include "Expect.h"
+
 #include <parameters/ParametersEngine.h>
 #include <units/UnitsEngine.h>
 
-#include <cstdio>
 #include <stdexcept>
 #include <string>
 
 static_assert(__cplusplus == 201703L, "the public headers must do with C++17");
 
 namespace {
-
-int failures = 0;
-
-void expect(bool holds, const char* what) {
-    if (!holds) {
-        ++failures;
-        std::fprintf(stderr, "does not hold: %s\n", what);
-    }
-}
 
 const char* const valveText = R"({"typeid": "stranger:parameter.open-1.0.0",
     "inherits": ["norvex.parameter:parameter.bool-2.0.0"],
