@@ -3,14 +3,18 @@
 #include <parameters/BoolSpec.h>
 #include <parameters/Export.h>
 #include <parameters/ParameterCore.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
 
 namespace Internal {
 struct Access;
+struct ParameterCoreData;
 struct BoolParameterData;
 } // namespace Internal
 
@@ -29,9 +33,19 @@ public:
     /// @}
 
     /// Returns what all parameters have in common: the type identifier, the name, the group and more.
-    ParameterCore getCore() const;
+    /// @{
+    [[nodiscard]] ParameterCore getCore() const noexcept;
+    [[nodiscard]] const ParameterCore& core() const noexcept { return core_; }
+    /// @}
+    /// Returns the identifier by which the parameter is known: the core's.
+    [[nodiscard]] std::string_view typeId() const noexcept { return core_.typeId(); }
+    /// Returns the name to show: the core's.
+    [[nodiscard]] std::string_view name() const noexcept { return core_.name(); }
     /// Returns the spec, which says how the values are called.
-    BoolSpec getSpec() const;
+    /// @{
+    [[nodiscard]] BoolSpec getSpec() const noexcept;
+    [[nodiscard]] const BoolSpec& spec() const noexcept;
+    /// @}
 
     /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
     /// @{
@@ -41,11 +55,20 @@ public:
     bool operator>(const BoolParameter& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(BoolParameter& one, BoolParameter& other) noexcept { swap(one.core_, other.core_); }
+
 private:
     friend struct Internal::Access;
-    explicit BoolParameter(std::shared_ptr<const Internal::BoolParameterData> data) noexcept : data_(std::move(data)) {}
+    using Data = Internal::BoolParameterData;
+    BoolParameter(std::shared_ptr<const Internal::ParameterCoreData> data, Internal::Key key) noexcept
+        : core_(std::move(data), key) {}
 
-    std::shared_ptr<const Internal::BoolParameterData> data_;
+    ParameterCore core_; // the part of the data that all parameters have
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::BoolParameter> : Parameters::Internal::TypeIdHash<Parameters::BoolParameter> {};

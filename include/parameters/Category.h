@@ -3,10 +3,13 @@
 #include <parameters/Export.h>
 #include <parameters/MajorCategoryComponent.h>
 #include <parameters/SubCategoryComponent.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
@@ -31,13 +34,25 @@ public:
     /// @}
 
     /// Returns the identifier by which the category is known.
-    std::string getTypeId() const;
+    /// @{
+    [[nodiscard]] std::string getTypeId() const;
+    [[nodiscard]] std::string_view typeId() const noexcept;
+    /// @}
     /// Returns the name to show.
-    std::string getName() const;
+    /// @{
+    [[nodiscard]] std::string getName() const;
+    [[nodiscard]] std::string_view name() const noexcept;
+    /// @}
     /// Returns the component of a major category; empty for a subcategory.
-    std::optional<MajorCategoryComponent> getMajorCategoryComponent() const;
+    /// @{
+    [[nodiscard]] std::optional<MajorCategoryComponent> getMajorCategoryComponent() const noexcept;
+    [[nodiscard]] const MajorCategoryComponent* majorCategoryComponent() const noexcept;
+    /// @}
     /// Returns the component of a subcategory; empty for a major category.
-    std::optional<SubCategoryComponent> getSubCategoryComponent() const;
+    /// @{
+    [[nodiscard]] std::optional<SubCategoryComponent> getSubCategoryComponent() const noexcept;
+    [[nodiscard]] const SubCategoryComponent* subCategoryComponent() const noexcept;
+    /// @}
 
     /// Compares identity: the bytes of the type identifier alone decide, nothing else takes part.
     /// @{
@@ -47,11 +62,18 @@ public:
     bool operator>(const Category& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(Category& one, Category& other) noexcept { one.data_.swap(other.data_); }
+
 private:
     friend struct Internal::Access;
-    explicit Category(std::shared_ptr<const Internal::CategoryData> data) noexcept : data_(std::move(data)) {}
+    Category(std::shared_ptr<const Internal::CategoryData> data, Internal::Key) noexcept : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::CategoryData> data_;
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::Category> : Parameters::Internal::TypeIdHash<Parameters::Category> {};

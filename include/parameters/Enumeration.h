@@ -1,10 +1,14 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Value.h>
+#include <parameters/Views.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -28,9 +32,15 @@ public:
     /// @}
 
     /// Returns the identifier by which the enumeration is known.
-    std::string getTypeId() const;
+    /// @{
+    [[nodiscard]] std::string getTypeId() const;
+    [[nodiscard]] std::string_view typeId() const noexcept;
+    /// @}
     /// Returns the choices: identifier and integer, in the order in which the enumeration holds them.
-    std::vector<std::pair<std::string, std::int64_t>> getValues() const;
+    /// @{
+    [[nodiscard]] std::vector<std::pair<std::string, std::int64_t>> getValues() const;
+    [[nodiscard]] EnumerationValues values() const noexcept;
+    /// @}
 
     /// Compares identity: the bytes of the type identifier alone decide, nothing else takes part.
     /// @{
@@ -40,11 +50,19 @@ public:
     bool operator>(const Enumeration& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(Enumeration& one, Enumeration& other) noexcept { one.data_.swap(other.data_); }
+
 private:
     friend struct Internal::Access;
-    explicit Enumeration(std::shared_ptr<const Internal::EnumerationData> data) noexcept : data_(std::move(data)) {}
+    Enumeration(std::shared_ptr<const Internal::EnumerationData> data, Internal::Key) noexcept
+        : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::EnumerationData> data_;
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::Enumeration> : Parameters::Internal::TypeIdHash<Parameters::Enumeration> {};

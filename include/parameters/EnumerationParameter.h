@@ -4,14 +4,18 @@
 #include <parameters/Export.h>
 #include <parameters/GeneralSpec.h>
 #include <parameters/ParameterCore.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
 
 namespace Internal {
 struct Access;
+struct ParameterCoreData;
 struct EnumerationParameterData;
 } // namespace Internal
 
@@ -28,11 +32,24 @@ public:
     /// @}
 
     /// Returns what all parameters have in common: the type identifier, the name, the group and more.
-    ParameterCore getCore() const;
+    /// @{
+    [[nodiscard]] ParameterCore getCore() const noexcept;
+    [[nodiscard]] const ParameterCore& core() const noexcept { return core_; }
+    /// @}
+    /// Returns the identifier by which the parameter is known: the core's.
+    [[nodiscard]] std::string_view typeId() const noexcept { return core_.typeId(); }
+    /// Returns the name to show: the core's.
+    [[nodiscard]] std::string_view name() const noexcept { return core_.name(); }
     /// Returns the spec, which names the parameter's discipline.
-    GeneralSpec getSpec() const;
+    /// @{
+    [[nodiscard]] GeneralSpec getSpec() const noexcept;
+    [[nodiscard]] const GeneralSpec& spec() const noexcept;
+    /// @}
     /// Returns the choices, whole, not as a type identifier.
-    Enumeration getEnumeration() const;
+    /// @{
+    [[nodiscard]] Enumeration getEnumeration() const noexcept;
+    [[nodiscard]] const Enumeration& enumeration() const noexcept;
+    /// @}
 
     /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
     /// @{
@@ -42,12 +59,21 @@ public:
     bool operator>(const EnumerationParameter& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(EnumerationParameter& one, EnumerationParameter& other) noexcept { swap(one.core_, other.core_); }
+
 private:
     friend struct Internal::Access;
-    explicit EnumerationParameter(std::shared_ptr<const Internal::EnumerationParameterData> data) noexcept
-        : data_(std::move(data)) {}
+    using Data = Internal::EnumerationParameterData;
+    EnumerationParameter(std::shared_ptr<const Internal::ParameterCoreData> data, Internal::Key key) noexcept
+        : core_(std::move(data), key) {}
 
-    std::shared_ptr<const Internal::EnumerationParameterData> data_;
+    ParameterCore core_; // the part of the data that all parameters have
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::EnumerationParameter>
+    : Parameters::Internal::TypeIdHash<Parameters::EnumerationParameter> {};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Value.h>
 
 #include <cstddef>
 #include <memory>
@@ -79,7 +80,7 @@ public:
 
 private:
     friend struct Internal::Access;
-    explicit Fault(std::shared_ptr<const Internal::FaultData> data) noexcept : data_(std::move(data)) {}
+    Fault(std::shared_ptr<const Internal::FaultData> data, Internal::Key) noexcept : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::FaultData> data_;
 };

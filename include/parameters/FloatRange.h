@@ -1,9 +1,12 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
@@ -33,15 +36,18 @@ public:
     /// @}
 
     /// Returns the identifier by which the range is known.
-    std::string getTypeId() const;
+    /// @{
+    [[nodiscard]] std::string getTypeId() const;
+    [[nodiscard]] std::string_view typeId() const noexcept;
+    /// @}
     /// Returns whether the values have a lower bound.
-    bool isBoundFromBottom() const;
+    [[nodiscard]] bool isBoundFromBottom() const noexcept;
     /// Returns the lower bound; it has a meaning only where isBoundFromBottom().
-    double getBottomBoundary() const;
+    [[nodiscard]] double getBottomBoundary() const noexcept;
     /// Returns whether the values have an upper bound.
-    bool isBoundFromTop() const;
+    [[nodiscard]] bool isBoundFromTop() const noexcept;
     /// Returns the upper bound; it has a meaning only where isBoundFromTop().
-    double getTopBoundary() const;
+    [[nodiscard]] double getTopBoundary() const noexcept;
 
     /// Compares identity: the bytes of the type identifier alone decide, nothing else takes part.
     /// @{
@@ -51,12 +57,19 @@ public:
     bool operator>(const FloatRange& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(FloatRange& one, FloatRange& other) noexcept { one.data_.swap(other.data_); }
+
 private:
     friend struct Internal::Access;
-    explicit FloatRange(std::shared_ptr<const Internal::NumericRangeData<double>> data) noexcept
+    FloatRange(std::shared_ptr<const Internal::NumericRangeData<double>> data, Internal::Key) noexcept
         : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::NumericRangeData<double>> data_;
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::FloatRange> : Parameters::Internal::TypeIdHash<Parameters::FloatRange> {};

@@ -2,8 +2,11 @@
 
 #include <parameters/Export.h>
 #include <parameters/SpecCore.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
@@ -26,7 +29,14 @@ public:
     /// @}
 
     /// Returns what all specs have in common: the type identifier, the name and the discipline.
-    SpecCore getCore() const;
+    /// @{
+    [[nodiscard]] SpecCore getCore() const noexcept;
+    [[nodiscard]] const SpecCore& core() const noexcept { return core_; }
+    /// @}
+    /// Returns the identifier by which the spec is known: the core's.
+    [[nodiscard]] std::string_view typeId() const noexcept { return core_.typeId(); }
+    /// Returns the name to show: the core's.
+    [[nodiscard]] std::string_view name() const noexcept { return core_.name(); }
 
     /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
     /// @{
@@ -36,11 +46,20 @@ public:
     bool operator>(const GeneralSpec& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(GeneralSpec& one, GeneralSpec& other) noexcept { swap(one.core_, other.core_); }
+
 private:
     friend struct Internal::Access;
-    explicit GeneralSpec(std::shared_ptr<const Internal::SpecCoreData> data) noexcept : data_(std::move(data)) {}
+    using Data = Internal::SpecCoreData;
+    GeneralSpec(std::shared_ptr<const Internal::SpecCoreData> data, Internal::Key key) noexcept
+        : core_(std::move(data), key) {}
 
-    std::shared_ptr<const Internal::SpecCoreData> data_;
+    SpecCore core_; // the part of the data that all specs have
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::GeneralSpec> : Parameters::Internal::TypeIdHash<Parameters::GeneralSpec> {};

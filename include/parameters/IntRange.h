@@ -1,9 +1,12 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
@@ -33,15 +36,18 @@ public:
     /// @}
 
     /// Returns the identifier by which the range is known.
-    std::string getTypeId() const;
+    /// @{
+    [[nodiscard]] std::string getTypeId() const;
+    [[nodiscard]] std::string_view typeId() const noexcept;
+    /// @}
     /// Returns whether the values have a lower bound.
-    bool isBoundFromBottom() const;
+    [[nodiscard]] bool isBoundFromBottom() const noexcept;
     /// Returns the lower bound; it has a meaning only where isBoundFromBottom().
-    long long getBottomBoundary() const;
+    [[nodiscard]] long long getBottomBoundary() const noexcept;
     /// Returns whether the values have an upper bound.
-    bool isBoundFromTop() const;
+    [[nodiscard]] bool isBoundFromTop() const noexcept;
     /// Returns the upper bound; it has a meaning only where isBoundFromTop().
-    long long getTopBoundary() const;
+    [[nodiscard]] long long getTopBoundary() const noexcept;
 
     /// Compares identity: the bytes of the type identifier alone decide, nothing else takes part.
     /// @{
@@ -51,12 +57,19 @@ public:
     bool operator>(const IntRange& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(IntRange& one, IntRange& other) noexcept { one.data_.swap(other.data_); }
+
 private:
     friend struct Internal::Access;
-    explicit IntRange(std::shared_ptr<const Internal::NumericRangeData<long long>> data) noexcept
+    IntRange(std::shared_ptr<const Internal::NumericRangeData<long long>> data, Internal::Key) noexcept
         : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::NumericRangeData<long long>> data_;
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::IntRange> : Parameters::Internal::TypeIdHash<Parameters::IntRange> {};

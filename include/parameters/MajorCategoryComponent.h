@@ -2,6 +2,8 @@
 
 #include <parameters/Export.h>
 #include <parameters/Taxon.h>
+#include <parameters/Value.h>
+#include <parameters/Views.h>
 
 #include <memory>
 #include <utility>
@@ -27,13 +29,19 @@ public:
     /// @}
 
     /// Returns the domain to which the category belongs.
-    Taxon getDomain() const;
+    /// @{
+    [[nodiscard]] Taxon getDomain() const noexcept;
+    [[nodiscard]] const Taxon& domain() const noexcept;
+    /// @}
     /// Returns the disciplines in the order given; there may be none.
-    std::vector<Taxon> getDisciplines() const;
+    /// @{
+    [[nodiscard]] std::vector<Taxon> getDisciplines() const;
+    [[nodiscard]] ArrayView<Taxon> disciplines() const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;
-    explicit MajorCategoryComponent(std::shared_ptr<const Internal::MajorCategoryComponentData> data) noexcept
+    MajorCategoryComponent(std::shared_ptr<const Internal::MajorCategoryComponentData> data, Internal::Key) noexcept
         : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::MajorCategoryComponentData> data_;

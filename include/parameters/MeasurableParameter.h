@@ -4,14 +4,18 @@
 #include <parameters/FloatRange.h>
 #include <parameters/MeasurableSpec.h>
 #include <parameters/ParameterCore.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
 
 namespace Internal {
 struct Access;
+struct ParameterCoreData;
 template <class Spec, class Range>
 struct RangedParameterData;
 } // namespace Internal
@@ -29,11 +33,24 @@ public:
     /// @}
 
     /// Returns what all parameters have in common: the type identifier, the name, the group and more.
-    ParameterCore getCore() const;
+    /// @{
+    [[nodiscard]] ParameterCore getCore() const noexcept;
+    [[nodiscard]] const ParameterCore& core() const noexcept { return core_; }
+    /// @}
+    /// Returns the identifier by which the parameter is known: the core's.
+    [[nodiscard]] std::string_view typeId() const noexcept { return core_.typeId(); }
+    /// Returns the name to show: the core's.
+    [[nodiscard]] std::string_view name() const noexcept { return core_.name(); }
     /// Returns the spec, which has the units.
-    MeasurableSpec getSpec() const;
+    /// @{
+    [[nodiscard]] MeasurableSpec getSpec() const noexcept;
+    [[nodiscard]] const MeasurableSpec& spec() const noexcept;
+    /// @}
     /// Returns the bounds of the values, in the storage unit; unbounded on both sides where the schema has no range.
-    FloatRange getRange() const;
+    /// @{
+    [[nodiscard]] FloatRange getRange() const noexcept;
+    [[nodiscard]] const FloatRange& range() const noexcept;
+    /// @}
 
     /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
     /// @{
@@ -43,13 +60,21 @@ public:
     bool operator>(const MeasurableParameter& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(MeasurableParameter& one, MeasurableParameter& other) noexcept { swap(one.core_, other.core_); }
+
 private:
     friend struct Internal::Access;
-    explicit MeasurableParameter(
-        std::shared_ptr<const Internal::RangedParameterData<MeasurableSpec, FloatRange>> data) noexcept
-        : data_(std::move(data)) {}
+    using Data = Internal::RangedParameterData<MeasurableSpec, FloatRange>;
+    MeasurableParameter(std::shared_ptr<const Internal::ParameterCoreData> data, Internal::Key key) noexcept
+        : core_(std::move(data), key) {}
 
-    std::shared_ptr<const Internal::RangedParameterData<MeasurableSpec, FloatRange>> data_;
+    ParameterCore core_; // the part of the data that all parameters have
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::MeasurableParameter> : Parameters::Internal::TypeIdHash<Parameters::MeasurableParameter> {
+};

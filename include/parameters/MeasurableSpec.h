@@ -2,10 +2,14 @@
 
 #include <parameters/Export.h>
 #include <parameters/SpecCore.h>
+#include <parameters/Value.h>
+#include <parameters/Views.h>
 
 #include <units/Unit.h>
 
+#include <functional>
 #include <memory>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -13,6 +17,7 @@ namespace Parameters {
 
 namespace Internal {
 struct Access;
+struct SpecCoreData;
 struct MeasurableSpecData;
 } // namespace Internal
 
@@ -34,11 +39,24 @@ public:
     /// @}
 
     /// Returns what all specs have in common: the type identifier, the name and the discipline.
-    SpecCore getCore() const;
+    /// @{
+    [[nodiscard]] SpecCore getCore() const noexcept;
+    [[nodiscard]] const SpecCore& core() const noexcept { return core_; }
+    /// @}
+    /// Returns the identifier by which the spec is known: the core's.
+    [[nodiscard]] std::string_view typeId() const noexcept { return core_.typeId(); }
+    /// Returns the name to show: the core's.
+    [[nodiscard]] std::string_view name() const noexcept { return core_.name(); }
     /// Returns the units in which values may be shown, in the order given; there may be none.
-    std::vector<Units::Unit> getApplicableUnits() const;
+    /// @{
+    [[nodiscard]] std::vector<Units::Unit> getApplicableUnits() const;
+    [[nodiscard]] ArrayView<Units::Unit> applicableUnits() const noexcept;
+    /// @}
     /// Returns the unit in which values are stored.
-    Units::Unit getStorageUnit() const;
+    /// @{
+    [[nodiscard]] Units::Unit getStorageUnit() const;
+    [[nodiscard]] const Units::Unit& storageUnit() const noexcept;
+    /// @}
 
     /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
     /// @{
@@ -48,12 +66,20 @@ public:
     bool operator>(const MeasurableSpec& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(MeasurableSpec& one, MeasurableSpec& other) noexcept { swap(one.core_, other.core_); }
+
 private:
     friend struct Internal::Access;
-    explicit MeasurableSpec(std::shared_ptr<const Internal::MeasurableSpecData> data) noexcept
-        : data_(std::move(data)) {}
+    using Data = Internal::MeasurableSpecData;
+    MeasurableSpec(std::shared_ptr<const Internal::SpecCoreData> data, Internal::Key key) noexcept
+        : core_(std::move(data), key) {}
 
-    std::shared_ptr<const Internal::MeasurableSpecData> data_;
+    SpecCore core_; // the part of the data that all specs have
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::MeasurableSpec> : Parameters::Internal::TypeIdHash<Parameters::MeasurableSpec> {};

@@ -2,9 +2,12 @@
 
 #include <parameters/Export.h>
 #include <parameters/Taxon.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
@@ -24,6 +27,9 @@ public:
     /// Makes a core with a group, which comes third, before the description.
     ParameterCore(const std::string& typeId, const std::string& name, const Taxon& group,
                   const std::string& description, const std::string& sampleText, bool readOnly);
+    /// For the library: the core that is part of other data.
+    ParameterCore(std::shared_ptr<const Internal::ParameterCoreData> data, Internal::Key) noexcept
+        : data_(std::move(data)) {}
     /// Copies share their data; moving copies.
     /// @{
     ParameterCore(const ParameterCore&) noexcept = default;
@@ -31,17 +37,32 @@ public:
     /// @}
 
     /// Returns the identifier by which the parameter is known.
-    std::string getTypeId() const;
+    /// @{
+    [[nodiscard]] std::string getTypeId() const;
+    [[nodiscard]] std::string_view typeId() const noexcept;
+    /// @}
     /// Returns the name to show.
-    std::string getName() const;
+    /// @{
+    [[nodiscard]] std::string getName() const;
+    [[nodiscard]] std::string_view name() const noexcept;
+    /// @}
     /// Returns the description, which may be empty.
-    std::string getDescription() const;
+    /// @{
+    [[nodiscard]] std::string getDescription() const;
+    [[nodiscard]] std::string_view description() const noexcept;
+    /// @}
     /// Returns the group under which the parameter is listed.
-    Taxon getGroup() const;
+    /// @{
+    [[nodiscard]] Taxon getGroup() const noexcept;
+    [[nodiscard]] const Taxon& group() const noexcept;
+    /// @}
     /// Returns a sample of a value as text, which may be empty.
-    std::string getSampleText() const;
+    /// @{
+    [[nodiscard]] std::string getSampleText() const;
+    [[nodiscard]] std::string_view sampleText() const noexcept;
+    /// @}
     /// Returns whether values are shown and not entered.
-    bool isReadOnly() const;
+    [[nodiscard]] bool isReadOnly() const noexcept;
 
     /// Compares identity: the bytes of the type identifier alone decide, nothing else takes part.
     /// @{
@@ -51,11 +72,17 @@ public:
     bool operator>(const ParameterCore& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(ParameterCore& one, ParameterCore& other) noexcept { one.data_.swap(other.data_); }
+
 private:
     friend struct Internal::Access;
-    explicit ParameterCore(std::shared_ptr<const Internal::ParameterCoreData> data) noexcept : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::ParameterCoreData> data_;
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::ParameterCore> : Parameters::Internal::TypeIdHash<Parameters::ParameterCore> {};

@@ -4,14 +4,18 @@
 #include <parameters/Export.h>
 #include <parameters/ParameterCore.h>
 #include <parameters/ReferenceSpec.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
 
 namespace Internal {
 struct Access;
+struct ParameterCoreData;
 struct ReferenceParameterData;
 } // namespace Internal
 
@@ -32,11 +36,21 @@ public:
     /// @}
 
     /// Returns what all parameters have in common: the type identifier, the name, the group and more.
-    ParameterCore getCore() const;
+    /// @{
+    [[nodiscard]] ParameterCore getCore() const noexcept;
+    [[nodiscard]] const ParameterCore& core() const noexcept { return core_; }
+    /// @}
+    /// Returns the identifier by which the parameter is known: the core's.
+    [[nodiscard]] std::string_view typeId() const noexcept { return core_.typeId(); }
+    /// Returns the name to show: the core's.
+    [[nodiscard]] std::string_view name() const noexcept { return core_.name(); }
     /// Returns the spec, which may limit references to one category.
-    ReferenceSpec getSpec() const;
+    /// @{
+    [[nodiscard]] ReferenceSpec getSpec() const noexcept;
+    [[nodiscard]] const ReferenceSpec& spec() const noexcept;
+    /// @}
     /// Returns whether the parameter's schema is of the ranged base. Nothing else hangs on it.
-    bool isRanged() const;
+    [[nodiscard]] bool isRanged() const noexcept;
 
     /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
     /// @{
@@ -46,12 +60,20 @@ public:
     bool operator>(const ReferenceParameter& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(ReferenceParameter& one, ReferenceParameter& other) noexcept { swap(one.core_, other.core_); }
+
 private:
     friend struct Internal::Access;
-    explicit ReferenceParameter(std::shared_ptr<const Internal::ReferenceParameterData> data) noexcept
-        : data_(std::move(data)) {}
+    using Data = Internal::ReferenceParameterData;
+    ReferenceParameter(std::shared_ptr<const Internal::ParameterCoreData> data, Internal::Key key) noexcept
+        : core_(std::move(data), key) {}
 
-    std::shared_ptr<const Internal::ReferenceParameterData> data_;
+    ParameterCore core_; // the part of the data that all parameters have
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::ReferenceParameter> : Parameters::Internal::TypeIdHash<Parameters::ReferenceParameter> {};

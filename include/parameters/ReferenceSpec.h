@@ -3,15 +3,19 @@
 #include <parameters/Category.h>
 #include <parameters/Export.h>
 #include <parameters/SpecCore.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
 
 namespace Internal {
 struct Access;
+struct SpecCoreData;
 struct ReferenceSpecData;
 } // namespace Internal
 
@@ -28,9 +32,19 @@ public:
     /// @}
 
     /// Returns what all specs have in common: the type identifier, the name and the discipline.
-    SpecCore getCore() const;
+    /// @{
+    [[nodiscard]] SpecCore getCore() const noexcept;
+    [[nodiscard]] const SpecCore& core() const noexcept { return core_; }
+    /// @}
+    /// Returns the identifier by which the spec is known: the core's.
+    [[nodiscard]] std::string_view typeId() const noexcept { return core_.typeId(); }
+    /// Returns the name to show: the core's.
+    [[nodiscard]] std::string_view name() const noexcept { return core_.name(); }
     /// Returns the category to which references are limited, if they are.
-    std::optional<Category> getCategory() const;
+    /// @{
+    [[nodiscard]] std::optional<Category> getCategory() const noexcept;
+    [[nodiscard]] const Category* category() const noexcept;
+    /// @}
 
     /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
     /// @{
@@ -40,11 +54,20 @@ public:
     bool operator>(const ReferenceSpec& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(ReferenceSpec& one, ReferenceSpec& other) noexcept { swap(one.core_, other.core_); }
+
 private:
     friend struct Internal::Access;
-    explicit ReferenceSpec(std::shared_ptr<const Internal::ReferenceSpecData> data) noexcept : data_(std::move(data)) {}
+    using Data = Internal::ReferenceSpecData;
+    ReferenceSpec(std::shared_ptr<const Internal::SpecCoreData> data, Internal::Key key) noexcept
+        : core_(std::move(data), key) {}
 
-    std::shared_ptr<const Internal::ReferenceSpecData> data_;
+    SpecCore core_; // the part of the data that all specs have
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::ReferenceSpec> : Parameters::Internal::TypeIdHash<Parameters::ReferenceSpec> {};

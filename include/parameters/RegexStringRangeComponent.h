@@ -1,9 +1,11 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Value.h>
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
@@ -28,11 +30,15 @@ public:
     /// @}
 
     /// Returns the expression.
-    std::string getRegex() const;
+    /// @{
+    [[nodiscard]] std::string getRegex() const;
+    [[nodiscard]] std::string_view regex() const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;
-    explicit RegexStringRangeComponent(std::shared_ptr<const Internal::RegexStringRangeComponentData> data) noexcept
+    RegexStringRangeComponent(std::shared_ptr<const Internal::RegexStringRangeComponentData> data,
+                              Internal::Key) noexcept
         : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::RegexStringRangeComponentData> data_;

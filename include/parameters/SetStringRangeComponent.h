@@ -1,6 +1,8 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Value.h>
+#include <parameters/Views.h>
 
 #include <memory>
 #include <string>
@@ -27,11 +29,14 @@ public:
     /// @}
 
     /// Returns the allowed values in the order given.
-    std::vector<std::string> getAllowedValues() const;
+    /// @{
+    [[nodiscard]] std::vector<std::string> getAllowedValues() const;
+    [[nodiscard]] StringsView allowedValues() const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;
-    explicit SetStringRangeComponent(std::shared_ptr<const Internal::SetStringRangeComponentData> data) noexcept
+    SetStringRangeComponent(std::shared_ptr<const Internal::SetStringRangeComponentData> data, Internal::Key) noexcept
         : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::SetStringRangeComponentData> data_;

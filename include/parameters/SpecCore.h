@@ -2,9 +2,12 @@
 
 #include <parameters/Export.h>
 #include <parameters/Taxon.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
@@ -22,6 +25,8 @@ public:
     SpecCore(const std::string& typeId, const std::string& name);
     /// Makes a core with a discipline.
     SpecCore(const std::string& typeId, const std::string& name, const Taxon& discipline);
+    /// For the library: the core that is part of other data.
+    SpecCore(std::shared_ptr<const Internal::SpecCoreData> data, Internal::Key) noexcept : data_(std::move(data)) {}
     /// Copies share their data; moving copies.
     /// @{
     SpecCore(const SpecCore&) noexcept = default;
@@ -29,11 +34,20 @@ public:
     /// @}
 
     /// Returns the identifier by which the spec is known.
-    std::string getTypeId() const;
+    /// @{
+    [[nodiscard]] std::string getTypeId() const;
+    [[nodiscard]] std::string_view typeId() const noexcept;
+    /// @}
     /// Returns the name to show.
-    std::string getName() const;
+    /// @{
+    [[nodiscard]] std::string getName() const;
+    [[nodiscard]] std::string_view name() const noexcept;
+    /// @}
     /// Returns the discipline that is responsible for what the spec describes.
-    Taxon getDiscipline() const;
+    /// @{
+    [[nodiscard]] Taxon getDiscipline() const noexcept;
+    [[nodiscard]] const Taxon& discipline() const noexcept;
+    /// @}
 
     /// Compares identity: the bytes of the type identifier alone decide, nothing else takes part.
     /// @{
@@ -43,11 +57,17 @@ public:
     bool operator>(const SpecCore& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(SpecCore& one, SpecCore& other) noexcept { one.data_.swap(other.data_); }
+
 private:
     friend struct Internal::Access;
-    explicit SpecCore(std::shared_ptr<const Internal::SpecCoreData> data) noexcept : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::SpecCoreData> data_;
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::SpecCore> : Parameters::Internal::TypeIdHash<Parameters::SpecCore> {};

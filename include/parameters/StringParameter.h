@@ -4,14 +4,18 @@
 #include <parameters/ParameterCore.h>
 #include <parameters/StringRange.h>
 #include <parameters/StringSpec.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
 
 namespace Internal {
 struct Access;
+struct ParameterCoreData;
 template <class Spec, class Range>
 struct RangedParameterData;
 } // namespace Internal
@@ -31,11 +35,24 @@ public:
     /// @}
 
     /// Returns what all parameters have in common: the type identifier, the name, the group and more.
-    ParameterCore getCore() const;
+    /// @{
+    [[nodiscard]] ParameterCore getCore() const noexcept;
+    [[nodiscard]] const ParameterCore& core() const noexcept { return core_; }
+    /// @}
+    /// Returns the identifier by which the parameter is known: the core's.
+    [[nodiscard]] std::string_view typeId() const noexcept { return core_.typeId(); }
+    /// Returns the name to show: the core's.
+    [[nodiscard]] std::string_view name() const noexcept { return core_.name(); }
     /// Returns the spec.
-    StringSpec getSpec() const;
+    /// @{
+    [[nodiscard]] StringSpec getSpec() const noexcept;
+    [[nodiscard]] const StringSpec& spec() const noexcept;
+    /// @}
     /// Returns which texts are allowed; any where the schema has no range.
-    StringRange getRange() const;
+    /// @{
+    [[nodiscard]] StringRange getRange() const noexcept;
+    [[nodiscard]] const StringRange& range() const noexcept;
+    /// @}
 
     /// Compares identity: the bytes of the core's type identifier alone decide, nothing else takes part.
     /// @{
@@ -45,13 +62,20 @@ public:
     bool operator>(const StringParameter& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(StringParameter& one, StringParameter& other) noexcept { swap(one.core_, other.core_); }
+
 private:
     friend struct Internal::Access;
-    explicit StringParameter(
-        std::shared_ptr<const Internal::RangedParameterData<StringSpec, StringRange>> data) noexcept
-        : data_(std::move(data)) {}
+    using Data = Internal::RangedParameterData<StringSpec, StringRange>;
+    StringParameter(std::shared_ptr<const Internal::ParameterCoreData> data, Internal::Key key) noexcept
+        : core_(std::move(data), key) {}
 
-    std::shared_ptr<const Internal::RangedParameterData<StringSpec, StringRange>> data_;
+    ParameterCore core_; // the part of the data that all parameters have
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::StringParameter> : Parameters::Internal::TypeIdHash<Parameters::StringParameter> {};

@@ -3,10 +3,13 @@
 #include <parameters/Export.h>
 #include <parameters/RegexStringRangeComponent.h>
 #include <parameters/SetStringRangeComponent.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
@@ -40,11 +43,20 @@ public:
     /// @}
 
     /// Returns the identifier by which the range is known.
-    std::string getTypeId() const;
+    /// @{
+    [[nodiscard]] std::string getTypeId() const;
+    [[nodiscard]] std::string_view typeId() const noexcept;
+    /// @}
     /// Returns the set of allowed values, where the range has one.
-    std::optional<SetStringRangeComponent> getSetStringRangeComponent() const;
+    /// @{
+    [[nodiscard]] std::optional<SetStringRangeComponent> getSetStringRangeComponent() const noexcept;
+    [[nodiscard]] const SetStringRangeComponent* setStringRangeComponent() const noexcept;
+    /// @}
     /// Returns the regular expression, where the range has one.
-    std::optional<RegexStringRangeComponent> getRegexStringRangeComponent() const;
+    /// @{
+    [[nodiscard]] std::optional<RegexStringRangeComponent> getRegexStringRangeComponent() const noexcept;
+    [[nodiscard]] const RegexStringRangeComponent* regexStringRangeComponent() const noexcept;
+    /// @}
 
     /// Compares identity: the bytes of the type identifier alone decide, nothing else takes part.
     /// @{
@@ -54,11 +66,19 @@ public:
     bool operator>(const StringRange& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(StringRange& one, StringRange& other) noexcept { one.data_.swap(other.data_); }
+
 private:
     friend struct Internal::Access;
-    explicit StringRange(std::shared_ptr<const Internal::StringRangeData> data) noexcept : data_(std::move(data)) {}
+    StringRange(std::shared_ptr<const Internal::StringRangeData> data, Internal::Key) noexcept
+        : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::StringRangeData> data_;
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::StringRange> : Parameters::Internal::TypeIdHash<Parameters::StringRange> {};

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Value.h>
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
@@ -26,11 +28,14 @@ public:
     /// @}
 
     /// Returns the type identifier of the parent.
-    std::string getParentCategory() const;
+    /// @{
+    [[nodiscard]] std::string getParentCategory() const;
+    [[nodiscard]] std::string_view parentCategory() const noexcept;
+    /// @}
 
 private:
     friend struct Internal::Access;
-    explicit SubCategoryComponent(std::shared_ptr<const Internal::SubCategoryComponentData> data) noexcept
+    SubCategoryComponent(std::shared_ptr<const Internal::SubCategoryComponentData> data, Internal::Key) noexcept
         : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::SubCategoryComponentData> data_;

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Value.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace Parameters {
@@ -26,9 +29,15 @@ public:
     /// @}
 
     /// Returns the identifier by which the taxon is known.
-    std::string getTypeId() const;
+    /// @{
+    [[nodiscard]] std::string getTypeId() const;
+    [[nodiscard]] std::string_view typeId() const noexcept;
+    /// @}
     /// Returns the name to show.
-    std::string getName() const;
+    /// @{
+    [[nodiscard]] std::string getName() const;
+    [[nodiscard]] std::string_view name() const noexcept;
+    /// @}
 
     /// Compares identity: the bytes of the type identifier alone decide, nothing else takes part.
     /// @{
@@ -38,11 +47,18 @@ public:
     bool operator>(const Taxon& other) const noexcept;
     /// @}
 
+    /// Exchanges two values without counting copies, which moving does: for sorting.
+    friend void swap(Taxon& one, Taxon& other) noexcept { one.data_.swap(other.data_); }
+
 private:
     friend struct Internal::Access;
-    explicit Taxon(std::shared_ptr<const Internal::TaxonData> data) noexcept : data_(std::move(data)) {}
+    Taxon(std::shared_ptr<const Internal::TaxonData> data, Internal::Key) noexcept : data_(std::move(data)) {}
 
     std::shared_ptr<const Internal::TaxonData> data_;
 };
 
 } // namespace Parameters
+
+/// Hashes the type identifier, which alone decides in comparisons.
+template <>
+struct std::hash<Parameters::Taxon> : Parameters::Internal::TypeIdHash<Parameters::Taxon> {};

@@ -1,6 +1,12 @@
 #pragma once
 
+#include <parameters/Value.h>
+#include <parameters/Views.h>
+
+#include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -8,36 +14,62 @@ namespace Parameters::Internal {
 
 /// The one friend of every value class: makes values of data and looks into them without copying strings.
 struct Access {
+    /// Returns all the data of a value. Parameters and specs hold it as their core, which it derives from.
     template <class Value>
     static const auto& data(const Value& value) noexcept {
-        return *value.data_;
+        if constexpr (HasCore<Value>) {
+            return static_cast<const typename Value::Data&>(*value.core_.data_);
+        } else {
+            return *value.data_;
+        }
     }
-    /// The data as the value holds it, for handles that refer to a part of it.
+    /// The data as the value holds it.
     template <class Value>
-    static const auto& shared(const Value& value) noexcept {
-        return value.data_;
+    static auto& shared(Value& value) noexcept {
+        if constexpr (HasCore<Value>) {
+            return shared(value.core_);
+        } else {
+            return value.data_;
+        }
     }
     template <class Value, class Data>
     static Value make(std::shared_ptr<Data> data) noexcept {
-        return Value(std::move(data));
+        return Value(std::move(data), Key(0));
     }
 
     /// A handle without data, for a place whose value is not there. It never leaves the library.
     template <class Value>
     static Value none() noexcept {
-        return Value(nullptr);
+        return Value(nullptr, Key(0));
     }
     template <class Value>
     static bool isNone(const Value& value) noexcept {
-        return value.data_ == nullptr;
+        return shared(value) == nullptr;
     }
     /// Puts a value in a place without touching its count: handles can only be copied, lest others see one without
     /// data.
     template <class Value>
     static void put(Value&& value, Value& place) noexcept {
-        place.data_ = std::move(value.data_);
+        shared(place) = std::move(shared(value));
     }
+
+    static StringsView view(const char* characters, std::uint32_t begin, const std::uint32_t* ends,
+                            std::size_t size) noexcept {
+        return {characters, begin, ends, size};
+    }
+
+private:
+    template <class Value>
+    static constexpr bool HasCore = requires(const Value& value) {
+        value.core_;
+    };
 };
+
+/// Returns a copy of what is shown, or nothing where there is nothing.
+template <class Value>
+std::optional<Value> copyOf(const Value* shown) noexcept {
+    return shown != nullptr ? std::optional(*shown) : std::nullopt;
+}
 
 /// Returns the type identifier by which a value is known; it lives as long as the value's data.
 template <class Value>

@@ -7,16 +7,25 @@
 
 namespace Parameters {
 
+namespace {
+
+BoolParameter parameterOf(Internal::BoolParameterData data) {
+    return Internal::Access::make<BoolParameter>(std::make_shared<const Internal::BoolParameterData>(std::move(data)));
+}
+
+} // namespace
+
 BoolParameter::BoolParameter(const ParameterCore& core)
     : BoolParameter(core, Internal::standInOf<Internal::BoolSpecKind>()) {}
 
 BoolParameter::BoolParameter(const ParameterCore& core, const BoolSpec& spec)
-    : BoolParameter(std::make_shared<const Internal::BoolParameterData>(
-          Internal::BoolParameterData{Internal::Access::data(core), spec})) {}
+    : BoolParameter(parameterOf({Internal::Access::data(core), spec})) {}
 
-ParameterCore BoolParameter::getCore() const { return Internal::parameterCoreOf(data_); }
+ParameterCore BoolParameter::getCore() const noexcept { return core_; }
 
-BoolSpec BoolParameter::getSpec() const { return data_->spec; }
+BoolSpec BoolParameter::getSpec() const noexcept { return spec(); }
+
+const BoolSpec& BoolParameter::spec() const noexcept { return Internal::Access::data(*this).spec; }
 
 PARAMETERS_COMPARE_BY_TYPEID(BoolParameter)
 
@@ -33,23 +42,22 @@ std::optional<ParameterRecord> BoolParameterKind::read(const Ostra::Schema& sche
 }
 
 ParameterRecord BoolParameterKind::recordOf(const BoolParameter& parameter) {
-    const auto& [core, spec] = Access::data(parameter);
-    return Record(core, typeIdOf(spec));
+    const auto& data = Access::data(parameter);
+    return Record(data, typeIdOf(data.spec));
 }
 
 BoolParameter BoolParameterKind::build(const Record& record, const Finder& finder, const BoolParameter* given) {
     auto core = buildParameterCore(record, finder);
     const auto spec = finder.requireOrStandIn<BoolSpecKind>(record.spec(), record.typeId(),
                                                             given != nullptr ? &Access::data(*given).spec : nullptr);
-    return Access::make<BoolParameter>(
-        std::make_shared<const BoolParameterData>(BoolParameterData{std::move(core), spec}));
+    return parameterOf({std::move(core), spec});
 }
 
 std::string BoolParameterKind::write(const BoolParameter& parameter) {
-    const auto& [core, spec] = Access::data(parameter);
-    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
-    writeParameterConstants(writer, core);
-    writeSpecConstant<BoolSpecKind>(writer, spec);
+    const auto& data = Access::data(parameter);
+    Ostra::SchemaWriter writer = schemaWriter(data.typeId(), base);
+    writeParameterConstants(writer, data);
+    writeSpecConstant<BoolSpecKind>(writer, data.spec);
     return std::move(writer).finish();
 }
 

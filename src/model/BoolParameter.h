@@ -12,11 +12,8 @@
 
 namespace Parameters::Internal {
 
-struct BoolParameterData {
-    ParameterCoreData core;
+struct BoolParameterData : ParameterCoreData {
     BoolSpec spec;
-
-    std::string_view typeId() const { return core.typeId(); }
 };
 
 struct BoolParameterKind : DescribedKind<Kinds::BoolParameter> {

@@ -2,9 +2,9 @@
 
 namespace Parameters {
 
-BoolSpec::BoolSpec(const SpecCore& core) : BoolSpec(Internal::Access::shared(core)) {}
+BoolSpec::BoolSpec(const SpecCore& core) : core_(core) {}
 
-SpecCore BoolSpec::getCore() const { return Internal::Access::make<SpecCore>(data_); }
+SpecCore BoolSpec::getCore() const noexcept { return core_; }
 
 PARAMETERS_COMPARE_BY_TYPEID(BoolSpec)
 

@@ -36,14 +36,22 @@ std::string_view parentOf(const SubCategoryComponent& component) { return Access
 MajorCategoryComponent::MajorCategoryComponent(const Taxon& domain, const std::vector<Taxon>& disciplines)
     : MajorCategoryComponent(majorOf({domain, disciplines})) {}
 
-Taxon MajorCategoryComponent::getDomain() const { return data_->domain; }
+Taxon MajorCategoryComponent::getDomain() const noexcept { return domain(); }
+
+const Taxon& MajorCategoryComponent::domain() const noexcept { return data_->domain; }
 
 std::vector<Taxon> MajorCategoryComponent::getDisciplines() const { return data_->disciplines; }
+
+ArrayView<Taxon> MajorCategoryComponent::disciplines() const noexcept {
+    return {data_->disciplines.data(), data_->disciplines.size()};
+}
 
 SubCategoryComponent::SubCategoryComponent(const std::string& parentCategory)
     : SubCategoryComponent(subOf(parentCategory)) {}
 
-std::string SubCategoryComponent::getParentCategory() const { return std::string(parentOf(*this)); }
+std::string SubCategoryComponent::getParentCategory() const { return std::string(parentCategory()); }
+
+std::string_view SubCategoryComponent::parentCategory() const noexcept { return parentOf(*this); }
 
 Category::Category(const std::string& typeId, const std::string& name, const MajorCategoryComponent& component)
     : Category(categoryOf({{typeId, name}, component})) {}
@@ -51,19 +59,25 @@ Category::Category(const std::string& typeId, const std::string& name, const Maj
 Category::Category(const std::string& typeId, const std::string& name, const SubCategoryComponent& component)
     : Category(categoryOf({{typeId, name}, component})) {}
 
-std::string Category::getTypeId() const { return std::string(data_->typeId()); }
+std::string Category::getTypeId() const { return std::string(typeId()); }
 
-std::string Category::getName() const { return std::string(data_->name()); }
+std::string_view Category::typeId() const noexcept { return data_->typeId(); }
 
-std::optional<MajorCategoryComponent> Category::getMajorCategoryComponent() const {
-    const auto* major = data_->major();
-    return major != nullptr ? std::optional(*major) : std::nullopt;
+std::string Category::getName() const { return std::string(name()); }
+
+std::string_view Category::name() const noexcept { return data_->name(); }
+
+std::optional<MajorCategoryComponent> Category::getMajorCategoryComponent() const noexcept {
+    return Internal::copyOf(majorCategoryComponent());
 }
 
-std::optional<SubCategoryComponent> Category::getSubCategoryComponent() const {
-    const auto* sub = data_->sub();
-    return sub != nullptr ? std::optional(*sub) : std::nullopt;
+const MajorCategoryComponent* Category::majorCategoryComponent() const noexcept { return data_->major(); }
+
+std::optional<SubCategoryComponent> Category::getSubCategoryComponent() const noexcept {
+    return Internal::copyOf(subCategoryComponent());
 }
+
+const SubCategoryComponent* Category::subCategoryComponent() const noexcept { return data_->sub(); }
 
 PARAMETERS_COMPARE_BY_TYPEID(Category)
 

@@ -33,18 +33,22 @@ EnumerationData dataOf(std::string_view typeId, const std::vector<std::pair<std:
 } // namespace
 
 Enumeration::Enumeration(const std::string& typeId, const std::vector<std::pair<std::string, std::int64_t>>& values)
-    : Enumeration(std::make_shared<const EnumerationData>(dataOf(typeId, values))) {}
+    : data_(std::make_shared<const EnumerationData>(dataOf(typeId, values))) {}
 
-std::string Enumeration::getTypeId() const { return std::string(data_->typeId()); }
+std::string Enumeration::getTypeId() const { return std::string(typeId()); }
+
+std::string_view Enumeration::typeId() const noexcept { return data_->typeId(); }
 
 std::vector<std::pair<std::string, std::int64_t>> Enumeration::getValues() const {
-    std::vector<std::pair<std::string, std::int64_t>> values;
-    values.reserve(data_->integers.size());
-    for (std::size_t value = 0; value < data_->integers.size(); ++value) {
-        values.emplace_back(data_->identifier(value), data_->integers[value]);
+    std::vector<std::pair<std::string, std::int64_t>> copies;
+    copies.reserve(values().size());
+    for (const auto [identifier, integer] : values()) {
+        copies.emplace_back(identifier, integer);
     }
-    return values;
+    return copies;
 }
+
+EnumerationValues Enumeration::values() const noexcept { return {data_->texts.from(1), data_->integers.data()}; }
 
 PARAMETERS_COMPARE_BY_TYPEID(Enumeration)
 

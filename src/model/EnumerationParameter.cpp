@@ -22,11 +22,17 @@ EnumerationParameter::EnumerationParameter(const ParameterCore& core, const Gene
                                            const Enumeration& enumeration)
     : EnumerationParameter(parameterOf({Internal::Access::data(core), spec, enumeration})) {}
 
-ParameterCore EnumerationParameter::getCore() const { return Internal::parameterCoreOf(data_); }
+ParameterCore EnumerationParameter::getCore() const noexcept { return core_; }
 
-GeneralSpec EnumerationParameter::getSpec() const { return data_->spec; }
+GeneralSpec EnumerationParameter::getSpec() const noexcept { return spec(); }
 
-Enumeration EnumerationParameter::getEnumeration() const { return data_->enumeration; }
+const GeneralSpec& EnumerationParameter::spec() const noexcept { return Internal::Access::data(*this).spec; }
+
+Enumeration EnumerationParameter::getEnumeration() const noexcept { return enumeration(); }
+
+const Enumeration& EnumerationParameter::enumeration() const noexcept {
+    return Internal::Access::data(*this).enumeration;
+}
 
 PARAMETERS_COMPARE_BY_TYPEID(EnumerationParameter)
 
@@ -112,8 +118,8 @@ std::optional<EnumerationParameterKind::Record> EnumerationParameterKind::read(c
 }
 
 EnumerationParameterKind::Record EnumerationParameterKind::recordOf(const EnumerationParameter& parameter) {
-    const auto& [core, spec, enumeration] = Access::data(parameter);
-    return Record(core, typeIdOf(spec), typeIdOf(enumeration));
+    const auto& data = Access::data(parameter);
+    return Record(data, typeIdOf(data.spec), typeIdOf(data.enumeration));
 }
 
 EnumerationParameter EnumerationParameterKind::build(const Record& record, const Finder& finder,
@@ -126,11 +132,11 @@ EnumerationParameter EnumerationParameterKind::build(const Record& record, const
 }
 
 std::string EnumerationParameterKind::write(const EnumerationParameter& parameter) {
-    const auto& [core, spec, enumeration] = Access::data(parameter);
-    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
-    writeParameterConstants(writer, core);
-    writeSpecConstant<GeneralSpecKind>(writer, spec);
-    writer.typedProperty("value").typedValue(typeIdOf(enumeration));
+    const auto& data = Access::data(parameter);
+    Ostra::SchemaWriter writer = schemaWriter(data.typeId(), base);
+    writeParameterConstants(writer, data);
+    writeSpecConstant<GeneralSpecKind>(writer, data.spec);
+    writer.typedProperty("value").typedValue(typeIdOf(data.enumeration));
     return std::move(writer).finish();
 }
 

@@ -14,12 +14,9 @@
 
 namespace Parameters::Internal {
 
-struct EnumerationParameterData {
-    ParameterCoreData core;
+struct EnumerationParameterData : ParameterCoreData {
     GeneralSpec spec;
     Enumeration enumeration;
-
-    std::string_view typeId() const { return core.typeId(); }
 };
 
 struct EnumerationParameterKind : DescribedKind<Kinds::EnumerationParameter> {

@@ -10,15 +10,17 @@ FloatRange::FloatRange(bool fromBottom, double bottomBoundary, bool fromTop, dou
     : FloatRange(Internal::FloatRangeKind::of(
           {Internal::FloatRangeKind::baseTexts(), fromBottom, bottomBoundary, fromTop, topBoundary})) {}
 
-std::string FloatRange::getTypeId() const { return std::string(data_->typeId()); }
+std::string FloatRange::getTypeId() const { return std::string(typeId()); }
 
-bool FloatRange::isBoundFromBottom() const { return data_->fromBottom; }
+std::string_view FloatRange::typeId() const noexcept { return data_->typeId(); }
 
-double FloatRange::getBottomBoundary() const { return data_->bottomBoundary; }
+bool FloatRange::isBoundFromBottom() const noexcept { return data_->fromBottom; }
 
-bool FloatRange::isBoundFromTop() const { return data_->fromTop; }
+double FloatRange::getBottomBoundary() const noexcept { return data_->bottomBoundary; }
 
-double FloatRange::getTopBoundary() const { return data_->topBoundary; }
+bool FloatRange::isBoundFromTop() const noexcept { return data_->fromTop; }
+
+double FloatRange::getTopBoundary() const noexcept { return data_->topBoundary; }
 
 PARAMETERS_COMPARE_BY_TYPEID(FloatRange)
 

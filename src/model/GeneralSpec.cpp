@@ -2,9 +2,9 @@
 
 namespace Parameters {
 
-GeneralSpec::GeneralSpec(const SpecCore& core) : GeneralSpec(Internal::Access::shared(core)) {}
+GeneralSpec::GeneralSpec(const SpecCore& core) : core_(core) {}
 
-SpecCore GeneralSpec::getCore() const { return Internal::Access::make<SpecCore>(data_); }
+SpecCore GeneralSpec::getCore() const noexcept { return core_; }
 
 PARAMETERS_COMPARE_BY_TYPEID(GeneralSpec)
 

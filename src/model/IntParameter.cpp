@@ -9,11 +9,15 @@ IntParameter::IntParameter(const ParameterCore& core, const IntSpec& spec, const
     : IntParameter(
           Internal::IntParameterKind::make(Internal::ParameterCoreData(Internal::Access::data(core)), spec, range)) {}
 
-ParameterCore IntParameter::getCore() const { return Internal::parameterCoreOf(data_); }
+ParameterCore IntParameter::getCore() const noexcept { return core_; }
 
-IntSpec IntParameter::getSpec() const { return data_->spec; }
+IntSpec IntParameter::getSpec() const noexcept { return spec(); }
 
-IntRange IntParameter::getRange() const { return data_->range; }
+const IntSpec& IntParameter::spec() const noexcept { return Internal::Access::data(*this).spec; }
+
+IntRange IntParameter::getRange() const noexcept { return range(); }
+
+const IntRange& IntParameter::range() const noexcept { return Internal::Access::data(*this).range; }
 
 PARAMETERS_COMPARE_BY_TYPEID(IntParameter)
 

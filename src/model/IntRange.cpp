@@ -10,15 +10,17 @@ IntRange::IntRange(bool fromBottom, long long bottomBoundary, bool fromTop, long
     : IntRange(Internal::IntRangeKind::of(
           {Internal::IntRangeKind::baseTexts(), fromBottom, bottomBoundary, fromTop, topBoundary})) {}
 
-std::string IntRange::getTypeId() const { return std::string(data_->typeId()); }
+std::string IntRange::getTypeId() const { return std::string(typeId()); }
 
-bool IntRange::isBoundFromBottom() const { return data_->fromBottom; }
+std::string_view IntRange::typeId() const noexcept { return data_->typeId(); }
 
-long long IntRange::getBottomBoundary() const { return data_->bottomBoundary; }
+bool IntRange::isBoundFromBottom() const noexcept { return data_->fromBottom; }
 
-bool IntRange::isBoundFromTop() const { return data_->fromTop; }
+long long IntRange::getBottomBoundary() const noexcept { return data_->bottomBoundary; }
 
-long long IntRange::getTopBoundary() const { return data_->topBoundary; }
+bool IntRange::isBoundFromTop() const noexcept { return data_->fromTop; }
+
+long long IntRange::getTopBoundary() const noexcept { return data_->topBoundary; }
 
 PARAMETERS_COMPARE_BY_TYPEID(IntRange)
 

@@ -2,9 +2,9 @@
 
 namespace Parameters {
 
-IntSpec::IntSpec(const SpecCore& core) : IntSpec(Internal::Access::shared(core)) {}
+IntSpec::IntSpec(const SpecCore& core) : core_(core) {}
 
-SpecCore IntSpec::getCore() const { return Internal::Access::make<SpecCore>(data_); }
+SpecCore IntSpec::getCore() const noexcept { return core_; }
 
 PARAMETERS_COMPARE_BY_TYPEID(IntSpec)
 

@@ -6,11 +6,15 @@ MeasurableParameter::MeasurableParameter(const ParameterCore& core, const Measur
     : MeasurableParameter(Internal::MeasurableParameterKind::make(
           Internal::ParameterCoreData(Internal::Access::data(core)), spec, range)) {}
 
-ParameterCore MeasurableParameter::getCore() const { return Internal::parameterCoreOf(data_); }
+ParameterCore MeasurableParameter::getCore() const noexcept { return core_; }
 
-MeasurableSpec MeasurableParameter::getSpec() const { return data_->spec; }
+MeasurableSpec MeasurableParameter::getSpec() const noexcept { return spec(); }
 
-FloatRange MeasurableParameter::getRange() const { return data_->range; }
+const MeasurableSpec& MeasurableParameter::spec() const noexcept { return Internal::Access::data(*this).spec; }
+
+FloatRange MeasurableParameter::getRange() const noexcept { return range(); }
+
+const FloatRange& MeasurableParameter::range() const noexcept { return Internal::Access::data(*this).range; }
 
 PARAMETERS_COMPARE_BY_TYPEID(MeasurableParameter)
 

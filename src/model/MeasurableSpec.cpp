@@ -22,11 +22,20 @@ MeasurableSpec::MeasurableSpec(const SpecCore& core, const std::vector<Units::Un
                                const Units::Unit& storageUnit)
     : MeasurableSpec(specOf({Internal::Access::data(core), applicableUnits, storageUnit})) {}
 
-SpecCore MeasurableSpec::getCore() const { return Internal::specCoreOf(data_); }
+SpecCore MeasurableSpec::getCore() const noexcept { return core_; }
 
-std::vector<Units::Unit> MeasurableSpec::getApplicableUnits() const { return data_->applicableUnits; }
+std::vector<Units::Unit> MeasurableSpec::getApplicableUnits() const {
+    return {applicableUnits().begin(), applicableUnits().end()};
+}
 
-Units::Unit MeasurableSpec::getStorageUnit() const { return data_->storageUnit; }
+ArrayView<Units::Unit> MeasurableSpec::applicableUnits() const noexcept {
+    const auto& units = Internal::Access::data(*this).applicableUnits;
+    return {units.data(), units.size()};
+}
+
+Units::Unit MeasurableSpec::getStorageUnit() const { return storageUnit(); }
+
+const Units::Unit& MeasurableSpec::storageUnit() const noexcept { return Internal::Access::data(*this).storageUnit; }
 
 PARAMETERS_COMPARE_BY_TYPEID(MeasurableSpec)
 
@@ -64,35 +73,35 @@ std::optional<MeasurableSpecKind::Record> MeasurableSpecKind::read(const Ostra::
 }
 
 MeasurableSpecKind::Record MeasurableSpecKind::recordOf(const MeasurableSpec& spec) {
-    const auto& [core, applicableUnits, storageUnit] = Access::data(spec);
+    const auto& data = Access::data(spec);
     std::vector<std::string> typeIds;
-    for (const Units::Unit& unit : applicableUnits) {
+    for (const Units::Unit& unit : data.applicableUnits) {
         typeIds.push_back(unit.getTypeId());
     }
-    typeIds.push_back(storageUnit.getTypeId());
-    return Record(core, std::vector<std::string_view>(typeIds.begin(), typeIds.end()));
+    typeIds.push_back(data.storageUnit.getTypeId());
+    return Record(data, std::vector<std::string_view>(typeIds.begin(), typeIds.end()));
 }
 
 MeasurableSpec MeasurableSpecKind::build(const Record& record, const Finder& finder, const MeasurableSpec* given) {
     auto [units, core] = findBoth(
         finder, [&] { return findUnits(record, finder); },
-        [&] { return buildSpecCore(record, finder, given != nullptr ? &Access::data(*given).core : nullptr); });
+        [&] { return buildSpecCore(record, finder, given != nullptr ? &Access::data(*given) : nullptr); });
     return units.storage ? specOf({std::move(core), std::move(units.applicable), *units.storage})
                          : Access::none<MeasurableSpec>();
 }
 
 std::string MeasurableSpecKind::write(const MeasurableSpec& spec) {
-    const auto& [core, applicableUnits, storageUnit] = Access::data(spec);
-    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
-    writeSpecConstants(writer, core);
-    if (!applicableUnits.empty()) {
+    const auto& data = Access::data(spec);
+    Ostra::SchemaWriter writer = schemaWriter(data.typeId(), base);
+    writeSpecConstants(writer, data);
+    if (!data.applicableUnits.empty()) {
         writer.typedConstant("applicableUnits").beginArray();
-        for (const Units::Unit& unit : applicableUnits) {
+        for (const Units::Unit& unit : data.applicableUnits) {
             writer.typedValue(unit.getTypeId());
         }
         writer.endArray();
     }
-    writer.typedConstant("storageUnit").typedValue(storageUnit.getTypeId());
+    writer.typedConstant("storageUnit").typedValue(data.storageUnit.getTypeId());
     return std::move(writer).finish();
 }
 

@@ -14,12 +14,9 @@
 
 namespace Parameters::Internal {
 
-struct MeasurableSpecData {
-    SpecCoreData core;
+struct MeasurableSpecData : SpecCoreData {
     std::vector<Units::Unit> applicableUnits;
     Units::Unit storageUnit;
-
-    std::string_view typeId() const { return core.typeId(); }
 };
 
 struct MeasurableSpecKind : DescribedKind<Kinds::MeasurableSpec> {

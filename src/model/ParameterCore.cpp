@@ -12,20 +12,30 @@ ParameterCore::ParameterCore(const std::string& typeId, const std::string& name,
 
 ParameterCore::ParameterCore(const std::string& typeId, const std::string& name, const Taxon& group,
                              const std::string& description, const std::string& sampleText, bool readOnly)
-    : ParameterCore(std::make_shared<const Internal::ParameterCoreData>(
+    : data_(std::make_shared<const Internal::ParameterCoreData>(
           Internal::ParameterCoreData{{typeId, name, description, sampleText}, group, readOnly})) {}
 
-std::string ParameterCore::getTypeId() const { return std::string(data_->typeId()); }
+std::string ParameterCore::getTypeId() const { return std::string(typeId()); }
 
-std::string ParameterCore::getName() const { return std::string(data_->name()); }
+std::string_view ParameterCore::typeId() const noexcept { return data_->typeId(); }
 
-std::string ParameterCore::getDescription() const { return std::string(data_->description()); }
+std::string ParameterCore::getName() const { return std::string(name()); }
 
-Taxon ParameterCore::getGroup() const { return data_->group; }
+std::string_view ParameterCore::name() const noexcept { return data_->name(); }
 
-std::string ParameterCore::getSampleText() const { return std::string(data_->sampleText()); }
+std::string ParameterCore::getDescription() const { return std::string(description()); }
 
-bool ParameterCore::isReadOnly() const { return data_->readOnly; }
+std::string_view ParameterCore::description() const noexcept { return data_->description(); }
+
+Taxon ParameterCore::getGroup() const noexcept { return group(); }
+
+const Taxon& ParameterCore::group() const noexcept { return data_->group; }
+
+std::string ParameterCore::getSampleText() const { return std::string(sampleText()); }
+
+std::string_view ParameterCore::sampleText() const noexcept { return data_->sampleText(); }
+
+bool ParameterCore::isReadOnly() const noexcept { return data_->readOnly; }
 
 PARAMETERS_COMPARE_BY_TYPEID(ParameterCore)
 

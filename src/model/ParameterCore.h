@@ -17,6 +17,7 @@
 
 namespace Parameters::Internal {
 
+/// The data of a core, from which those of parameters derive: a parameter holds them as its core.
 struct ParameterCoreData {
     Texts texts; // typeid, name, description, sampleText
     Taxon group;
@@ -86,12 +87,6 @@ void writeSpecConstant(Ostra::SchemaWriter& writer, const typename SpecKind::Obj
         }
     }
     writer.typedConstant("spec").typedValue(typeId);
-}
-
-/// Returns the core that is a part of a parameter's data and lives as long as that.
-template <class Data>
-ParameterCore parameterCoreOf(const std::shared_ptr<const Data>& data) {
-    return Access::make<ParameterCore>(std::shared_ptr<const ParameterCoreData>(data, &data->core));
 }
 
 } // namespace Parameters::Internal

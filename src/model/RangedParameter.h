@@ -19,12 +19,9 @@ namespace Parameters::Internal {
 
 /// The data of a parameter that has a range.
 template <class Spec, class Range>
-struct RangedParameterData {
-    ParameterCoreData core;
+struct RangedParameterData : ParameterCoreData {
     Spec spec;
     Range range;
-
-    std::string_view typeId() const { return core.typeId(); }
 };
 
 /// The record of a parameter that has a range.
@@ -67,8 +64,8 @@ public:
     }
 
     static Record recordOf(const Object& parameter) {
-        const auto& [core, spec, range] = Access::data(parameter);
-        return Record(RangeKind::referenceTo(range), core, typeIdOf(spec));
+        const auto& data = Access::data(parameter);
+        return Record(RangeKind::referenceTo(data.range), data, typeIdOf(data.spec));
     }
 
     static Object build(const Record& record, const Finder& finder, const Object* given) {
@@ -87,11 +84,11 @@ public:
     }
 
     static std::string write(const Object& parameter) {
-        const auto& [core, spec, range] = Access::data(parameter);
-        Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
-        writeParameterConstants(writer, core);
-        writeSpecConstant<SpecKind>(writer, spec);
-        RangeKind::writeConstant(writer, range);
+        const auto& data = Access::data(parameter);
+        Ostra::SchemaWriter writer = schemaWriter(data.typeId(), base);
+        writeParameterConstants(writer, data);
+        writeSpecConstant<SpecKind>(writer, data.spec);
+        RangeKind::writeConstant(writer, data.range);
         return std::move(writer).finish();
     }
 

@@ -32,11 +32,13 @@ ReferenceParameter::ReferenceParameter(const ParameterCore& core, const Referenc
 ReferenceParameter::ReferenceParameter(const ParameterCore& core, bool ranged)
     : ReferenceParameter(core, Internal::standInOf<Internal::ReferenceSpecKind>(), ranged) {}
 
-ParameterCore ReferenceParameter::getCore() const { return Internal::parameterCoreOf(data_); }
+ParameterCore ReferenceParameter::getCore() const noexcept { return core_; }
 
-ReferenceSpec ReferenceParameter::getSpec() const { return data_->spec; }
+ReferenceSpec ReferenceParameter::getSpec() const noexcept { return spec(); }
 
-bool ReferenceParameter::isRanged() const { return data_->ranged; }
+const ReferenceSpec& ReferenceParameter::spec() const noexcept { return Internal::Access::data(*this).spec; }
+
+bool ReferenceParameter::isRanged() const noexcept { return Internal::Access::data(*this).ranged; }
 
 PARAMETERS_COMPARE_BY_TYPEID(ReferenceParameter)
 
@@ -124,13 +126,13 @@ std::optional<ReferenceParameterKind::Record> ReferenceParameterKind::read(const
 }
 
 ReferenceParameterKind::Record ReferenceParameterKind::recordOf(const ReferenceParameter& parameter) {
-    const auto& [core, spec, ranged] = Access::data(parameter);
-    const auto& category = Access::data(spec).category;
+    const auto& data = Access::data(parameter);
+    const auto& category = Access::data(data.spec).category;
     std::optional<std::string_view> named;
-    if (category && isFamilyType(typeIdOf(spec))) { // another spec brings its own category
+    if (category && isFamilyType(typeIdOf(data.spec))) { // another spec brings its own category
         named = typeIdOf(*category);
     }
-    return Record(ranged, core, typeIdOf(spec), named);
+    return Record(data.ranged, data, typeIdOf(data.spec), named);
 }
 
 ReferenceParameter ReferenceParameterKind::build(const Record& record, const Finder& finder,
@@ -143,12 +145,12 @@ ReferenceParameter ReferenceParameterKind::build(const Record& record, const Fin
 }
 
 std::string ReferenceParameterKind::write(const ReferenceParameter& parameter) {
-    const auto& [core, spec, ranged] = Access::data(parameter);
-    const auto& base = ranged ? rangedBase : plainBase;
-    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
-    writeParameterConstants(writer, core);
-    const auto& category = Access::data(spec).category;
-    if (category && isFamilyType(typeIdOf(spec))) {
+    const auto& data = Access::data(parameter);
+    const auto& base = data.ranged ? rangedBase : plainBase;
+    Ostra::SchemaWriter writer = schemaWriter(data.typeId(), base);
+    writeParameterConstants(writer, data);
+    const auto& category = Access::data(data.spec).category;
+    if (category && isFamilyType(typeIdOf(data.spec))) {
         writer.typedConstant("spec").beginTypedValue(ReferenceSpecKind::familyTypeBase.full());
         writer.name("typedValue");
         writer.beginObject();
@@ -157,7 +159,7 @@ std::string ReferenceParameterKind::write(const ReferenceParameter& parameter) {
         writer.endObject();
         writer.endObject();
     } else {
-        writeSpecConstant<ReferenceSpecKind>(writer, spec);
+        writeSpecConstant<ReferenceSpecKind>(writer, data.spec);
     }
     return std::move(writer).finish();
 }

@@ -14,12 +14,9 @@
 
 namespace Parameters::Internal {
 
-struct ReferenceParameterData {
-    ParameterCoreData core;
+struct ReferenceParameterData : ParameterCoreData {
     ReferenceSpec spec;
     bool ranged;
-
-    std::string_view typeId() const { return core.typeId(); }
 };
 
 struct ReferenceParameterKind : DescribedKind<Kinds::ReferenceParameter> {

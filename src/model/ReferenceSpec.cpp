@@ -22,9 +22,14 @@ ReferenceSpec specOf(Internal::SpecCoreData core, std::optional<Category> catego
 ReferenceSpec::ReferenceSpec(const SpecCore& core, const std::optional<Category>& category)
     : ReferenceSpec(specOf(Internal::Access::data(core), category)) {}
 
-SpecCore ReferenceSpec::getCore() const { return Internal::specCoreOf(data_); }
+SpecCore ReferenceSpec::getCore() const noexcept { return core_; }
 
-std::optional<Category> ReferenceSpec::getCategory() const { return data_->category; }
+std::optional<Category> ReferenceSpec::getCategory() const noexcept { return Internal::copyOf(category()); }
+
+const Category* ReferenceSpec::category() const noexcept {
+    const auto& category = Internal::Access::data(*this).category;
+    return category ? &*category : nullptr;
+}
 
 PARAMETERS_COMPARE_BY_TYPEID(ReferenceSpec)
 
@@ -41,12 +46,13 @@ std::optional<ReferenceSpecKind::Record> ReferenceSpecKind::read(const Ostra::Sc
 }
 
 ReferenceSpecKind::Record ReferenceSpecKind::recordOf(const ReferenceSpec& spec) {
-    const auto& [core, category] = Access::data(spec);
-    return Record(core, category ? std::optional(typeIdOf(*category)) : std::nullopt);
+    const auto& data = Access::data(spec);
+    const auto& category = data.category;
+    return Record(data, category ? std::optional(typeIdOf(*category)) : std::nullopt);
 }
 
 ReferenceSpec ReferenceSpecKind::build(const Record& record, const Finder& finder, const ReferenceSpec* given) {
-    auto core = buildSpecCore(record, finder, given != nullptr ? &Access::data(*given).core : nullptr);
+    auto core = buildSpecCore(record, finder, given != nullptr ? &Access::data(*given) : nullptr);
     std::optional<Category> category;
     if (const auto named = record.category()) {
         category = finder.require<CategoryKind>(*named, record.typeId());
@@ -55,11 +61,11 @@ ReferenceSpec ReferenceSpecKind::build(const Record& record, const Finder& finde
 }
 
 std::string ReferenceSpecKind::write(const ReferenceSpec& spec) {
-    const auto& [core, category] = Access::data(spec);
-    Ostra::SchemaWriter writer = schemaWriter(core.typeId(), base);
-    writeSpecConstants(writer, core);
-    if (category) {
-        writer.typedConstant("category").typedValue(typeIdOf(*category));
+    const auto& data = Access::data(spec);
+    Ostra::SchemaWriter writer = schemaWriter(data.typeId(), base);
+    writeSpecConstants(writer, data);
+    if (data.category) {
+        writer.typedConstant("category").typedValue(typeIdOf(*data.category));
     }
     return std::move(writer).finish();
 }

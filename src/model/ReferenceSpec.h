@@ -11,11 +11,8 @@
 
 namespace Parameters::Internal {
 
-struct ReferenceSpecData {
-    SpecCoreData core;
+struct ReferenceSpecData : SpecCoreData {
     std::optional<Category> category;
-
-    std::string_view typeId() const { return core.typeId(); }
 };
 
 struct CategoryKind;

@@ -7,16 +7,22 @@
 namespace Parameters {
 
 SpecCore::SpecCore(const std::string& typeId, const std::string& name)
-    : SpecCore(std::make_shared<const Internal::SpecCoreData>(Internal::commonSpecCore(typeId, name))) {}
+    : data_(std::make_shared<const Internal::SpecCoreData>(Internal::commonSpecCore(typeId, name))) {}
 
 SpecCore::SpecCore(const std::string& typeId, const std::string& name, const Taxon& discipline)
-    : SpecCore(std::make_shared<const Internal::SpecCoreData>(Internal::SpecCoreData{{typeId, name}, discipline})) {}
+    : data_(std::make_shared<const Internal::SpecCoreData>(Internal::SpecCoreData{{typeId, name}, discipline})) {}
 
-std::string SpecCore::getTypeId() const { return std::string(data_->typeId()); }
+std::string SpecCore::getTypeId() const { return std::string(typeId()); }
 
-std::string SpecCore::getName() const { return std::string(data_->name()); }
+std::string_view SpecCore::typeId() const noexcept { return data_->typeId(); }
 
-Taxon SpecCore::getDiscipline() const { return data_->discipline; }
+std::string SpecCore::getName() const { return std::string(name()); }
+
+std::string_view SpecCore::name() const noexcept { return data_->name(); }
+
+Taxon SpecCore::getDiscipline() const noexcept { return discipline(); }
+
+const Taxon& SpecCore::discipline() const noexcept { return data_->discipline; }
 
 PARAMETERS_COMPARE_BY_TYPEID(SpecCore)
 

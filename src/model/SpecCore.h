@@ -18,6 +18,7 @@
 
 namespace Parameters::Internal {
 
+/// The data of a core, from which those of specs derive: a spec holds them as its core.
 struct SpecCoreData {
     Texts texts; // typeid, name
     Taxon discipline;
@@ -71,11 +72,5 @@ void writeSpecConstants(Ostra::SchemaWriter& writer, const SpecCoreData& core);
 
 /// Returns a core of the default discipline.
 SpecCoreData commonSpecCore(std::string_view typeId, std::string_view name);
-
-/// Returns the core that is a part of a spec's data and lives as long as that.
-template <class Data>
-SpecCore specCoreOf(const std::shared_ptr<const Data>& data) {
-    return Access::make<SpecCore>(std::shared_ptr<const SpecCoreData>(data, &data->core));
-}
 
 } // namespace Parameters::Internal

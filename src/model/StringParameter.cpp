@@ -9,11 +9,15 @@ StringParameter::StringParameter(const ParameterCore& core, const StringSpec& sp
     : StringParameter(Internal::StringParameterKind::make(Internal::ParameterCoreData(Internal::Access::data(core)),
                                                           spec, range)) {}
 
-ParameterCore StringParameter::getCore() const { return Internal::parameterCoreOf(data_); }
+ParameterCore StringParameter::getCore() const noexcept { return core_; }
 
-StringSpec StringParameter::getSpec() const { return data_->spec; }
+StringSpec StringParameter::getSpec() const noexcept { return spec(); }
 
-StringRange StringParameter::getRange() const { return data_->range; }
+const StringSpec& StringParameter::spec() const noexcept { return Internal::Access::data(*this).spec; }
+
+StringRange StringParameter::getRange() const noexcept { return range(); }
+
+const StringRange& StringParameter::range() const noexcept { return Internal::Access::data(*this).range; }
 
 PARAMETERS_COMPARE_BY_TYPEID(StringParameter)
 

@@ -47,10 +47,14 @@ std::vector<std::string> SetStringRangeComponent::getAllowedValues() const {
     return {data_->allowedValues.begin(), data_->allowedValues.end()};
 }
 
+StringsView SetStringRangeComponent::allowedValues() const noexcept { return data_->allowedValues.from(0); }
+
 RegexStringRangeComponent::RegexStringRangeComponent(const std::string& regex)
     : RegexStringRangeComponent(regexOf(regex)) {}
 
-std::string RegexStringRangeComponent::getRegex() const { return std::string(regexIn(*this)); }
+std::string RegexStringRangeComponent::getRegex() const { return std::string(regex()); }
+
+std::string_view RegexStringRangeComponent::regex() const noexcept { return regexIn(*this); }
 
 StringRange::StringRange() : StringRange(rangeOf({{StringRangeKind::anyBase.full()}, {}})) {}
 
@@ -66,17 +70,21 @@ StringRange::StringRange(const std::string& typeId, const SetStringRangeComponen
 StringRange::StringRange(const std::string& typeId, const RegexStringRangeComponent& regex)
     : StringRange(rangeOf({{typeId}, regex})) {}
 
-std::string StringRange::getTypeId() const { return std::string(data_->typeId()); }
+std::string StringRange::getTypeId() const { return std::string(typeId()); }
 
-std::optional<SetStringRangeComponent> StringRange::getSetStringRangeComponent() const {
-    const auto* set = data_->set();
-    return set != nullptr ? std::optional(*set) : std::nullopt;
+std::string_view StringRange::typeId() const noexcept { return data_->typeId(); }
+
+std::optional<SetStringRangeComponent> StringRange::getSetStringRangeComponent() const noexcept {
+    return Internal::copyOf(setStringRangeComponent());
 }
 
-std::optional<RegexStringRangeComponent> StringRange::getRegexStringRangeComponent() const {
-    const auto* regex = data_->regex();
-    return regex != nullptr ? std::optional(*regex) : std::nullopt;
+const SetStringRangeComponent* StringRange::setStringRangeComponent() const noexcept { return data_->set(); }
+
+std::optional<RegexStringRangeComponent> StringRange::getRegexStringRangeComponent() const noexcept {
+    return Internal::copyOf(regexStringRangeComponent());
 }
+
+const RegexStringRangeComponent* StringRange::regexStringRangeComponent() const noexcept { return data_->regex(); }
 
 PARAMETERS_COMPARE_BY_TYPEID(StringRange)
 

@@ -2,9 +2,9 @@
 
 namespace Parameters {
 
-StringSpec::StringSpec(const SpecCore& core) : StringSpec(Internal::Access::shared(core)) {}
+StringSpec::StringSpec(const SpecCore& core) : core_(core) {}
 
-SpecCore StringSpec::getCore() const { return Internal::Access::make<SpecCore>(data_); }
+SpecCore StringSpec::getCore() const noexcept { return core_; }
 
 PARAMETERS_COMPARE_BY_TYPEID(StringSpec)
 

@@ -11,9 +11,13 @@ namespace Parameters {
 
 Taxon::Taxon(const std::string& typeId, const std::string& name) : Taxon(Internal::makeTaxon({typeId, name})) {}
 
-std::string Taxon::getTypeId() const { return std::string(data_->typeId()); }
+std::string Taxon::getTypeId() const { return std::string(typeId()); }
 
-std::string Taxon::getName() const { return std::string(data_->name()); }
+std::string_view Taxon::typeId() const noexcept { return data_->typeId(); }
+
+std::string Taxon::getName() const { return std::string(name()); }
+
+std::string_view Taxon::name() const noexcept { return data_->name(); }
 
 PARAMETERS_COMPARE_BY_TYPEID(Taxon)
 

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "model/Access.h"
+
+#include <parameters/Views.h>
+
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
-#include <iterator>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -36,29 +39,14 @@ public:
         return {characters() + begin, ends()[index] - begin};
     }
 
-    /// Walks the strings in order, so that a range-based loop can.
-    class Iterator {
-    public:
-        using difference_type = std::ptrdiff_t;
-        using value_type = std::string_view;
-        using pointer = void;
-        using reference = std::string_view;
-        using iterator_category = std::input_iterator_tag;
-
-        Iterator(const Texts& texts, std::size_t index) : texts_(&texts), index_(index) {}
-        std::string_view operator*() const { return (*texts_)[index_]; }
-        Iterator& operator++() {
-            ++index_;
-            return *this;
-        }
-        bool operator==(const Iterator& other) const { return index_ == other.index_; }
-
-    private:
-        const Texts* texts_;
-        std::size_t index_;
-    };
-    Iterator begin() const { return {*this, 0}; }
-    Iterator end() const { return {*this, size()}; }
+    /// Returns the strings from one on.
+    StringsView from(std::size_t first) const noexcept {
+        return first == size()
+                   ? StringsView()
+                   : Access::view(characters(), first == 0 ? 0 : ends()[first - 1], ends() + first, size() - first);
+    }
+    StringsView::iterator begin() const noexcept { return from(0).begin(); }
+    StringsView::iterator end() const noexcept { return from(0).end(); }
 
 private:
     // In memory it is followed by the ends of the strings, then by their bytes.

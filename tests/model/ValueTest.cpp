@@ -4,10 +4,24 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <type_traits>
+#include <unordered_set>
 #include <utility>
+
+namespace OwnSwap {
+
+void swap() = delete; // hides that of the standard library, so that only one of the class is found
+
+template <class Value, class = void>
+struct IsThere : std::false_type {};
+template <class Value>
+struct IsThere<Value, std::void_t<decltype(swap(std::declval<Value&>(), std::declval<Value&>()))>> : std::true_type {};
+
+} // namespace OwnSwap
 
 namespace {
 
@@ -193,6 +207,41 @@ TYPED_TEST(EveryValue, SurvivesBeingSwapped) {
     std::swap(a, b);
     this->expectThat(a, "b");
     this->expectThat(b, "a");
+}
+
+TYPED_TEST(EveryValue, IsSwappedWithoutACopy) {
+    using Object = typename TypeParam::Value;
+    using std::swap;
+    Object a = this->valueOf("a");
+    Object b = this->valueOf("b");
+    swap(a, b);
+    this->expectThat(a, "b");
+    this->expectThat(b, "a");
+    EXPECT_TRUE(OwnSwap::IsThere<Object>::value); // std::swap would copy
+}
+
+TYPED_TEST(EveryValue, IsHashedByItsTypeIdAlone) {
+    using Object = typename TypeParam::Value;
+    const std::hash<Object> hash;
+    EXPECT_EQ(hash(this->valueOf("a", "1")), hash(this->valueOf("a", "2")));
+    EXPECT_NE(hash(this->valueOf("a")), hash(this->valueOf("b")));
+    const std::unordered_set<Object> set{this->valueOf("a", "1"), this->valueOf("b"), this->valueOf("a", "2")};
+    EXPECT_EQ(set.size(), 2U);
+    EXPECT_EQ(set.count(this->valueOf("b")), 1U);
+}
+
+TYPED_TEST(EveryValue, IsPrintedAsItsTypeId) {
+    std::ostringstream stream;
+    stream << this->valueOf(std::string("a\0b", 3)) << "; " << this->valueOf("c");
+    EXPECT_EQ(stream.str(), std::string("a\0b; c", 6));
+}
+
+TYPED_TEST(EveryValue, ShowsItsTypeIdWithoutACopy) {
+    const auto value = this->valueOf("a typeid");
+    EXPECT_EQ(value.typeId(), "a typeid");
+    EXPECT_TRUE(noexcept(value.typeId()));
+    const auto copy = value;
+    EXPECT_EQ(copy.typeId().data(), value.typeId().data());
 }
 
 TYPED_TEST(EveryValue, IsEqualToItsCopy) {

@@ -10,6 +10,7 @@
 #include <functional>
 #include <optional>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -451,7 +452,25 @@ inline std::string shown(const std::string& bytes) {
     return result + '"';
 }
 
-/// Returns all that a value answers, as one text. There is one for each class of objects and of their parts.
+/// Returns a text that both a view and a copy gave, which must be the same.
+inline std::string agreed(std::string_view view, const std::string& copy) {
+    if (view != copy) {
+        throw std::logic_error("A view shows \"" + std::string(view) + "\", a copy is \"" + copy + "\".");
+    }
+    return copy;
+}
+
+/// Returns what both a view and a copy are handles of, which must be the same data.
+template <class Value>
+const Value& same(const Value& view, const Value& copy) {
+    if (std::string_view(view.typeId()).data() != std::string_view(copy.typeId()).data()) {
+        throw std::logic_error("A view and a copy are not of the same object.");
+    }
+    return view;
+}
+
+/// Returns all that a value answers, as one text. There is one for each class of objects and of their parts. What can
+/// be had as a view and as a copy is asked for in both ways.
 /// @{
 template <class Value>
 std::string describe(const Value&) {
@@ -464,9 +483,12 @@ inline std::string describe(const Units::Unit& unit) {
 }
 
 inline std::string describe(const Parameters::Enumeration& enumeration) {
-    std::string result = "(" + shown(enumeration.getTypeId());
-    for (const auto& [identifier, integer] : enumeration.getValues()) {
-        result += " " + shown(identifier) + "=" + std::to_string(integer);
+    std::string result = "(" + shown(agreed(enumeration.typeId(), enumeration.getTypeId()));
+    const auto copies = enumeration.getValues();
+    for (std::size_t place = 0; place < enumeration.values().size(); ++place) {
+        const auto [identifier, integer] = enumeration.values()[place];
+        result += " " + shown(agreed(identifier, copies.at(place).first)) + "=" +
+                  agreed(std::to_string(integer), std::to_string(copies[place].second));
     }
     return result + ")";
 }
@@ -478,80 +500,89 @@ std::string describeNumericRange(const Range& range) {
     text.precision(17);
     text << (range.isBoundFromBottom() ? " from " : " not from ") << range.getBottomBoundary()
          << (range.isBoundFromTop() ? " to " : " not to ") << range.getTopBoundary();
-    return "(" + shown(range.getTypeId()) + text.str() + ")";
+    return "(" + shown(agreed(range.typeId(), range.getTypeId())) + text.str() + ")";
 }
 
 inline std::string describe(const Parameters::FloatRange& range) { return describeNumericRange(range); }
 inline std::string describe(const Parameters::IntRange& range) { return describeNumericRange(range); }
 
 inline std::string describe(const Parameters::StringRange& range) {
-    std::string result = "(" + shown(range.getTypeId());
+    std::string result = "(" + shown(agreed(range.typeId(), range.getTypeId()));
     if (const auto set = range.getSetStringRangeComponent()) {
         result += " one of";
+        auto shownValue = range.setStringRangeComponent()->allowedValues().begin();
         for (const std::string& value : set->getAllowedValues()) {
-            result += " " + shown(value);
+            result += " " + shown(agreed(*shownValue++, value));
         }
     }
     if (const auto regex = range.getRegexStringRangeComponent()) {
-        result += " matching " + shown(regex->getRegex());
+        result += " matching " + shown(agreed(regex->regex(), regex->getRegex()));
     }
     return result + ")";
 }
 
 inline std::string describe(const Parameters::Taxon& taxon) {
-    return "(" + shown(taxon.getTypeId()) + " " + shown(taxon.getName()) + ")";
+    return "(" + shown(agreed(taxon.typeId(), taxon.getTypeId())) + " " + shown(agreed(taxon.name(), taxon.getName())) +
+           ")";
 }
 
 inline std::string describe(const Parameters::Category& category) {
-    std::string result = "(" + shown(category.getTypeId()) + " " + shown(category.getName());
+    std::string result = "(" + shown(agreed(category.typeId(), category.getTypeId())) + " " +
+                         shown(agreed(category.name(), category.getName()));
     if (const auto major = category.getMajorCategoryComponent()) {
-        result += " of " + describe(major->getDomain()) + " for";
+        result += " of " + describe(same(major->domain(), major->getDomain())) + " for";
+        auto shownDiscipline = category.majorCategoryComponent()->disciplines().begin();
         for (const Parameters::Taxon& discipline : major->getDisciplines()) {
-            result += " " + describe(discipline);
+            result += " " + describe(same(*shownDiscipline++, discipline));
         }
     }
     if (const auto sub = category.getSubCategoryComponent()) {
-        result += " below " + shown(sub->getParentCategory());
+        result += " below " + shown(agreed(sub->parentCategory(), sub->getParentCategory()));
     }
     return result + ")";
 }
 
 inline std::string describe(const Parameters::SpecCore& core) {
-    return "(" + shown(core.getTypeId()) + " " + shown(core.getName()) + " of " + describe(core.getDiscipline()) + ")";
+    return "(" + shown(agreed(core.typeId(), core.getTypeId())) + " " + shown(agreed(core.name(), core.getName())) +
+           " of " + describe(same(core.discipline(), core.getDiscipline())) + ")";
 }
 
-inline std::string describe(const Parameters::BoolSpec& spec) { return describe(spec.getCore()); }
-inline std::string describe(const Parameters::GeneralSpec& spec) { return describe(spec.getCore()); }
-inline std::string describe(const Parameters::IntSpec& spec) { return describe(spec.getCore()); }
-inline std::string describe(const Parameters::StringSpec& spec) { return describe(spec.getCore()); }
+inline std::string describe(const Parameters::BoolSpec& spec) { return describe(same(spec.core(), spec.getCore())); }
+inline std::string describe(const Parameters::GeneralSpec& spec) { return describe(same(spec.core(), spec.getCore())); }
+inline std::string describe(const Parameters::IntSpec& spec) { return describe(same(spec.core(), spec.getCore())); }
+inline std::string describe(const Parameters::StringSpec& spec) { return describe(same(spec.core(), spec.getCore())); }
 
 inline std::string describe(const Parameters::MeasurableSpec& spec) {
-    std::string result = describe(spec.getCore()) + " in";
+    std::string result = describe(same(spec.core(), spec.getCore())) + " in";
+    auto shownUnit = spec.applicableUnits().begin();
     for (const Units::Unit& unit : spec.getApplicableUnits()) {
-        result += " " + describe(unit);
+        result += " " + describe(same(*shownUnit++, unit));
     }
-    return result + " stored in " + describe(spec.getStorageUnit());
+    return result + " stored in " + describe(same(spec.storageUnit(), spec.getStorageUnit()));
 }
 
 inline std::string describe(const Parameters::ReferenceSpec& spec) {
     const auto category = spec.getCategory();
-    return describe(spec.getCore()) + (category ? " to " + describe(*category) : " to anything");
+    return describe(same(spec.core(), spec.getCore())) +
+           (category ? " to " + describe(same(*spec.category(), *category)) : " to anything");
 }
 
 inline std::string describe(const Parameters::ParameterCore& core) {
-    return "(" + shown(core.getTypeId()) + " " + shown(core.getName()) + " in " + describe(core.getGroup()) +
-           " described " + shown(core.getDescription()) + " sample " + shown(core.getSampleText()) +
-           (core.isReadOnly() ? " read-only)" : " writable)");
+    return "(" + shown(agreed(core.typeId(), core.getTypeId())) + " " + shown(agreed(core.name(), core.getName())) +
+           " in " + describe(same(core.group(), core.getGroup())) + " described " +
+           shown(agreed(core.description(), core.getDescription())) + " sample " +
+           shown(agreed(core.sampleText(), core.getSampleText())) + (core.isReadOnly() ? " read-only)" : " writable)");
 }
 
 template <class Parameter>
 std::string describeCoreAndSpec(const Parameter& parameter) {
-    return describe(parameter.getCore()) + " with spec " + describe(parameter.getSpec());
+    return describe(same(parameter.core(), parameter.getCore())) + " with spec " +
+           describe(same(parameter.spec(), parameter.getSpec()));
 }
 
 template <class Parameter>
 std::string describeRangedParameter(const Parameter& parameter) {
-    return describeCoreAndSpec(parameter) + " and range " + describe(parameter.getRange());
+    return describeCoreAndSpec(parameter) + " and range " + describe(same(parameter.range(), parameter.getRange()));
 }
 
 inline std::string describe(const Parameters::BoolParameter& parameter) { return describeCoreAndSpec(parameter); }
@@ -562,7 +593,8 @@ inline std::string describe(const Parameters::MeasurableParameter& parameter) {
 inline std::string describe(const Parameters::StringParameter& parameter) { return describeRangedParameter(parameter); }
 
 inline std::string describe(const Parameters::EnumerationParameter& parameter) {
-    return describeCoreAndSpec(parameter) + " of " + describe(parameter.getEnumeration());
+    return describeCoreAndSpec(parameter) + " of " +
+           describe(same(parameter.enumeration(), parameter.getEnumeration()));
 }
 
 inline std::string describe(const Parameters::ReferenceParameter& parameter) {
