@@ -4,6 +4,8 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
+#include <iosfwd>
 #include <string_view>
 
 namespace Parameters {
@@ -107,4 +109,20 @@ private:
     const Internal::KindDescription* description_;
 };
 
+/// Writes the id of a kind, for tests and logs.
+/// @ingroup kinds
+template <class Traits>
+std::basic_ostream<char, Traits>& operator<<(std::basic_ostream<char, Traits>& stream, KindInfo kind) {
+    return stream << std::basic_string_view<char, Traits>(kind.id().data(), kind.id().size());
+}
+
 } // namespace Parameters
+
+/// Hashes the id of the kind.
+template <>
+struct std::hash<Parameters::KindInfo> {
+    /// Returns the hash.
+    std::size_t operator()(Parameters::KindInfo kind) const noexcept {
+        return std::hash<std::string_view>()(kind.id());
+    }
+};

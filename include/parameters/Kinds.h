@@ -16,21 +16,12 @@
 
 namespace Parameters {
 
-namespace Internal {
-
-template <class Value, class = void>
-struct HasCore : std::false_type {};
-template <class Value>
-struct HasCore<Value, std::void_t<decltype(std::declval<const Value&>().getCore())>> : std::true_type {};
-
-} // namespace Internal
-
 /// @addtogroup kinds
 /// @{
 
 /// How an engine is asked for the objects of a kind. What the operations throw and cost is what those of
 /// ParametersEngine do, which they are under one name for all kinds.
-template <class Kind, auto getX, auto getAllX, auto registerX>
+template <class Kind, auto getX, auto findX, auto getAllX, auto allX, auto registerX>
 struct KindOf {
     /// What the kind is called, and how its schemas are known.
     static constexpr KindInfo info{Kind::description};
@@ -44,20 +35,27 @@ struct KindOf {
     /// Returns the object of that type identifier, as getX does.
     static Value get(const ParametersEngine& engine, const std::string& typeId) { return (engine.*getX)(typeId); }
 
+    /// Returns the object of that type identifier if it is there, as findX does.
+    [[nodiscard]] static std::optional<Value> find(const ParametersEngine& engine, std::string_view typeId) {
+        return (engine.*findX)(typeId);
+    }
+
     /// Returns all objects of the kind by type identifier, as getAllX does.
     static std::map<std::string, Value> getAll(const ParametersEngine& engine) { return (engine.*getAllX)(); }
+
+    /// Shows all objects of the kind in the order of their type identifiers, as allX does.
+    [[nodiscard]] static ArrayView<Value> all(const ParametersEngine& engine) { return (engine.*allX)(); }
+
+    /// Returns how many objects of the kind there are.
+    [[nodiscard]] static std::size_t count(const ParametersEngine& engine) noexcept {
+        return engine.countObjects(info);
+    }
 
     /// Registers an object made in code, as registerX does.
     static void add(ParametersEngine& engine, const Value& object) { (engine.*registerX)(object); }
 
     /// Returns the type identifier of an object, its core's where it has one.
-    static std::string typeIdOf(const Value& object) {
-        if constexpr (Internal::HasCore<Value>::value) {
-            return object.getCore().getTypeId();
-        } else {
-            return object.getTypeId();
-        }
-    }
+    static std::string typeIdOf(const Value& object) { return std::string(object.typeId()); }
 
     /// Returns the type identifiers that a registered object names; none for the kinds that name nothing.
     static std::set<std::string> getDependencies(const ParametersEngine& engine, const Value& object) {
@@ -71,13 +69,12 @@ struct KindOf {
 };
 
 /// As KindOf, for the parameters that can be read from a text without registering them.
-template <class Kind, auto getX, auto getAllX, auto registerX, auto readX, ValueType type>
-struct ReadableKindOf : KindOf<Kind, getX, getAllX, registerX> {
+template <class Kind, auto getX, auto findX, auto getAllX, auto allX, auto registerX, auto readX, ValueType type>
+struct ReadableKindOf : KindOf<Kind, getX, findX, getAllX, allX, registerX> {
     static constexpr ValueType valueType = type; ///< What readValueType returns for schemas of the kind.
 
     /// Returns the parameter that a text describes, as readX does.
-    static typename KindOf<Kind, getX, getAllX, registerX>::Value read(const ParametersEngine& engine,
-                                                                       const std::string& schemaText) {
+    static auto read(const ParametersEngine& engine, const std::string& schemaText) {
         return (engine.*readX)(schemaText);
     }
 };
@@ -92,7 +89,8 @@ namespace Kinds {
 /// @{
 
 /// Enumerations.
-struct Enumeration : KindOf<Enumeration, &ParametersEngine::getEnumeration, &ParametersEngine::getAllEnumerations,
+struct Enumeration : KindOf<Enumeration, &ParametersEngine::getEnumeration, &ParametersEngine::findEnumeration,
+                            &ParametersEngine::getAllEnumerations, &ParametersEngine::allEnumerations,
                             &ParametersEngine::registerEnumeration> {
     /// What info tells.
     static constexpr Internal::KindDescription description{
@@ -100,7 +98,8 @@ struct Enumeration : KindOf<Enumeration, &ParametersEngine::getEnumeration, &Par
 };
 
 /// Ranges of floating-point numbers.
-struct FloatRange : KindOf<FloatRange, &ParametersEngine::getFloatRange, &ParametersEngine::getAllFloatRanges,
+struct FloatRange : KindOf<FloatRange, &ParametersEngine::getFloatRange, &ParametersEngine::findFloatRange,
+                           &ParametersEngine::getAllFloatRanges, &ParametersEngine::allFloatRanges,
                            &ParametersEngine::registerFloatRange> {
     /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::range,
@@ -111,8 +110,9 @@ struct FloatRange : KindOf<FloatRange, &ParametersEngine::getFloatRange, &Parame
 };
 
 /// Ranges of integers.
-struct IntRange : KindOf<IntRange, &ParametersEngine::getIntRange, &ParametersEngine::getAllIntRanges,
-                         &ParametersEngine::registerIntRange> {
+struct IntRange
+    : KindOf<IntRange, &ParametersEngine::getIntRange, &ParametersEngine::findIntRange,
+             &ParametersEngine::getAllIntRanges, &ParametersEngine::allIntRanges, &ParametersEngine::registerIntRange> {
     /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::range,
                                                            "int-range",
@@ -122,7 +122,8 @@ struct IntRange : KindOf<IntRange, &ParametersEngine::getIntRange, &ParametersEn
 };
 
 /// Ranges of strings. The bases are those of any text, of sets and of regular expressions.
-struct StringRange : KindOf<StringRange, &ParametersEngine::getStringRange, &ParametersEngine::getAllStringRanges,
+struct StringRange : KindOf<StringRange, &ParametersEngine::getStringRange, &ParametersEngine::findStringRange,
+                            &ParametersEngine::getAllStringRanges, &ParametersEngine::allStringRanges,
                             &ParametersEngine::registerStringRange> {
     /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::range,
@@ -135,7 +136,8 @@ struct StringRange : KindOf<StringRange, &ParametersEngine::getStringRange, &Par
 };
 
 /// Disciplines.
-struct Discipline : KindOf<Discipline, &ParametersEngine::getDiscipline, &ParametersEngine::getAllDisciplines,
+struct Discipline : KindOf<Discipline, &ParametersEngine::getDiscipline, &ParametersEngine::findDiscipline,
+                           &ParametersEngine::getAllDisciplines, &ParametersEngine::allDisciplines,
                            &ParametersEngine::registerDiscipline> {
     /// What info tells.
     static constexpr Internal::KindDescription description{
@@ -143,15 +145,17 @@ struct Discipline : KindOf<Discipline, &ParametersEngine::getDiscipline, &Parame
 };
 
 /// The specs of Boolean parameters.
-struct BoolSpec : KindOf<BoolSpec, &ParametersEngine::getBoolSpec, &ParametersEngine::getAllBoolSpecs,
-                         &ParametersEngine::registerBoolSpec> {
+struct BoolSpec
+    : KindOf<BoolSpec, &ParametersEngine::getBoolSpec, &ParametersEngine::findBoolSpec,
+             &ParametersEngine::getAllBoolSpecs, &ParametersEngine::allBoolSpecs, &ParametersEngine::registerBoolSpec> {
     /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::spec, "bool-spec", "Boolean spec", "Boolean specs", {"norvex.spec:spec.bool-1.0.0"}, "Yes/No"};
 };
 
 /// The specs of enumeration parameters.
-struct GeneralSpec : KindOf<GeneralSpec, &ParametersEngine::getGeneralSpec, &ParametersEngine::getAllGeneralSpecs,
+struct GeneralSpec : KindOf<GeneralSpec, &ParametersEngine::getGeneralSpec, &ParametersEngine::findGeneralSpec,
+                            &ParametersEngine::getAllGeneralSpecs, &ParametersEngine::allGeneralSpecs,
                             &ParametersEngine::registerGeneralSpec> {
     /// What info tells.
     static constexpr Internal::KindDescription description{
@@ -159,8 +163,9 @@ struct GeneralSpec : KindOf<GeneralSpec, &ParametersEngine::getGeneralSpec, &Par
 };
 
 /// The specs of integer parameters.
-struct IntSpec : KindOf<IntSpec, &ParametersEngine::getIntSpec, &ParametersEngine::getAllIntSpecs,
-                        &ParametersEngine::registerIntSpec> {
+struct IntSpec
+    : KindOf<IntSpec, &ParametersEngine::getIntSpec, &ParametersEngine::findIntSpec, &ParametersEngine::getAllIntSpecs,
+             &ParametersEngine::allIntSpecs, &ParametersEngine::registerIntSpec> {
     /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::spec, "int-spec", "integer spec", "integer specs", {"norvex.spec:spec.int64-2.0.0"}, "Integer"};
@@ -168,7 +173,8 @@ struct IntSpec : KindOf<IntSpec, &ParametersEngine::getIntSpec, &ParametersEngin
 
 /// The specs of measurable parameters.
 struct MeasurableSpec : KindOf<MeasurableSpec, &ParametersEngine::getMeasurableSpec,
-                               &ParametersEngine::getAllMeasurableSpecs, &ParametersEngine::registerMeasurableSpec> {
+                               &ParametersEngine::findMeasurableSpec, &ParametersEngine::getAllMeasurableSpecs,
+                               &ParametersEngine::allMeasurableSpecs, &ParametersEngine::registerMeasurableSpec> {
     /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::spec,
                                                            "measurable-spec",
@@ -178,8 +184,9 @@ struct MeasurableSpec : KindOf<MeasurableSpec, &ParametersEngine::getMeasurableS
 };
 
 /// The specs of reference parameters.
-struct ReferenceSpec : KindOf<ReferenceSpec, &ParametersEngine::getReferenceSpec,
-                              &ParametersEngine::getAllReferenceSpecs, &ParametersEngine::registerReferenceSpec> {
+struct ReferenceSpec : KindOf<ReferenceSpec, &ParametersEngine::getReferenceSpec, &ParametersEngine::findReferenceSpec,
+                              &ParametersEngine::getAllReferenceSpecs, &ParametersEngine::allReferenceSpecs,
+                              &ParametersEngine::registerReferenceSpec> {
     /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::spec, "reference-spec", "reference spec", "reference specs", {"norvex.spec:spec.reference-1.0.0"},
@@ -190,7 +197,8 @@ struct ReferenceSpec : KindOf<ReferenceSpec, &ParametersEngine::getReferenceSpec
 };
 
 /// The specs of string parameters.
-struct StringSpec : KindOf<StringSpec, &ParametersEngine::getStringSpec, &ParametersEngine::getAllStringSpecs,
+struct StringSpec : KindOf<StringSpec, &ParametersEngine::getStringSpec, &ParametersEngine::findStringSpec,
+                           &ParametersEngine::getAllStringSpecs, &ParametersEngine::allStringSpecs,
                            &ParametersEngine::registerStringSpec> {
     /// What info tells.
     static constexpr Internal::KindDescription description{
@@ -198,8 +206,8 @@ struct StringSpec : KindOf<StringSpec, &ParametersEngine::getStringSpec, &Parame
 };
 
 /// Groups.
-struct Group
-    : KindOf<Group, &ParametersEngine::getGroup, &ParametersEngine::getAllGroups, &ParametersEngine::registerGroup> {
+struct Group : KindOf<Group, &ParametersEngine::getGroup, &ParametersEngine::findGroup, &ParametersEngine::getAllGroups,
+                      &ParametersEngine::allGroups, &ParametersEngine::registerGroup> {
     /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::taxon, "group", "group", "groups", {"norvex.parameter:group-1.0.0"}, "Other"};
@@ -208,7 +216,8 @@ struct Group
 /// Parameters whose values are those of an enumeration.
 struct EnumerationParameter
     : KindOf<EnumerationParameter, &ParametersEngine::getEnumerationParameter,
-             &ParametersEngine::getAllEnumerationParameters, &ParametersEngine::registerEnumerationParameter> {
+             &ParametersEngine::findEnumerationParameter, &ParametersEngine::getAllEnumerationParameters,
+             &ParametersEngine::allEnumerationParameters, &ParametersEngine::registerEnumerationParameter> {
     /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::parameter,
                                                            "enumeration-parameter",
@@ -219,7 +228,8 @@ struct EnumerationParameter
 
 /// Boolean parameters.
 struct BoolParameter
-    : ReadableKindOf<BoolParameter, &ParametersEngine::getBoolParameter, &ParametersEngine::getAllBoolParameters,
+    : ReadableKindOf<BoolParameter, &ParametersEngine::getBoolParameter, &ParametersEngine::findBoolParameter,
+                     &ParametersEngine::getAllBoolParameters, &ParametersEngine::allBoolParameters,
                      &ParametersEngine::registerBoolParameter, &ParametersEngine::readBoolParameter, Bool> {
     /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::parameter,
@@ -231,7 +241,8 @@ struct BoolParameter
 
 /// Integer parameters.
 struct IntParameter
-    : ReadableKindOf<IntParameter, &ParametersEngine::getIntParameter, &ParametersEngine::getAllIntParameters,
+    : ReadableKindOf<IntParameter, &ParametersEngine::getIntParameter, &ParametersEngine::findIntParameter,
+                     &ParametersEngine::getAllIntParameters, &ParametersEngine::allIntParameters,
                      &ParametersEngine::registerIntParameter, &ParametersEngine::readIntParameter, Int> {
     /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::parameter,
@@ -244,7 +255,8 @@ struct IntParameter
 /// Parameters whose values are numbers with a unit.
 struct MeasurableParameter
     : ReadableKindOf<MeasurableParameter, &ParametersEngine::getMeasurableParameter,
-                     &ParametersEngine::getAllMeasurableParameters, &ParametersEngine::registerMeasurableParameter,
+                     &ParametersEngine::findMeasurableParameter, &ParametersEngine::getAllMeasurableParameters,
+                     &ParametersEngine::allMeasurableParameters, &ParametersEngine::registerMeasurableParameter,
                      &ParametersEngine::readMeasurableParameter, Measurable> {
     /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::parameter,
@@ -257,7 +269,8 @@ struct MeasurableParameter
 /// Parameters whose values refer to other things. The bases are those of plain and of ranged parameters.
 struct ReferenceParameter
     : ReadableKindOf<ReferenceParameter, &ParametersEngine::getReferenceParameter,
-                     &ParametersEngine::getAllReferenceParameters, &ParametersEngine::registerReferenceParameter,
+                     &ParametersEngine::findReferenceParameter, &ParametersEngine::getAllReferenceParameters,
+                     &ParametersEngine::allReferenceParameters, &ParametersEngine::registerReferenceParameter,
                      &ParametersEngine::readReferenceParameter, Reference> {
     /// What info tells.
     static constexpr Internal::KindDescription description{
@@ -270,7 +283,8 @@ struct ReferenceParameter
 
 /// String parameters.
 struct StringParameter
-    : ReadableKindOf<StringParameter, &ParametersEngine::getStringParameter, &ParametersEngine::getAllStringParameters,
+    : ReadableKindOf<StringParameter, &ParametersEngine::getStringParameter, &ParametersEngine::findStringParameter,
+                     &ParametersEngine::getAllStringParameters, &ParametersEngine::allStringParameters,
                      &ParametersEngine::registerStringParameter, &ParametersEngine::readStringParameter, String> {
     /// What info tells.
     static constexpr Internal::KindDescription description{KindFamily::parameter,
@@ -281,15 +295,17 @@ struct StringParameter
 };
 
 /// Domains.
-struct Domain : KindOf<Domain, &ParametersEngine::getDomain, &ParametersEngine::getAllDomains,
-                       &ParametersEngine::registerDomain> {
+struct Domain
+    : KindOf<Domain, &ParametersEngine::getDomain, &ParametersEngine::findDomain, &ParametersEngine::getAllDomains,
+             &ParametersEngine::allDomains, &ParametersEngine::registerDomain> {
     /// What info tells.
     static constexpr Internal::KindDescription description{
         KindFamily::taxon, "domain", "domain", "domains", {"norvex.talmo.category:domain-1.0.0"}};
 };
 
 /// Categories. The bases are those of major categories and of subcategories.
-struct Category : KindOf<Category, &ParametersEngine::getCategory, &ParametersEngine::getAllCategories,
+struct Category : KindOf<Category, &ParametersEngine::getCategory, &ParametersEngine::findCategory,
+                         &ParametersEngine::getAllCategories, &ParametersEngine::allCategories,
                          &ParametersEngine::registerCategory> {
     /// What info tells.
     static constexpr Internal::KindDescription description{
@@ -422,6 +438,34 @@ constexpr void forEachKind(Kinds::List<Ks...>, Visitor&& visit) {
 template <class Visitor>
 constexpr void forEachKind(Visitor&& visit) {
     forEachKind(Kinds::All{}, visit);
+}
+
+/// Calls visit(kind) with an object of the struct of a kind that one has as a value, such as from kindOf:
+/// @snippet show_parameters.cpp kind
+template <class Visitor>
+constexpr void visitKind(KindInfo info, Visitor&& visit) {
+    forEachKind([&](auto kind) {
+        if (kind.info == info) {
+            visit(kind);
+        }
+    });
+}
+
+/// Calls visit(kind, object) with each object of the kinds of a list, as KindOf::all shows them, in the order of the
+/// list. The engine must not be changed meanwhile.
+template <class... Ks, class Visitor>
+void forEachObject(const ParametersEngine& engine, Kinds::List<Ks...> kinds, Visitor&& visit) {
+    forEachKind(kinds, [&](auto kind) {
+        for (const auto& object : kind.all(engine)) {
+            visit(kind, object);
+        }
+    });
+}
+
+/// Calls visit(kind, object) with each object of an engine, kind by kind in the order of all.
+template <class Visitor>
+void forEachObject(const ParametersEngine& engine, Visitor&& visit) {
+    forEachObject(engine, Kinds::All{}, visit);
 }
 
 /// Returns the kind of the schemas that inherit this, which is a base in whatever minor version; nothing if there is

@@ -9,9 +9,11 @@
 #include <parameters/Fault.h>
 #include <parameters/FloatRange.h>
 #include <parameters/GeneralSpec.h>
+#include <parameters/Identity.h>
 #include <parameters/IntParameter.h>
 #include <parameters/IntRange.h>
 #include <parameters/IntSpec.h>
+#include <parameters/KindInfo.h>
 #include <parameters/MajorCategoryComponent.h>
 #include <parameters/MeasurableParameter.h>
 #include <parameters/MeasurableSpec.h>
@@ -29,13 +31,17 @@
 #include <parameters/UnrecognizedIdentifierException.h>
 #include <parameters/ValidationException.h>
 #include <parameters/ValueType.h>
+#include <parameters/Views.h>
 
 #include <units/UnitsEngine.h>
 
+#include <cstddef>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -121,6 +127,33 @@ public:
     Category getCategory(const std::string& typeId) const;
     /// @}
 
+    /// @name Objects by type identifier, if they are there
+    /// @{
+
+    /// Returns the object that getX does, or nothing where that would throw. Costs one look-up; nothing is copied, and
+    /// for what is not there nothing is thrown.
+    [[nodiscard]] std::optional<Enumeration> findEnumeration(std::string_view typeId) const;
+    [[nodiscard]] std::optional<FloatRange> findFloatRange(std::string_view typeId) const;
+    [[nodiscard]] std::optional<IntRange> findIntRange(std::string_view typeId) const;
+    [[nodiscard]] std::optional<StringRange> findStringRange(std::string_view typeId) const;
+    [[nodiscard]] std::optional<Taxon> findDiscipline(std::string_view typeId) const;
+    [[nodiscard]] std::optional<BoolSpec> findBoolSpec(std::string_view typeId) const;
+    [[nodiscard]] std::optional<GeneralSpec> findGeneralSpec(std::string_view typeId) const;
+    [[nodiscard]] std::optional<IntSpec> findIntSpec(std::string_view typeId) const;
+    [[nodiscard]] std::optional<MeasurableSpec> findMeasurableSpec(std::string_view typeId) const;
+    [[nodiscard]] std::optional<ReferenceSpec> findReferenceSpec(std::string_view typeId) const;
+    [[nodiscard]] std::optional<StringSpec> findStringSpec(std::string_view typeId) const;
+    [[nodiscard]] std::optional<Taxon> findGroup(std::string_view typeId) const;
+    [[nodiscard]] std::optional<EnumerationParameter> findEnumerationParameter(std::string_view typeId) const;
+    [[nodiscard]] std::optional<BoolParameter> findBoolParameter(std::string_view typeId) const;
+    [[nodiscard]] std::optional<IntParameter> findIntParameter(std::string_view typeId) const;
+    [[nodiscard]] std::optional<MeasurableParameter> findMeasurableParameter(std::string_view typeId) const;
+    [[nodiscard]] std::optional<ReferenceParameter> findReferenceParameter(std::string_view typeId) const;
+    [[nodiscard]] std::optional<StringParameter> findStringParameter(std::string_view typeId) const;
+    [[nodiscard]] std::optional<Taxon> findDomain(std::string_view typeId) const;
+    [[nodiscard]] std::optional<Category> findCategory(std::string_view typeId) const;
+    /// @}
+
     /// @name All objects of a kind
     /// @{
 
@@ -147,6 +180,62 @@ public:
     std::map<std::string, StringParameter> getAllStringParameters() const;
     std::map<std::string, Taxon> getAllDomains() const;
     std::map<std::string, Category> getAllCategories() const;
+    /// @}
+
+    /// @name All objects of a kind, as they lie in the engine
+    /// @{
+
+    /// Shows the objects that getAllX copies, in the same order. The view is good until an object is added to the
+    /// engine, or the engine is assigned to, moved or destroyed; a handle copied from it is good for itself. Costs the
+    /// same however many there are; the first view after a change sorts what is new, and is kept until the next change,
+    /// some 20 bytes an object.
+    [[nodiscard]] ArrayView<Enumeration> allEnumerations() const;
+    [[nodiscard]] ArrayView<FloatRange> allFloatRanges() const;
+    [[nodiscard]] ArrayView<IntRange> allIntRanges() const;
+    [[nodiscard]] ArrayView<StringRange> allStringRanges() const;
+    [[nodiscard]] ArrayView<Taxon> allDisciplines() const;
+    [[nodiscard]] ArrayView<BoolSpec> allBoolSpecs() const;
+    [[nodiscard]] ArrayView<GeneralSpec> allGeneralSpecs() const;
+    [[nodiscard]] ArrayView<IntSpec> allIntSpecs() const;
+    [[nodiscard]] ArrayView<MeasurableSpec> allMeasurableSpecs() const;
+    [[nodiscard]] ArrayView<ReferenceSpec> allReferenceSpecs() const;
+    [[nodiscard]] ArrayView<StringSpec> allStringSpecs() const;
+    [[nodiscard]] ArrayView<Taxon> allGroups() const;
+    [[nodiscard]] ArrayView<EnumerationParameter> allEnumerationParameters() const;
+    [[nodiscard]] ArrayView<BoolParameter> allBoolParameters() const;
+    [[nodiscard]] ArrayView<IntParameter> allIntParameters() const;
+    [[nodiscard]] ArrayView<MeasurableParameter> allMeasurableParameters() const;
+    [[nodiscard]] ArrayView<ReferenceParameter> allReferenceParameters() const;
+    [[nodiscard]] ArrayView<StringParameter> allStringParameters() const;
+    [[nodiscard]] ArrayView<Taxon> allDomains() const;
+    [[nodiscard]] ArrayView<Category> allCategories() const;
+    /// @}
+
+    /// @name Of any kind
+    /// @{
+
+    /// Returns the kind of the object, or else of the pending schema, of that type identifier; nothing where there is
+    /// none: built-in identifiers and units have no kind. Costs one look-up.
+    [[nodiscard]] std::optional<KindInfo> kindOf(std::string_view typeId) const noexcept;
+
+    /// Returns whether a schema of that type identifier is registered and not yet resolved. Costs one look-up.
+    [[nodiscard]] bool isPending(std::string_view typeId) const noexcept;
+
+    /// Returns how many objects getAllX returns: of a kind, or of all kinds together.
+    /// @{
+    [[nodiscard]] std::size_t countObjects(KindInfo kind) const noexcept;
+    [[nodiscard]] std::size_t countObjects() const noexcept;
+    /// @}
+
+    /// Shows what names this type identifier: every object of which getDependencies tells it, kind by kind in the order
+    /// of Kinds::All, by the bytes of the type identifiers within a kind. It may be that of an object, of a unit or a
+    /// built-in one; what nothing names has no dependents. The parameters of a group are its dependents, and so are the
+    /// specs of a discipline.
+    ///
+    /// The view is good until an object is added to the engine, or the engine is assigned to, moved or destroyed. Costs
+    /// one look-up; the first time after a change all that all objects name is gathered, which is kept until the next
+    /// change, some 24 bytes for each that an object names.
+    [[nodiscard]] ArrayView<Identity> dependentsOf(std::string_view typeId) const;
     /// @}
 
     /// @name Registering objects made in code
@@ -187,6 +276,9 @@ public:
     /// Returns whether a type identifier is taken: by a schema, resolved or not, by an object, by a unit, or because it
     /// contains the version prefix of a reserved identifier: that of a built-in object or of a base of ranges.
     bool isRegistered(const std::string& typeId) const;
+
+    /// Returns what isRegistered does, for those who have a view or a literal: no string is made of it.
+    [[nodiscard]] bool isTaken(std::string_view typeId) const;
 
     /// Returns the units engine, through which units can be registered and resolved directly, under any type identifier
     /// that no unit has: it does not know which are taken in this engine. The reference is good until the engine is

@@ -4,12 +4,18 @@
 #include "engine/Review.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <optional>
 
 namespace Parameters::Internal {
 
 namespace {
+
+template <class... Ks>
+constexpr std::array<KindInfo, sizeof...(Ks)> infosOf(KindList<Ks...>) {
+    return {Ks::Public::info...};
+}
 
 [[noreturn]] void failUnknown(const std::string& typeId) {
     throw UnrecognizedIdentifierException(EngineMessages::messages("any-object-unknown").with({typeId}));
@@ -20,6 +26,22 @@ namespace {
 bool Engine::isRegistered(const Directory::Key& key) const {
     return registry_.read().find(key) != nullptr || isReserved(key.typeId) ||
            AnyUnits::isRegistered(units_, key.typeId);
+}
+
+std::optional<KindInfo> Engine::kindOf(std::string_view typeId) const noexcept {
+    static constexpr auto infos = infosOf(StoreOrder{});
+    const Directory::Entry* entry = registry_.read().find(typeId);
+    return entry != nullptr ? std::optional(infos[entry->kind]) : std::nullopt;
+}
+
+std::size_t Engine::countObjects(std::optional<KindInfo> kind) const noexcept {
+    std::size_t count = 0;
+    forEachKind(StoreOrder{}, [&]<class K>() {
+        if (!kind || *kind == K::Public::info) {
+            count += registry_.read().store<K>().objects.size();
+        }
+    });
+    return count;
 }
 
 void Engine::checkNew(const Directory::Key& key) const {

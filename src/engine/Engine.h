@@ -14,7 +14,9 @@
 #include <parameters/ValueType.h>
 #include <units/UnitsEngine.h>
 
+#include <cstddef>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -30,21 +32,28 @@ public:
     using Missing = std::pair<std::set<std::string>, std::set<std::string>>;
 
     template <class K>
-    typename K::Object get(const std::string& typeId) const {
-        if constexpr (KindWithStandIn<K>) {
-            if (K::base.isIn(typeId)) {
-                return standInOf<K>(typeId);
-            }
-        }
-        if (const auto* object = registry_.read().findObject<K>(typeId)) {
-            return *object;
-        }
-        throw UnrecognizedIdentifierException(messages("object-unknown").with({K::word, typeId}));
+    std::optional<typename K::Object> find(std::string_view typeId) const {
+        return find<K, std::optional<typename K::Object>>(typeId, [] { return std::nullopt; });
     }
 
     template <class K>
+    typename K::Object get(std::string_view typeId) const {
+        return find<K, typename K::Object>(typeId, [typeId]() -> typename K::Object {
+            throw UnrecognizedIdentifierException(messages("object-unknown").with({K::word, typeId}));
+        });
+    }
+
+    /// Returns copies of all objects of a kind.
+    template <class K>
     std::map<std::string, typename K::Object> all() const {
         return registry_.read().store<K>().all();
+    }
+
+    /// Shows all objects of a kind as they are in the engine.
+    template <class K>
+    ArrayView<typename K::Object> view() const {
+        const auto& sorted = registry_.read().store<K>().sorted();
+        return {sorted.data(), sorted.size()};
     }
 
     template <class K>
@@ -76,6 +85,10 @@ public:
     }
 
     bool isRegistered(const Directory::Key& key) const;
+    bool isPending(std::string_view typeId) const noexcept { return registry_.read().isPending(typeId); }
+    std::optional<KindInfo> kindOf(std::string_view typeId) const noexcept;
+    std::size_t countObjects(std::optional<KindInfo> kind) const noexcept; // of all kinds where none is given
+    ArrayView<Identity> dependentsOf(std::string_view typeId) const { return registry_.read().dependentsOf(typeId); }
     ValueType valueTypeOf(const std::string& text) const;
     Missing registerSchema(const std::string& text);
     void registerSchemas(const std::map<std::string, std::string>& texts);
@@ -89,6 +102,19 @@ public:
     Units::UnitsEngine& units() noexcept { return units_; }
 
 private:
+    template <class K, class Result, class Absent>
+    Result find(std::string_view typeId, Absent absent) const {
+        if constexpr (KindWithStandIn<K>) {
+            if (K::base.isIn(typeId)) {
+                return standInOf<K>(typeId);
+            }
+        }
+        if (const auto* object = registry_.read().findObject<K>(typeId)) {
+            return *object;
+        }
+        return absent();
+    }
+
     /// Checks an object made in code, and returns it with what it names as registered.
     template <class K>
     typename K::Object bind(const typename K::Object& object) const {
@@ -98,11 +124,8 @@ private:
 
     template <class K>
     static std::set<std::string> namedBy(const typename K::Object& object) {
-        const auto record = K::recordOf(object);
-        std::set<std::string> named(record.references.begin(), record.references.end());
-        if constexpr (KindWithUnits<K>) {
-            named.insert(record.units.begin(), record.units.end());
-        }
+        std::set<std::string> named;
+        forEachNamed(K::recordOf(object), [&](std::string_view typeId) { named.emplace(typeId); });
         return named;
     }
 

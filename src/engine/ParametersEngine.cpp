@@ -88,6 +88,86 @@ Taxon ParametersEngine::getDomain(const std::string& typeId) const { return engi
 
 Category ParametersEngine::getCategory(const std::string& typeId) const { return engine_->get<CategoryKind>(typeId); }
 
+std::optional<Enumeration> ParametersEngine::findEnumeration(std::string_view typeId) const {
+    return engine_->find<EnumerationKind>(typeId);
+}
+
+std::optional<FloatRange> ParametersEngine::findFloatRange(std::string_view typeId) const {
+    return engine_->find<FloatRangeKind>(typeId);
+}
+
+std::optional<IntRange> ParametersEngine::findIntRange(std::string_view typeId) const {
+    return engine_->find<IntRangeKind>(typeId);
+}
+
+std::optional<StringRange> ParametersEngine::findStringRange(std::string_view typeId) const {
+    return engine_->find<StringRangeKind>(typeId);
+}
+
+std::optional<Taxon> ParametersEngine::findDiscipline(std::string_view typeId) const {
+    return engine_->find<DisciplineKind>(typeId);
+}
+
+std::optional<BoolSpec> ParametersEngine::findBoolSpec(std::string_view typeId) const {
+    return engine_->find<BoolSpecKind>(typeId);
+}
+
+std::optional<GeneralSpec> ParametersEngine::findGeneralSpec(std::string_view typeId) const {
+    return engine_->find<GeneralSpecKind>(typeId);
+}
+
+std::optional<IntSpec> ParametersEngine::findIntSpec(std::string_view typeId) const {
+    return engine_->find<IntSpecKind>(typeId);
+}
+
+std::optional<MeasurableSpec> ParametersEngine::findMeasurableSpec(std::string_view typeId) const {
+    return engine_->find<MeasurableSpecKind>(typeId);
+}
+
+std::optional<ReferenceSpec> ParametersEngine::findReferenceSpec(std::string_view typeId) const {
+    return engine_->find<ReferenceSpecKind>(typeId);
+}
+
+std::optional<StringSpec> ParametersEngine::findStringSpec(std::string_view typeId) const {
+    return engine_->find<StringSpecKind>(typeId);
+}
+
+std::optional<Taxon> ParametersEngine::findGroup(std::string_view typeId) const {
+    return engine_->find<GroupKind>(typeId);
+}
+
+std::optional<EnumerationParameter> ParametersEngine::findEnumerationParameter(std::string_view typeId) const {
+    return engine_->find<EnumerationParameterKind>(typeId);
+}
+
+std::optional<BoolParameter> ParametersEngine::findBoolParameter(std::string_view typeId) const {
+    return engine_->find<BoolParameterKind>(typeId);
+}
+
+std::optional<IntParameter> ParametersEngine::findIntParameter(std::string_view typeId) const {
+    return engine_->find<IntParameterKind>(typeId);
+}
+
+std::optional<MeasurableParameter> ParametersEngine::findMeasurableParameter(std::string_view typeId) const {
+    return engine_->find<MeasurableParameterKind>(typeId);
+}
+
+std::optional<ReferenceParameter> ParametersEngine::findReferenceParameter(std::string_view typeId) const {
+    return engine_->find<ReferenceParameterKind>(typeId);
+}
+
+std::optional<StringParameter> ParametersEngine::findStringParameter(std::string_view typeId) const {
+    return engine_->find<StringParameterKind>(typeId);
+}
+
+std::optional<Taxon> ParametersEngine::findDomain(std::string_view typeId) const {
+    return engine_->find<DomainKind>(typeId);
+}
+
+std::optional<Category> ParametersEngine::findCategory(std::string_view typeId) const {
+    return engine_->find<CategoryKind>(typeId);
+}
+
 std::map<std::string, Enumeration> ParametersEngine::getAllEnumerations() const {
     return engine_->all<EnumerationKind>();
 }
@@ -150,6 +230,68 @@ std::map<std::string, Taxon> ParametersEngine::getAllDomains() const { return en
 
 std::map<std::string, Category> ParametersEngine::getAllCategories() const { return engine_->all<CategoryKind>(); }
 
+ArrayView<Enumeration> ParametersEngine::allEnumerations() const { return engine_->view<EnumerationKind>(); }
+
+ArrayView<FloatRange> ParametersEngine::allFloatRanges() const { return engine_->view<FloatRangeKind>(); }
+
+ArrayView<IntRange> ParametersEngine::allIntRanges() const { return engine_->view<IntRangeKind>(); }
+
+ArrayView<StringRange> ParametersEngine::allStringRanges() const { return engine_->view<StringRangeKind>(); }
+
+ArrayView<Taxon> ParametersEngine::allDisciplines() const { return engine_->view<DisciplineKind>(); }
+
+ArrayView<BoolSpec> ParametersEngine::allBoolSpecs() const { return engine_->view<BoolSpecKind>(); }
+
+ArrayView<GeneralSpec> ParametersEngine::allGeneralSpecs() const { return engine_->view<GeneralSpecKind>(); }
+
+ArrayView<IntSpec> ParametersEngine::allIntSpecs() const { return engine_->view<IntSpecKind>(); }
+
+ArrayView<MeasurableSpec> ParametersEngine::allMeasurableSpecs() const { return engine_->view<MeasurableSpecKind>(); }
+
+ArrayView<ReferenceSpec> ParametersEngine::allReferenceSpecs() const { return engine_->view<ReferenceSpecKind>(); }
+
+ArrayView<StringSpec> ParametersEngine::allStringSpecs() const { return engine_->view<StringSpecKind>(); }
+
+ArrayView<Taxon> ParametersEngine::allGroups() const { return engine_->view<GroupKind>(); }
+
+ArrayView<EnumerationParameter> ParametersEngine::allEnumerationParameters() const {
+    return engine_->view<EnumerationParameterKind>();
+}
+
+ArrayView<BoolParameter> ParametersEngine::allBoolParameters() const { return engine_->view<BoolParameterKind>(); }
+
+ArrayView<IntParameter> ParametersEngine::allIntParameters() const { return engine_->view<IntParameterKind>(); }
+
+ArrayView<MeasurableParameter> ParametersEngine::allMeasurableParameters() const {
+    return engine_->view<MeasurableParameterKind>();
+}
+
+ArrayView<ReferenceParameter> ParametersEngine::allReferenceParameters() const {
+    return engine_->view<ReferenceParameterKind>();
+}
+
+ArrayView<StringParameter> ParametersEngine::allStringParameters() const {
+    return engine_->view<StringParameterKind>();
+}
+
+ArrayView<Taxon> ParametersEngine::allDomains() const { return engine_->view<DomainKind>(); }
+
+ArrayView<Category> ParametersEngine::allCategories() const { return engine_->view<CategoryKind>(); }
+
+std::optional<KindInfo> ParametersEngine::kindOf(std::string_view typeId) const noexcept {
+    return engine_->kindOf(typeId);
+}
+
+bool ParametersEngine::isPending(std::string_view typeId) const noexcept { return engine_->isPending(typeId); }
+
+std::size_t ParametersEngine::countObjects(KindInfo kind) const noexcept { return engine_->countObjects(kind); }
+
+std::size_t ParametersEngine::countObjects() const noexcept { return engine_->countObjects(std::nullopt); }
+
+ArrayView<Identity> ParametersEngine::dependentsOf(std::string_view typeId) const {
+    return engine_->dependentsOf(typeId);
+}
+
 void ParametersEngine::registerEnumeration(const Enumeration& enumeration) {
     engine_->add<EnumerationKind>(enumeration);
 }
@@ -205,6 +347,8 @@ void ParametersEngine::registerDomain(const Taxon& domain) { engine_->add<Domain
 void ParametersEngine::registerCategory(const Category& category) { engine_->add<CategoryKind>(category); }
 
 bool ParametersEngine::isRegistered(const std::string& typeId) const { return engine_->isRegistered(typeId); }
+
+bool ParametersEngine::isTaken(std::string_view typeId) const { return engine_->isRegistered(typeId); }
 
 Units::UnitsEngine& ParametersEngine::getUnitsEngine() { return engine_->units(); }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/Dependents.h"
 #include "engine/Directory.h"
 #include "engine/Kinds.h"
 #include "engine/Lazy.h"
@@ -32,14 +33,34 @@ public:
     std::vector<Pending> pending;
     std::vector<Object> objects;
 
+    /// Returns the places of all objects in the order of their typeids, good until the store grows.
+    const SortedOrder::Order& order() const {
+        return order_.of(static_cast<std::uint32_t>(objects.size()), [this](std::uint32_t a, std::uint32_t b) {
+            return typeIdOf(objects[a]) < typeIdOf(objects[b]);
+        });
+    }
+
     /// Returns all objects by typeid.
     std::map<std::string, Object> all() const {
         return list_.get([this] { return makeList(); }); // copying a map costs half of making one
     }
 
+    /// Returns all objects in the order of their typeids, good until the store grows.
+    const std::vector<Object>& sorted() const {
+        return sorted_.get([this] {
+            std::vector<Object> sorted;
+            sorted.reserve(objects.size());
+            for (const std::uint32_t place : order()) {
+                sorted.push_back(objects[place]);
+            }
+            return sorted;
+        });
+    }
+
     /// Says that there are more objects.
     void grown() noexcept {
         order_.grown();
+        sorted_.take();
         list_.take();
     }
 
@@ -53,17 +74,15 @@ public:
 
 private:
     std::map<std::string, Object> makeList() const {
-        const auto& places =
-            order_.of(static_cast<std::uint32_t>(objects.size()),
-                      [this](std::uint32_t a, std::uint32_t b) { return typeIdOf(objects[a]) < typeIdOf(objects[b]); });
         std::map<std::string, Object> list;
-        for (const std::uint32_t place : places) {
+        for (const std::uint32_t place : order()) {
             list.emplace_hint(list.end(), typeIdOf(objects[place]), objects[place]);
         }
         return list;
     }
 
     SortedOrder order_;
+    Lazy<std::vector<Object>> sorted_;
     Lazy<std::map<std::string, Object>> list_;
 };
 
@@ -82,6 +101,11 @@ public:
         const Directory::Entry* entry = find(typeId);
         return entry != nullptr && entry->resolved && entry->kind == kindIndex<K> ? &store<K>().objects[entry->place]
                                                                                   : nullptr;
+    }
+
+    /// Returns what names the object of that typeid, good until an object is added.
+    ArrayView<Identity> dependentsOf(std::string_view typeId) const {
+        return dependents_.get([this] { return Dependents(*this); }).of(typeId);
     }
 
     bool isPending(std::string_view typeId) const noexcept {
@@ -137,6 +161,7 @@ public:
         directory_.reserveOne();
         store.objects.push_back(object);
         store.grown();
+        dependents_.take();
         directory_.add({typeIdOf(object), static_cast<std::uint32_t>(store.objects.size() - 1),
                         static_cast<std::uint8_t>(kindIndex<K>), true},
                        Directory::Key(typeIdOf(object)).hash);
@@ -191,6 +216,7 @@ public:
             store.objects.insert(store.objects.end(), built.begin(), built.end());
         }
         store.grown();
+        dependents_.take();
     }
 
 private:
@@ -206,6 +232,7 @@ private:
 
     Directory directory_;
     decltype(storesOf(StoreOrder{})) stores_;
+    Lazy<Dependents> dependents_;
 };
 
 } // namespace Parameters::Internal

@@ -115,19 +115,11 @@ template <class Record>
 void Resolution::takeFaults(const Record& record) {
     std::unordered_map<std::string_view, std::size_t, Ostra::TextHash> counts;
     std::unordered_map<const char*, std::size_t> occurrences; // of what stands there in the record
-    const auto countIn = [&](const Texts& named) {
-        for (const std::string_view typeId : named) {
-            if (!typeId.empty()) { // which has no place of its own
-                occurrences.emplace(typeId.data(), counts[typeId]++);
-            }
+    forEachNamed(record, [&](std::string_view typeId) {
+        if (!typeId.empty()) { // which has no place of its own
+            occurrences.emplace(typeId.data(), counts[typeId]++);
         }
-    };
-    if constexpr (requires { record.references; }) {
-        countIn(record.references);
-    }
-    if constexpr (requires { record.units; }) {
-        countIn(record.units);
-    }
+    });
     for (Unresolved& cause : finder_.takeUnresolved()) {
         const std::size_t occurrence = occurrences.at(cause.named.data());
         faults_.push_back({record.texts[0], std::move(cause), occurrence});

@@ -7,6 +7,7 @@
 
 #include <parameters/Kinds.h>
 
+#include <algorithm>
 #include <concepts>
 #include <cstddef>
 #include <optional>
@@ -92,6 +93,17 @@ template <class K>
 concept KindWithReserved = requires(std::string_view typeId) {
     { K::reserves(typeId) } -> std::same_as<bool>;
 };
+
+/// Calls visit(typeid) for all that a record names, in the order of reading, what it names again again.
+template <class Record, class Visit>
+void forEachNamed(const Record& record, Visit visit) {
+    if constexpr (requires { record.references; }) {
+        std::for_each(record.references.begin(), record.references.end(), visit);
+    }
+    if constexpr (requires { record.units; }) {
+        std::for_each(record.units.begin(), record.units.end(), visit);
+    }
+}
 
 /// Compiles for what is a kind, and says of what is none, by its name, what it lacks.
 template <class K>

@@ -148,6 +148,25 @@ TEST_P(WholeCatalogue, NamesNothingThatIsNotRegistered) {
     EXPECT_EQ(unknown, std::set<std::string>{});
 }
 
+TEST_P(WholeCatalogue, IsNamedByWhatDependsOnIt) {
+    load();
+    std::map<std::string, std::vector<Parameters::Identity>> dependents; // by getDependencies, the other way round
+    Parameters::forEachObject(engine, [&](auto kind, const auto& object) {
+        for (const std::string& named : kind.getDependencies(engine, object)) {
+            dependents[named].push_back({object.typeId(), kind.info});
+        }
+    });
+    EXPECT_GT(dependents.size(), 10U);
+    for (const auto& [named, expected] : dependents) {
+        const auto shown = engine.dependentsOf(named);
+        ASSERT_EQ(std::vector<Parameters::Identity>(shown.begin(), shown.end()), expected) << named;
+    }
+    Parameters::forEachObject(engine, [&](auto, const auto& object) {
+        EXPECT_EQ(engine.dependentsOf(object.typeId()).empty(), dependents.count(std::string(object.typeId())) == 0)
+            << object;
+    });
+}
+
 INSTANTIATE_TEST_SUITE_P(Folders, WholeCatalogue,
                          testing::Values(CatalogueFolder{"Examples", OSTRA_SOURCE_DIR "/examples/catalogue"},
                                          CatalogueFolder{"Large", std::getenv("OSTRA_CATALOGUE")}),
