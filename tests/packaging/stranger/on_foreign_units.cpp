@@ -20,7 +20,8 @@ const std::string ark = "stranger:parameter.ark-1.0.0";
 
 std::string unitText(const std::string& typeId, const std::string& name) {
     return R"({"typeid": ")" + typeId + R"(", "inherits": ["norvex.unit:unit-1.0.0"], "constants": [
-        {"id": "name", "value": ")" + name + R"("}, {"id": "symbol", "value": "s"}]})";
+        {"id": "name", "value": ")" +
+           name + R"("}, {"id": "symbol", "value": "s"}]})";
 }
 
 const std::string heightText = R"({"typeid": "stranger:spec.height-1.0.0",
@@ -42,7 +43,8 @@ void looksUp() {
     expect(spec.getStorageUnit().getName() == "Cubit", "the storage unit is there");
     expect(spec.getApplicableUnits() == std::vector<Units::Unit>{engine.getUnitsEngine().getUnit(palm)},
            "so are the applicable units");
-    expect(engine.getDependencies(height) == std::set<std::string>{"norvex.spec:discipline-1.0.0", cubit, palm}, "the spec depends on its units");
+    expect(engine.getDependencies(height) == std::set<std::string>{"norvex.spec:discipline-1.0.0", cubit, palm},
+           "the spec depends on its units");
 }
 
 void binds() {
