@@ -139,6 +139,22 @@ TEST(Threads, AskForTheSameListAtOnceAfterItHasGrown) {
     EXPECT_EQ(sizes, std::vector<std::size_t>(threadCount, 41));
 }
 
+TEST(Threads, AskForTheSameViewsAndDependentsAtOnceWhileTheyAreMade) {
+    const ParametersEngine engine = loaded();
+    std::vector<std::size_t> sizes(threadCount);
+    std::vector<const void*> places(threadCount);
+    inThreads([&](int i) {
+        const auto thread = static_cast<std::size_t>(i);
+        for (int again = 0; again < 20; ++again) {
+            sizes[thread] += engine.allBoolParameters().size() + engine.dependentsOf("s1").size();
+        }
+        places[thread] = engine.allBoolParameters().begin();
+        return 41;
+    });
+    EXPECT_EQ(sizes, std::vector<std::size_t>(threadCount, 820));
+    EXPECT_EQ(places, std::vector<const void*>(threadCount, engine.allBoolParameters().begin()));
+}
+
 TEST(Threads, CopyOneEngineAtOnceAndChangeTheirCopies) {
     const ParametersEngine engine = loaded();
     std::vector<std::size_t> sizes(threadCount);

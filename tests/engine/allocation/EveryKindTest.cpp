@@ -155,6 +155,22 @@ std::vector<Operation> queries() {
                                   return Answers();
                               }});
     });
+    forEachShape(Parameters::Kinds::All{}, [&](auto kind, const Shape& shape) {
+        operations.push_back({"Walk" + shape.name, [kind](Engine& engine) {
+                                  Answers typeIds;
+                                  for (const auto& object : kind.all(engine)) {
+                                      typeIds.emplace(object.typeId());
+                                  }
+                                  return typeIds;
+                              }});
+        operations.push_back({"DependentsOf" + shape.name, [typeId = baseTypeId(shape.name)](Engine& engine) {
+                                  Answers typeIds;
+                                  for (const auto& [dependent, named] : engine.dependentsOf(typeId)) {
+                                      typeIds.emplace(dependent);
+                                  }
+                                  return typeIds;
+                              }});
+    });
     // The parameters that can be read are asked about as objects too.
     forEachShape(Parameters::Kinds::Readable{}, [&](auto kind, const Shape& shape) {
         const std::string text = textOf(shape, added);
