@@ -19,6 +19,7 @@ const std::vector<Rule> rules = {
     {"src/schema/", {"schema/"}, true},
     {"src/model/", {"model/", "schema/", "parameters/", "units/"}, true},
     {"src/engine/", {"engine/", "model/", "schema/", "parameters/", "units/"}, true},
+    {"include/parameters/Format.h", {"parameters/", "fmt/format.h"}, false}, // for those who use it
     {"include/", {"parameters/", "units/"}, false},
     {"units/include/", {"units/"}, false},
     {"units/src/", {"schema/", "units/"}, true},

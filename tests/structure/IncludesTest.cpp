@@ -65,6 +65,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Include{"OfTheParserInADocument", "src/schema/JSON.h", "#include <rapidjson/document.h>"},
                     Include{"OfADocumentInTheUnits", "units/src/UnitsEngine.cpp", "#include \"schema/Schema.h\""},
                     Include{"OfAUnitInAPublicHeader", "include/parameters/MeasurableSpec.h", "#include <units/Unit.h>"},
+                    Include{"OfFormattingInTheHeaderForIt", "include/parameters/Format.h", "#include <fmt/format.h>"},
                     Include{"OfTheStandardLibraryInAPublicHeader", "include/parameters/Taxon.h", "#include <string>"}),
     Support::nameOfRow);
 
@@ -90,6 +91,8 @@ INSTANTIATE_TEST_SUITE_P(
         Include{"OfAParameterInTheUnits", "units/src/Unit.cpp", "#include <parameters/Taxon.h>"},
         Include{"OfTheModelInTheUnits", "units/src/Unit.cpp", "#include \"model/Finder.h\""},
         Include{"OfTheParserInAPublicHeader", "include/parameters/Taxon.h", "#include <rapidjson/document.h>"},
+        Include{"OfFormattingInAnotherPublicHeader", "include/parameters/Taxon.h", "#include <fmt/format.h>"},
+        Include{"OfTheParserInTheHeaderForFormatting", "include/parameters/Format.h", "#include <rapidjson/reader.h>"},
         Include{"OfADocumentInAPublicHeader", "include/parameters/Taxon.h", "#include \"schema/JSON.h\""},
         Include{"OfAParameterInAPublicHeaderOfTheUnits", "units/include/units/Unit.h", "#include <parameters/Taxon.h>"},
         Include{"OfTheLibrarysInternalsInATool", "tools/ostra-params/main.cpp", "#include \"schema/JSON.h\""}),
