@@ -185,10 +185,10 @@ public:
     /// @name All objects of a kind, as they lie in the engine
     /// @{
 
-    /// Shows the objects that getAllX copies, in the same order. The view is good until an object is added to the
-    /// engine, or the engine is assigned to, moved or destroyed; a handle copied from it is good for itself. Costs the
-    /// same however many there are; the first view after a change sorts what is new, and is kept until the next change,
-    /// some 20 bytes an object.
+    /// Shows the objects that getAllX copies, in the same order. The view is good until the engine is next used for
+    /// anything that is not const, or destroyed; a handle copied from it is good for itself. Costs the same however many
+    /// there are; the first view after objects were added sorts these, and is kept until more are, some 20 bytes an
+    /// object.
     [[nodiscard]] ArrayView<Enumeration> allEnumerations() const;
     [[nodiscard]] ArrayView<FloatRange> allFloatRanges() const;
     [[nodiscard]] ArrayView<IntRange> allIntRanges() const;
@@ -232,9 +232,9 @@ public:
     /// built-in one; what nothing names has no dependents. The parameters of a group are its dependents, and so are the
     /// specs of a discipline.
     ///
-    /// The view is good until an object is added to the engine, or the engine is assigned to, moved or destroyed. Costs
-    /// one look-up; the first time after a change all that all objects name is gathered, which is kept until the next
-    /// change, some 24 bytes for each that an object names.
+    /// The view is good until the engine is next used for anything that is not const, or destroyed. Costs one look-up;
+    /// the first time after objects were added all that all objects name is gathered, and kept until more are, some 24
+    /// bytes for each that an object names.
     [[nodiscard]] ArrayView<Identity> dependentsOf(std::string_view typeId) const;
     /// @}
 
