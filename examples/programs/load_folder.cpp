@@ -25,7 +25,7 @@ bool load(ParametersEngine& engine, const char* folder) {
 std::size_t countParameters(const ParametersEngine& engine) {
     //! [kinds]
     std::size_t count = 0;
-    forEachKind(Kinds::Parameters{}, [&](auto kind) { count += kind.getAll(engine).size(); });
+    forEachKind(Kinds::Parameters{}, [&](auto kind) { count += kind.count(engine); });
     //! [kinds]
     return count;
 }
@@ -39,6 +39,6 @@ int main(int argc, char** argv) {
     }
     ParametersEngine engine;
     const bool isSound = load(engine, argv[1]);
-    std::cout << countParameters(engine) << " parameters in " << engine.getAllGroups().size() << " groups\n";
+    std::cout << countParameters(engine) << " parameters in " << engine.countObjects(Kinds::Group::info) << " groups\n";
     return isSound ? 0 : 1;
 }

@@ -14,6 +14,6 @@ int main() {
     engine.resolveSchemas();
 
     const Parameters::IntParameter stages = engine.getIntParameter("pumps:parameter.stages-1.0.0");
-    std::cout << stages.getCore().getName() << ", listed under " << stages.getCore().getGroup().getName()
-              << ", with values of the spec " << stages.getSpec().getCore().getName() << '\n';
+    std::cout << stages.name() << ", listed under " << stages.core().group().name() << ", with values of the spec "
+              << stages.spec().name() << '\n';
 }

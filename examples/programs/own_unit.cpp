@@ -47,10 +47,9 @@ int main() {
     //! [objects]
 
     const MeasurableParameter leakage = engine.getMeasurableParameter("pumps:parameter.leakage-1.0.0");
-    const MeasurableSpec spec = leakage.getSpec();
-    for (const Units::Unit& unit : spec.getApplicableUnits()) {
-        std::cout << leakage.getCore().getName() << ": at most "
-                  << convert(leakage.getRange().getTopBoundary(), spec.getStorageUnit(), unit) << ' '
+    for (const Units::Unit& unit : leakage.spec().applicableUnits()) {
+        std::cout << leakage.name() << ": at most "
+                  << convert(leakage.range().getTopBoundary(), leakage.spec().storageUnit(), unit) << ' '
                   << unit.getSymbol() << '\n';
     }
 }

@@ -11,11 +11,13 @@
 #include <exception>
 #include <functional>
 #include <iostream>
-#include <map>
 #include <optional>
 #include <regex>
 #include <sstream>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 using namespace Parameters;
 
@@ -29,9 +31,7 @@ struct Entry {
 
 /// One row: how the parameter is shown, and what may be entered.
 struct Row {
-    std::string group;
-    std::string name;
-    bool readOnly;
+    ParameterCore core;
     Entry entry;
 };
 
@@ -55,22 +55,20 @@ std::string complaintAbout(const Range& range, const std::string& text, const st
 
 //! [text]
 std::string complaintAbout(const StringRange& range, const std::string& text) {
-    if (const auto set = range.getSetStringRangeComponent()) {
-        const auto values = set->getAllowedValues();
+    if (const auto* set = range.setStringRangeComponent()) {
+        const auto values = set->allowedValues();
         return std::find(values.begin(), values.end(), text) != values.end() ? "" : "not one of the allowed values";
     }
-    const auto regex = range.getRegexStringRangeComponent();
-    return !regex || std::regex_match(text, std::regex(regex->getRegex())) ? "" : "must match " + regex->getRegex();
+    const auto* regex = range.regexStringRangeComponent();
+    return regex == nullptr || std::regex_match(text, std::regex(regex->getRegex()))
+               ? ""
+               : "must match " + regex->getRegex();
 }
 //! [text]
 
 std::string complaintAbout(const Enumeration& enumeration, const std::string& text) {
-    for (const auto& [identifier, integer] : enumeration.getValues()) {
-        if (identifier == text) {
-            return "";
-        }
-    }
-    return "not one of the choices";
+    const auto identifiers = enumeration.values().identifiers();
+    return std::find(identifiers.begin(), identifiers.end(), text) != identifiers.end() ? "" : "not one of the choices";
 }
 
 /// Returns the symbol with a blank before it, or nothing for a unit without one.
@@ -78,9 +76,9 @@ std::string suffixOf(const Units::Unit& unit) { return unit.getSymbol().empty() 
 
 /// Values are entered in the storage unit; the others are those in which they may be shown.
 std::string hintOf(const MeasurableSpec& spec) {
-    std::string hint = "number" + suffixOf(spec.getStorageUnit());
-    for (const Units::Unit& unit : spec.getApplicableUnits()) {
-        if (unit != spec.getStorageUnit()) {
+    std::string hint = "number" + suffixOf(spec.storageUnit());
+    for (const Units::Unit& unit : spec.applicableUnits()) {
+        if (unit != spec.storageUnit()) {
             hint += ", shown in" + suffixOf(unit) + " too";
         }
     }
@@ -93,75 +91,78 @@ std::optional<Entry> entryOf(const Parameter&) {
     return std::nullopt;
 }
 
-// Values are cheap to copy and never change, so that an entry keeps the range that it needs.
+// Values are cheap to copy and never change, so that an entry keeps the value that it needs.
 
 std::optional<Entry> entryOf(const IntParameter& parameter) {
     return Entry{"whole number",
-                 [range = parameter.getRange()](const std::string& text) { return complaintAbout(range, text, ""); }};
+                 [range = parameter.range()](const std::string& text) { return complaintAbout(range, text, ""); }};
 }
 
 std::optional<Entry> entryOf(const MeasurableParameter& parameter) {
-    const MeasurableSpec spec = parameter.getSpec();
-    return Entry{hintOf(spec), [spec, range = parameter.getRange()](const std::string& text) {
-                     return complaintAbout(range, text, suffixOf(spec.getStorageUnit()));
+    return Entry{hintOf(parameter.spec()), [parameter](const std::string& text) {
+                     return complaintAbout(parameter.range(), text, suffixOf(parameter.spec().storageUnit()));
                  }};
 }
 
 std::optional<Entry> entryOf(const StringParameter& parameter) {
-    return Entry{"text",
-                 [range = parameter.getRange()](const std::string& text) { return complaintAbout(range, text); }};
+    return Entry{"text", [range = parameter.range()](const std::string& text) { return complaintAbout(range, text); }};
 }
 
 std::optional<Entry> entryOf(const EnumerationParameter& parameter) {
-    return Entry{"choice", [enumeration = parameter.getEnumeration()](const std::string& text) {
+    return Entry{"choice", [enumeration = parameter.enumeration()](const std::string& text) {
                      return complaintAbout(enumeration, text);
                  }};
 }
 
 std::optional<Entry> entryOf(const BoolParameter& parameter) {
-    return Entry{parameter.getSpec().getCore().getName(),
+    return Entry{parameter.spec().core().getName(),
                  [](const std::string& text) { return text == "yes" || text == "no" ? "" : "yes or no"; }};
 }
 
-std::map<std::string, Row> rowsOf(const ParametersEngine& engine) {
-    std::map<std::string, Row> rows;
-    forEachKind(Kinds::Parameters{}, [&](auto kind) {
-        for (const auto& [typeId, parameter] : kind.getAll(engine)) {
-            const ParameterCore core = parameter.getCore();
-            if (const auto entry = entryOf(parameter)) {
-                rows[typeId] = {core.getGroup().getName(), core.getName(), core.isReadOnly(), *entry};
-            }
-        }
-    });
-    return rows;
+/// Returns the row of a parameter, if it has one.
+template <class Parameter>
+std::optional<Row> rowOf(const Parameter& parameter) {
+    auto entry = entryOf(parameter);
+    return entry ? std::optional(Row{parameter.core(), *std::move(entry)}) : std::nullopt;
 }
 
-void list(const std::map<std::string, Row>& rows) {
-    std::multimap<std::string, const Row*> groups;
-    for (const auto& [typeId, row] : rows) {
-        groups.emplace(row.group, &row);
-    }
-    std::string heading;
-    for (const auto& [group, row] : groups) {
-        if (group != heading) {
-            heading = group;
+void list(const ParametersEngine& engine) {
+    std::vector<Row> rows;
+    forEachObject(engine, Kinds::Parameters{}, [&](auto, const auto& parameter) {
+        if (auto row = rowOf(parameter)) {
+            rows.push_back(*std::move(row));
+        }
+    });
+    std::sort(rows.begin(), rows.end(), [](const Row& one, const Row& other) {
+        return std::pair(one.core.group().name(), one.core.typeId()) <
+               std::pair(other.core.group().name(), other.core.typeId());
+    });
+    std::string_view heading;
+    for (const auto& [core, entry] : rows) {
+        if (core.group().name() != heading) {
+            heading = core.group().name();
             std::cout << heading << '\n';
         }
-        std::cout << "  " << row->name << " (" << row->entry.hint << ")" << (row->readOnly ? ", read-only" : "")
+        std::cout << "  " << core.name() << " (" << entry.hint << ")" << (core.isReadOnly() ? ", read-only" : "")
                   << '\n';
     }
 }
 
-int run(const ParametersEngine& engine, int argc, char** argv) {
-    const auto rows = rowsOf(engine);
-    if (argc == 2) {
-        list(rows);
-        return 0;
+/// Returns whether a text may be entered for a parameter.
+bool check(const ParametersEngine& engine, const char* typeId, const char* text) {
+    std::optional<Row> row;
+    forEachKind(Kinds::Parameters{}, [&](auto kind) {
+        if (const auto parameter = kind.find(engine, typeId)) {
+            row = rowOf(*parameter);
+        }
+    });
+    if (!row) {
+        std::cout << "no row for " << typeId << '\n';
+        return false;
     }
-    const Row& row = rows.at(argv[2]);
-    const std::string complaint = row.readOnly ? "read-only" : row.entry.complaintAbout(argv[3]);
-    std::cout << row.name << ": " << (complaint.empty() ? "accepted" : complaint) << '\n';
-    return complaint.empty() ? 0 : 1;
+    const std::string complaint = row->core.isReadOnly() ? "read-only" : row->entry.complaintAbout(text);
+    std::cout << row->core.name() << ": " << (complaint.empty() ? "accepted" : complaint) << '\n';
+    return complaint.empty();
 }
 
 } // namespace
@@ -174,7 +175,11 @@ int main(int argc, char** argv) {
     try {
         ParametersEngine engine;
         printErrors(std::cerr, engine.registerSoundSchemas(textsIn(argv[1])));
-        return run(engine, argc, argv);
+        if (argc == 2) {
+            list(engine);
+            return 0;
+        }
+        return check(engine, argv[2], argv[3]) ? 0 : 1;
     } catch (const std::exception& fault) {
         std::cerr << fault.what() << '\n';
         return 1;

@@ -64,6 +64,6 @@ int main() {
     engine.resolveSchemas();
     //! [missing]
     const MeasurableParameter head = engine.getMeasurableParameter("pumps:parameter.head-1.0.0");
-    std::cout << head.getCore().getGroup().getName() << ": " << head.getCore().getName() << " in "
-              << head.getSpec().getStorageUnit().getSymbol() << '\n';
+    std::cout << head.core().group().name() << ": " << head.name() << " in " << head.spec().storageUnit().getSymbol()
+              << '\n';
 }
