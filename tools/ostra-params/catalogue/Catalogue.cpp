@@ -6,8 +6,8 @@ namespace Tool {
 
 Catalogue::Catalogue(const std::vector<std::string>& paths) : Loader(paths), objects_(describeAll(engine())) {
     mustHaveAll(objects_);
-    for (std::size_t place = 0; place < objects_.size(); ++place) {
-        index_.emplace(objects_[place].typeId, place);
+    for (const Object& object : objects_) {
+        index_.emplace(object.typeId, &object);
     }
     for (Object& object : objects_) {
         for (Property& property : object.properties) {
@@ -17,15 +17,12 @@ Catalogue::Catalogue(const std::vector<std::string>& paths) : Loader(paths), obj
                 }
             }
         }
-        for (const Link& link : dependencies(object)) {
-            dependents_[link.typeId].push_back({link.property, object.typeId});
-        }
     }
 }
 
-const Object* Catalogue::find(const std::string& typeId) const {
+const Object* Catalogue::find(std::string_view typeId) const {
     const auto found = index_.find(typeId);
-    return found == index_.end() ? nullptr : &objects_[found->second];
+    return found == index_.end() ? nullptr : found->second;
 }
 
 std::string Catalogue::nameOf(const std::string& typeId) const {
@@ -45,10 +42,16 @@ std::vector<Link> Catalogue::dependencies(const Object& object) const {
     return links;
 }
 
-const std::vector<Link>& Catalogue::dependents(const std::string& typeId) const {
-    static const std::vector<Link> none;
-    const auto found = dependents_.find(typeId);
-    return found == dependents_.end() ? none : found->second;
+std::vector<Link> Catalogue::dependents(const std::string& typeId) const {
+    std::vector<Link> links;
+    for (const Parameters::Identity& dependent : engine().dependentsOf(typeId)) {
+        for (const Link& link : dependencies(*find(dependent.typeId))) {
+            if (link.typeId == typeId) {
+                links.push_back({link.property, std::string(dependent.typeId)});
+            }
+        }
+    }
+    return links;
 }
 
 std::string Catalogue::schemaOf(const Object& object) const {

@@ -4,7 +4,6 @@
 #include "catalogue/Loader.h"
 #include "catalogue/Sections.h"
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -27,14 +26,14 @@ public:
 
     /// Returns the objects by section, then by typeid.
     const std::vector<Object>& objects() const { return objects_; }
-    const Object* find(const std::string& typeId) const;
+    const Object* find(std::string_view typeId) const;
     /// Returns what a typeid goes by: the name of its object, or nothing.
     std::string nameOf(const std::string& typeId) const;
 
     /// Returns what an object names, in the order of its properties.
     std::vector<Link> dependencies(const Object& object) const;
     /// Returns what names an object, in the order of the objects.
-    const std::vector<Link>& dependents(const std::string& typeId) const;
+    std::vector<Link> dependents(const std::string& typeId) const;
 
     /// Returns the text of an object as the library writes it; that of a unit as it was given, without blanks.
     std::string schemaOf(const Object& object) const;
@@ -42,8 +41,7 @@ public:
 
 private:
     std::vector<Object> objects_;
-    std::unordered_map<std::string, std::size_t> index_;
-    std::unordered_map<std::string, std::vector<Link>> dependents_;
+    std::unordered_map<std::string_view, const Object*> index_;
 };
 
 } // namespace Tool

@@ -49,10 +49,11 @@ Property limitsOf(const Range& range) {
 }
 
 Property limitsOf(const StringRange& range) {
-    if (const auto set = range.getSetStringRangeComponent()) {
-        return listOf("allowed values", set->getAllowedValues(), [](const std::string& text) { return Value{text}; });
+    if (const auto* set = range.setStringRangeComponent()) {
+        return listOf("allowed values", set->allowedValues(),
+                      [](std::string_view text) { return Value{std::string(text)}; });
     }
-    if (const auto regex = range.getRegexStringRangeComponent()) {
+    if (const auto* regex = range.regexStringRangeComponent()) {
         return {"regular expression", {{regex->getRegex()}}};
     }
     return {"range", {{"any"}}};
@@ -62,7 +63,7 @@ Property limitsOf(const StringRange& range) {
 template <class Range>
 bool isInline(const Range& range) {
     const auto bases = Kinds::Of<Range>::info.bases();
-    return std::ranges::find(bases, range.getTypeId()) != bases.end();
+    return std::ranges::find(bases, range.typeId()) != bases.end();
 }
 
 void addRange(Object& object, const auto& range) {
@@ -77,28 +78,28 @@ void addRange(Object& object, const auto& range) {
     object.properties.push_back(std::move(limits));
 }
 
-void addText(Object& object, std::string_view name, std::string text) {
+void addText(Object& object, std::string_view name, std::string_view text) {
     if (!text.empty()) {
-        object.properties.push_back({name, {{std::move(text)}}});
+        object.properties.push_back({name, {{std::string(text)}}});
     }
 }
 
 Property choicesOf(const Enumeration& enumeration, bool isOwn) {
-    const auto choice = [](const auto& each) { return Value{fmt::format("{} = {}", each.first, each.second)}; };
-    return listOf("choices", enumeration.getValues(), choice, isOwn);
+    const auto choice = [](const auto& each) { return Value{fmt::format("{} = {}", each.identifier, each.integer)}; };
+    return listOf("choices", enumeration.values(), choice, isOwn);
 }
 
-Property disciplineOf(const SpecCore& core, bool isOwn) { return {"discipline", {named(core.getDiscipline())}, isOwn}; }
+Property disciplineOf(const SpecCore& core, bool isOwn) { return {"discipline", {named(core.discipline())}, isOwn}; }
 
 Object describeSpec(const SpecCore& core) { return {core.getTypeId(), core.getName(), {disciplineOf(core, true)}}; }
 
 Object describeParameter(const auto& parameter) {
-    const ParameterCore core = parameter.getCore();
-    const SpecCore spec = parameter.getSpec().getCore();
+    const ParameterCore& core = parameter.core();
+    const SpecCore& spec = parameter.spec().core();
     Object object{core.getTypeId(), core.getName(), {}};
-    addText(object, "description", core.getDescription());
-    addText(object, "sample text", core.getSampleText());
-    object.properties.push_back({"group", {named(core.getGroup())}});
+    addText(object, "description", core.description());
+    addText(object, "sample text", core.sampleText());
+    object.properties.push_back({"group", {named(core.group())}});
     object.properties.push_back({"read-only", {{core.isReadOnly() ? "yes" : "no"}}});
     object.properties.push_back({"spec", {named(spec)}});
     object.properties.push_back(disciplineOf(spec, false));
@@ -106,7 +107,7 @@ Object describeParameter(const auto& parameter) {
 }
 
 /// In whatever minor version, and with whatever else in it.
-bool isFamilyType(const std::string& specTypeId) {
+bool isFamilyType(std::string_view specTypeId) {
     constexpr std::string_view typeId = Kinds::ReferenceSpec::familyType;
     constexpr std::string_view anyMinor = typeId.substr(0, typeId.find('.', typeId.find('-')) + 1);
     return specTypeId.find(anyMinor) != std::string::npos;
@@ -114,7 +115,7 @@ bool isFamilyType(const std::string& specTypeId) {
 
 Object describeRanged(const auto& parameter) {
     Object object = describeParameter(parameter);
-    addRange(object, parameter.getRange());
+    addRange(object, parameter.range());
     return object;
 }
 
@@ -134,21 +135,21 @@ Object describe(const FloatRange& range) { return {range.getTypeId(), {}, {limit
 Object describe(const IntRange& range) { return {range.getTypeId(), {}, {limitsOf(range)}}; }
 Object describe(const StringRange& range) { return {range.getTypeId(), {}, {limitsOf(range)}}; }
 
-Object describe(const BoolSpec& spec) { return describeSpec(spec.getCore()); }
-Object describe(const GeneralSpec& spec) { return describeSpec(spec.getCore()); }
-Object describe(const IntSpec& spec) { return describeSpec(spec.getCore()); }
-Object describe(const StringSpec& spec) { return describeSpec(spec.getCore()); }
+Object describe(const BoolSpec& spec) { return describeSpec(spec.core()); }
+Object describe(const GeneralSpec& spec) { return describeSpec(spec.core()); }
+Object describe(const IntSpec& spec) { return describeSpec(spec.core()); }
+Object describe(const StringSpec& spec) { return describeSpec(spec.core()); }
 
 Object describe(const MeasurableSpec& spec) {
-    Object object = describeSpec(spec.getCore());
-    object.properties.push_back({"storage unit", {named(spec.getStorageUnit())}});
-    object.properties.push_back(listOf("applicable units", spec.getApplicableUnits(), named<Units::Unit>));
+    Object object = describeSpec(spec.core());
+    object.properties.push_back({"storage unit", {named(spec.storageUnit())}});
+    object.properties.push_back(listOf("applicable units", spec.applicableUnits(), named<Units::Unit>));
     return object;
 }
 
 Object describe(const ReferenceSpec& spec) {
-    Object object = describeSpec(spec.getCore());
-    if (const auto category = spec.getCategory()) {
+    Object object = describeSpec(spec.core());
+    if (const Category* category = spec.category()) {
         object.properties.push_back({"category", {named(*category)}});
     }
     return object;
@@ -158,7 +159,7 @@ Object describe(const BoolParameter& parameter) { return describeParameter(param
 
 Object describe(const EnumerationParameter& parameter) {
     Object object = describeParameter(parameter);
-    const Enumeration enumeration = parameter.getEnumeration();
+    const Enumeration& enumeration = parameter.enumeration();
     object.properties.push_back({"enumeration", {{"", enumeration.getTypeId()}}});
     object.properties.push_back(choicesOf(enumeration, false));
     return object;
@@ -169,17 +170,17 @@ Object describe(const StringParameter& parameter) { return describeRanged(parame
 
 Object describe(const MeasurableParameter& parameter) {
     Object object = describeRanged(parameter);
-    object.properties.push_back({"stored in", {symbolOf(parameter.getSpec().getStorageUnit())}, false});
-    object.properties.push_back(listOf("shown in", parameter.getSpec().getApplicableUnits(), symbolOf, false));
+    object.properties.push_back({"stored in", {symbolOf(parameter.spec().storageUnit())}, false});
+    object.properties.push_back(listOf("shown in", parameter.spec().applicableUnits(), symbolOf, false));
     return object;
 }
 
 Object describe(const ReferenceParameter& parameter) {
-    const ReferenceSpec spec = parameter.getSpec();
+    const ReferenceSpec& spec = parameter.spec();
     Object object = describeParameter(parameter);
     // The category of a family type is said by the parameter itself; that of a spec belongs to the spec.
-    if (const auto category = spec.getCategory()) {
-        object.properties.push_back({"category", {named(*category)}, isFamilyType(spec.getCore().getTypeId())});
+    if (const Category* category = spec.category()) {
+        object.properties.push_back({"category", {named(*category)}, isFamilyType(spec.typeId())});
     }
     object.properties.push_back({"ranged", {{parameter.isRanged() ? "yes" : "no"}}});
     return object;
@@ -187,11 +188,11 @@ Object describe(const ReferenceParameter& parameter) {
 
 Object describe(const Category& category) {
     Object object{category.getTypeId(), category.getName(), {}};
-    if (const auto sub = category.getSubCategoryComponent()) {
+    if (const auto* sub = category.subCategoryComponent()) {
         object.properties.push_back({"parent", {{"", sub->getParentCategory()}}});
-    } else if (const auto major = category.getMajorCategoryComponent()) {
-        object.properties.push_back({"domain", {named(major->getDomain())}});
-        object.properties.push_back(listOf("disciplines", major->getDisciplines(), named<Taxon>));
+    } else if (const auto* major = category.majorCategoryComponent()) {
+        object.properties.push_back({"domain", {named(major->domain())}});
+        object.properties.push_back(listOf("disciplines", major->disciplines(), named<Taxon>));
     }
     return object;
 }
@@ -207,20 +208,21 @@ Object describeOne(const typename Kind::Value& value) {
 
 void describeEach(ParametersEngine& engine, const std::function<bool(const Section&)>& isWanted,
                   const std::function<void(Object)>& visit) {
-    const auto visitAll = [&](const Section& section, const auto& objects, const auto& describeOf) {
-        for (const auto& [typeId, value] : objects) {
-            Object object = describeOf(value);
-            object.section = &section;
-            visit(std::move(object));
-        }
+    const auto visitOne = [&](const Section& section, Object object) {
+        object.section = &section;
+        visit(std::move(object));
     };
     if (isWanted(sectionOfUnits())) {
-        visitAll(sectionOfUnits(), engine.getUnitsEngine().getAllUnits(),
-                 [](const Units::Unit& unit) { return describe(unit); });
+        for (const auto& [typeId, unit] : engine.getUnitsEngine().getAllUnits()) {
+            visitOne(sectionOfUnits(), describe(unit));
+        }
     }
     forEachKind([&](auto kind) {
-        if (isWanted(sectionOf(kind.info))) {
-            visitAll(sectionOf(kind.info), kind.getAll(engine), describeOne<decltype(kind)>);
+        const Section& section = sectionOf(kind.info);
+        if (isWanted(section)) {
+            for (const auto& object : kind.all(engine)) {
+                visitOne(section, describeOne<decltype(kind)>(object));
+            }
         }
     });
 }
@@ -235,7 +237,7 @@ std::vector<Object> describeAll(ParametersEngine& engine) {
 std::vector<std::size_t> countAll(ParametersEngine& engine) {
     std::vector<std::size_t> counts(sections().size());
     counts[indexOf(sectionOfUnits())] = engine.getUnitsEngine().getAllUnits().size();
-    forEachKind([&](auto kind) { counts[indexOf(sectionOf(kind.info))] = kind.getAll(engine).size(); });
+    forEachKind([&](auto kind) { counts[indexOf(sectionOf(kind.info))] = kind.count(engine); });
     return counts;
 }
 

@@ -35,7 +35,7 @@ public:
     std::size_t files() const { return input_.files(); }
     /// Returns how many of them, and of files that cannot be read, are left out.
     std::size_t leftOut() const;
-    /// Returns how many objects there are in each section, which costs time in proportion to their number.
+    /// Returns how many objects there are in each section, which costs time in proportion to the number of units.
     /// @throws Loss if there are fewer objects than sound schemas.
     std::vector<std::size_t> counts();
     /// Returns what is wrong with the files and the schemas, in the order in which they were read.
