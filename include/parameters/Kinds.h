@@ -453,6 +453,7 @@ constexpr void visitKind(KindInfo info, Visitor&& visit) {
 
 /// Calls visit(kind, object) with each object of the kinds of a list, as KindOf::all shows them, in the order of the
 /// list. The engine must not be changed meanwhile.
+/// @snippet dialog_lists.cpp names
 template <class... Ks, class Visitor>
 void forEachObject(const ParametersEngine& engine, Kinds::List<Ks...> kinds, Visitor&& visit) {
     forEachKind(kinds, [&](auto kind) {

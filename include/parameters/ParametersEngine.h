@@ -186,9 +186,9 @@ public:
     /// @{
 
     /// Shows the objects that getAllX copies, in the same order. The view is good until the engine is next used for
-    /// anything that is not const, or destroyed; a handle copied from it is good for itself. Costs the same however many
-    /// there are; the first view after objects were added sorts these, and is kept until more are, some 20 bytes an
-    /// object.
+    /// anything that is not const, or destroyed; a handle copied from it is good for itself. Costs the same however
+    /// many there are; the first view after objects were added sorts these, and is kept until more are, some 20 bytes
+    /// an object.
     [[nodiscard]] ArrayView<Enumeration> allEnumerations() const;
     [[nodiscard]] ArrayView<FloatRange> allFloatRanges() const;
     [[nodiscard]] ArrayView<IntRange> allIntRanges() const;
@@ -235,6 +235,7 @@ public:
     /// The view is good until the engine is next used for anything that is not const, or destroyed. Costs one look-up;
     /// the first time after objects were added all that all objects name is gathered, and kept until more are, some 24
     /// bytes for each that an object names.
+    /// @snippet dialog_lists.cpp dependents
     [[nodiscard]] ArrayView<Identity> dependentsOf(std::string_view typeId) const;
     /// @}
 
