@@ -32,6 +32,7 @@ public:
     /// @}
 
     /// Returns what all parameters have in common: the type identifier, the name, the group and more.
+    /// core() refers into this very handle.
     /// @{
     [[nodiscard]] ParameterCore getCore() const noexcept;
     [[nodiscard]] const ParameterCore& core() const noexcept { return core_; }

@@ -39,6 +39,7 @@ public:
     /// @}
 
     /// Returns what all specs have in common: the type identifier, the name and the discipline.
+    /// core() refers into this very handle.
     /// @{
     [[nodiscard]] SpecCore getCore() const noexcept;
     [[nodiscard]] const SpecCore& core() const noexcept { return core_; }
