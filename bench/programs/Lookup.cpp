@@ -1,48 +1,27 @@
 #include "harness/Fixtures.h"
 #include "programs/Groups.h"
+#include "programs/LookUps.h"
 
-#include <parameters/Kinds.h>
-
-#include <benchmark/benchmark.h>
-
-#include <memory>
+#include <string>
 #include <unordered_map>
 
 namespace Bench {
 
-using Parameters::MeasurableParameter;
 using Parameters::ParametersEngine;
 
 namespace {
 
-using Handle = std::shared_ptr<const MeasurableParameter>;
 using Handles = std::unordered_map<std::string, Handle>;
 
-/// The same objects in a plain hash map, filled in the order of the catalogue.
+/// The same objects in a plain hash map.
 const Handles& handles(const Catalogue& catalogue) {
-    return once(catalogue, [](const Catalogue& schemas) {
-        const ParametersEngine& engine = resolvedEngine(schemas);
-        Handles result;
-        for (const Schema& schema : schemas) {
-            if (schema.kind == Parameters::Kinds::MeasurableParameter::info) {
-                result.emplace(schema.typeId, std::make_shared<const MeasurableParameter>(
-                                                  engine.getMeasurableParameter(schema.typeId)));
-            }
-        }
-        return result;
-    });
+    return once(catalogue, [](const Catalogue& schemas) { return handlesOf<Handles>(schemas); });
 }
 
 /// Looks every measurable parameter up once, in an order in which they do not lie.
 template <class LookUp>
 void measureHits(const Catalogue& catalogue, Measurement& measurement, LookUp lookUp) {
-    const auto& typeIds = measurableParameters(catalogue);
-    measurement.setItems(typeIds.size());
-    measurement.time([&] {
-        for (const std::string& typeId : typeIds) {
-            benchmark::DoNotOptimize(lookUp(typeId));
-        }
-    });
+    measureLookUps(measurableParameters(catalogue), measurement, lookUp);
 }
 
 void get(const Catalogue& catalogue, Measurement& measurement) {

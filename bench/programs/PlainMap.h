@@ -1,6 +1,9 @@
 #pragma once
 
 #include "generator/Catalogue.h"
+#include "harness/Fixtures.h"
+
+#include <parameters/Kinds.h>
 
 #include <map>
 #include <memory>
@@ -19,8 +22,38 @@ struct PlainParameter {
     bool readOnly;
 };
 
+using PlainRecord = std::shared_ptr<const PlainParameter>;
+
 /// What such a registry would hold of one kind.
-using PlainMap = std::map<std::string, std::shared_ptr<const PlainParameter>>;
+using PlainMap = std::map<std::string, PlainRecord>;
+
+/// What such a registry would hold of a parameter of an engine.
+template <class Parameter>
+PlainParameter plain(const Parameter& parameter) {
+    const Parameters::ParameterCore core = parameter.getCore();
+    return {core.getTypeId(),
+            core.getName(),
+            core.getDescription(),
+            core.getSampleText(),
+            core.getGroup().getTypeId(),
+            parameter.getSpec().getCore().getTypeId(),
+            core.isReadOnly()};
+}
+
+/// Calls visit(parameter) with each parameter of a catalogue, whatever its kind, in the order of the catalogue.
+template <class Visitor>
+void forEachParameter(const Catalogue& catalogue, Visitor visit) {
+    const Parameters::ParametersEngine& engine = resolvedEngine(catalogue);
+    for (const Schema& schema : catalogue) {
+        Parameters::forEachKind([&](auto kind) {
+            if constexpr (decltype(kind)::info.isParameter()) {
+                if (schema.kind == kind.info) {
+                    visit(kind.get(engine, schema.typeId));
+                }
+            }
+        });
+    }
+}
 
 /// The measurable parameters of a catalogue, put into a map in the order of the catalogue.
 const PlainMap& plainMap(const Catalogue& catalogue);

@@ -2,7 +2,21 @@
 
 int main(int argc, char** argv) {
     using namespace Bench;
-    return runBenchmarks({ingestBenchmarks(), parserBenchmarks(), linkerBenchmarks(), lookupBenchmarks(),
-                          listBenchmarks(), writeBenchmarks(), engineBenchmarks()},
-                         argc, argv);
+    return runBenchmarks(
+        {
+            ingestBenchmarks(),
+            parserBenchmarks(),
+            linkerBenchmarks(),
+            lookupBenchmarks(),
+            listBenchmarks(),
+            writeBenchmarks(),
+            engineBenchmarks(),
+#ifdef OSTRA_BENCH_VIEWS
+            findBenchmarks(),
+            nameBenchmarks(),
+            walkBenchmarks(),
+            dependentsBenchmarks(),
+#endif
+        },
+        argc, argv);
 }
