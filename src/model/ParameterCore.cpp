@@ -12,8 +12,8 @@ ParameterCore::ParameterCore(const std::string& typeId, const std::string& name,
 
 ParameterCore::ParameterCore(const std::string& typeId, const std::string& name, const Taxon& group,
                              const std::string& description, const std::string& sampleText, bool readOnly)
-    : data_(std::make_shared<const Internal::ParameterCoreData>(
-          Internal::ParameterCoreData{{typeId, name, description, sampleText}, group, readOnly})) {}
+    : data_(std::make_shared<const Internal::ParameterCoreData>(Internal::ParameterCoreData{
+          .texts = {typeId, name, description, sampleText}, .group = group, .readOnly = readOnly})) {}
 
 std::string ParameterCore::getTypeId() const { return std::string(typeId()); }
 
@@ -52,7 +52,9 @@ ParameterConstants ParameterConstants::read(const Ostra::Constants& constants) {
 }
 
 ParameterCoreData buildParameterCore(const ParameterRecord& record, const Finder& finder) {
-    return {record.texts, finder.requireOrStandIn<GroupKind>(record.group(), record.typeId()), record.readOnly};
+    return {.texts = record.texts,
+            .group = finder.requireOrStandIn<GroupKind>(record.group(), record.typeId()),
+            .readOnly = record.readOnly};
 }
 
 void writeParameterConstants(Ostra::SchemaWriter& writer, const ParameterCoreData& core) {

@@ -19,12 +19,13 @@ namespace Parameters::Internal {
 
 /// The data of a core, from which those of parameters derive: a parameter holds them as its core.
 struct ParameterCoreData {
-    Texts texts; // typeid, name, description, sampleText
+    Texts texts;                               // typeid, name, description, sampleText
+    Texts::Place namePlace = texts.placeOf(1); // lists are sorted by name: it is at hand, beside the texts
     Taxon group;
     bool readOnly;
 
     std::string_view typeId() const { return texts[0]; }
-    std::string_view name() const { return texts[1]; }
+    std::string_view name() const { return texts[namePlace]; }
     std::string_view description() const { return texts[2]; }
     std::string_view sampleText() const { return texts[3]; }
 };

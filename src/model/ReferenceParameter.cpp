@@ -27,7 +27,7 @@ ReferenceParameter::ReferenceParameter(const ParameterCore& core, const Category
           ranged) {}
 
 ReferenceParameter::ReferenceParameter(const ParameterCore& core, const ReferenceSpec& spec, bool ranged)
-    : ReferenceParameter(parameterOf({Internal::Access::data(core), spec, ranged})) {}
+    : ReferenceParameter(parameterOf({Internal::Access::data(core), ranged, spec})) {}
 
 ReferenceParameter::ReferenceParameter(const ParameterCore& core, bool ranged)
     : ReferenceParameter(core, Internal::standInOf<Internal::ReferenceSpecKind>(), ranged) {}
@@ -141,7 +141,7 @@ ReferenceParameter ReferenceParameterKind::build(const Record& record, const Fin
     const auto spec = isFamilyType(record.spec())
                           ? buildFamilyType(record, finder)
                           : finder.requireOrUsualStandIn<ReferenceSpecKind>(record.spec(), record.typeId());
-    return parameterOf({std::move(core), spec, record.ranged});
+    return parameterOf({std::move(core), record.ranged, spec});
 }
 
 std::string ReferenceParameterKind::write(const ReferenceParameter& parameter) {

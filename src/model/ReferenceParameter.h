@@ -15,8 +15,8 @@
 namespace Parameters::Internal {
 
 struct ReferenceParameterData : ParameterCoreData {
+    bool ranged; // before the spec, where the core leaves room
     ReferenceSpec spec;
-    bool ranged;
 };
 
 struct ReferenceParameterKind : DescribedKind<Kinds::ReferenceParameter> {

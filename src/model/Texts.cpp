@@ -14,14 +14,15 @@ Texts::Texts(std::span<const std::string_view> strings) {
     if (strings.size() > limit) {
         throw std::length_error(messages("texts-too-many").with({}));
     }
-    std::size_t length = 0;
+    // With what stands before them, so that there is a place for each.
+    std::size_t length = sizeof(Block) + strings.size() * sizeof(std::uint32_t);
     for (const std::string_view string : strings) {
-        if (string.size() > limit - length) {
+        if (length > limit || string.size() > limit - length) {
             throw std::length_error(messages("texts-too-long").with({}));
         }
         length += string.size();
     }
-    void* memory = ::operator new(sizeof(Block) + strings.size() * sizeof(std::uint32_t) + length);
+    void* memory = ::operator new(length);
     block_ = new (memory) Block{{1}, static_cast<std::uint32_t>(strings.size())};
     auto* end = reinterpret_cast<std::uint32_t*>(block_ + 1);
     auto* character = reinterpret_cast<char*>(end + strings.size());

@@ -39,6 +39,17 @@ public:
         return {characters() + begin, ends()[index] - begin};
     }
 
+    /// Where a string is in the block, for who keeps it: the head of the block is then not read to find the string.
+    struct Place {
+        std::uint32_t begin;
+        std::uint32_t size;
+    };
+    Place placeOf(std::size_t index) const noexcept {
+        const std::string_view string = (*this)[index];
+        return {static_cast<std::uint32_t>(string.data() - bytes()), static_cast<std::uint32_t>(string.size())};
+    }
+    std::string_view operator[](Place place) const noexcept { return {bytes() + place.begin, place.size}; }
+
     /// Returns the strings from one on.
     StringsView from(std::size_t first) const noexcept {
         return first == size()
@@ -55,6 +66,7 @@ private:
         std::uint32_t count;
     };
 
+    const char* bytes() const noexcept { return reinterpret_cast<const char*>(block_); }
     const std::uint32_t* ends() const noexcept { return reinterpret_cast<const std::uint32_t*>(block_ + 1); }
     const char* characters() const noexcept { return reinterpret_cast<const char*>(ends() + block_->count); }
     void retain() const noexcept {

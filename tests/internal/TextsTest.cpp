@@ -58,6 +58,15 @@ TEST(Texts, KeepStringsInTheirOrder) {
     EXPECT_EQ(stringsOf(texts), (Strings{"second", "first", "second"}));
 }
 
+TEST(Texts, AreFoundByTheirPlaces) {
+    const Texts texts{"second", "", "first"};
+    for (std::size_t index = 0; index < texts.size(); ++index) {
+        const std::string_view found = texts[texts.placeOf(index)];
+        EXPECT_EQ(found, texts[index]);
+        EXPECT_EQ(found.data(), texts[index].data());
+    }
+}
+
 TEST(Texts, KeepEmptyStrings) {
     EXPECT_EQ(stringsOf(Texts{""}), Strings{""});
     EXPECT_EQ(stringsOf(Texts{"", "a", "", ""}), (Strings{"", "a", "", ""}));
@@ -103,6 +112,11 @@ TEST(Texts, MayNotBeLongerThanTheirEndsCanSay) {
 TEST(Texts, MayNotBeLongerTogetherThanTheirEndsCanSay) {
     const std::string_view half("x", std::size_t{1} << 31);
     EXPECT_THROW(Texts({half, half}), std::length_error);
+}
+
+TEST(Texts, MayNotBeSoLongThatThereIsNoPlaceForTheLast) {
+    const std::string_view most("x", (std::size_t{1} << 32) - 12);
+    EXPECT_THROW(Texts({most}), std::length_error);
 }
 
 TEST(Texts, MayNotBeMoreThanTheirCountCanSay) {
