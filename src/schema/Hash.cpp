@@ -1,5 +1,7 @@
 #include "schema/Hash.h"
 
+#include "schema/Product.h"
+
 #include <chrono>
 #include <cstddef>
 #include <cstring>
@@ -8,15 +10,13 @@ namespace Ostra {
 
 namespace {
 
-__extension__ using Product = unsigned __int128;
-
 constexpr std::uint64_t oddA = 0x9E3779B97F4A7C15;
 constexpr std::uint64_t oddB = 0xD6E8FEB86659FD93;
 
 /// Folds the 128-bit product of two words: every bit of both reaches every bit of the result.
 std::uint64_t mix(std::uint64_t a, std::uint64_t b) noexcept {
-    const Product product = static_cast<Product>(a) * b;
-    return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
+    const Product product = multiply(a, b);
+    return product.low ^ product.high;
 }
 
 template <class Word>

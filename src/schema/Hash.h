@@ -14,7 +14,9 @@ std::uint64_t hashOf(std::string_view bytes) noexcept;
 /// a view.
 struct TextHash {
     using is_transparent = void; // NOLINT(readability-identifier-naming): the name that standard tables look for
-    std::size_t operator()(std::string_view text) const { return hashOf(text); }
+    std::size_t operator()(std::string_view text) const {
+        return static_cast<std::size_t>(hashOf(text)); // whose every bit is as good as any other
+    }
 };
 
 } // namespace Ostra
