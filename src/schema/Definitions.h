@@ -1,13 +1,15 @@
 #pragma once
 
+#include "schema/Arena.h"
 #include "schema/JSON.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
-#include <memory_resource>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace Ostra {
@@ -20,7 +22,8 @@ public:
         JSONView definition;
     };
 
-    explicit Definitions(std::pmr::memory_resource* memory) : definitions_(memory), index_(memory) {}
+    explicit Definitions(Arena& memory)
+        : definitions_(FromArena<Definition>(memory)), index_(FromArena<Index::value_type>(memory)) {}
 
     /// Makes room for the definitions of an array.
     void begin(JSONView array) {
@@ -53,6 +56,9 @@ public:
     std::vector<Definition> sorted() const;
 
 private:
+    using Index =
+        std::map<std::string_view, std::size_t, std::less<>, FromArena<std::pair<const std::string_view, std::size_t>>>;
+
     static constexpr std::size_t few = 16; // up to so many, looking at one after the other is faster than any index
 
     bool hasSizeOf(std::string_view id) const { return (sizes_ & sizeBit(id)) != 0; }
@@ -63,9 +69,9 @@ private:
     MaybeView array_ = std::nullopt;
     bool isInspected_ = false;
     bool isFaulty_ = false;
-    std::pmr::vector<Definition> definitions_;
+    std::vector<Definition, FromArena<Definition>> definitions_;
     std::uint64_t sizes_ = 0; // a bit for each size of an id: most ids that are not there are of none of them
-    std::pmr::map<std::string_view, std::size_t> index_; // of all definitions, once they are more than a few
+    Index index_;             // of all definitions, once they are more than a few
 };
 
 } // namespace Ostra

@@ -1,13 +1,11 @@
 #pragma once
 
+#include "schema/Arena.h"
 #include "schema/Definitions.h"
 #include "schema/Identifier.h"
 #include "schema/JSON.h"
 
-#include <array>
-#include <cstddef>
 #include <initializer_list>
-#include <memory_resource>
 #include <string>
 #include <string_view>
 
@@ -61,11 +59,9 @@ private:
     std::string_view base_;
     bool beginsOnly_ =
         false; // an identifier can be in the base at its beginning alone, which is sooner seen than searched
-    std::array<std::byte, 2048> buffer_; // the definitions of most schemas fit
-    // What does not fit comes from operator new: the default resource is the application's, and its threads share it.
-    std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size(), std::pmr::new_delete_resource()};
-    Definitions constants_{&memory_};
-    Definitions properties_{&memory_};
+    Arena memory_;
+    Definitions constants_{memory_};
+    Definitions properties_{memory_};
 };
 
 } // namespace Ostra

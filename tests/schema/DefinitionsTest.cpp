@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <memory_resource>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -31,7 +31,8 @@ protected:
 
     std::vector<std::string> ids;
     std::unique_ptr<JSON> array;
-    Definitions definitions{std::pmr::get_default_resource()};
+    Arena memory;
+    Definitions definitions{memory};
 };
 
 TEST_P(DefinitionsOf, AreFoundByTheirIds) {

@@ -10,7 +10,6 @@
 
 #include <map>
 #include <memory>
-#include <memory_resource>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -288,12 +287,6 @@ TEST(Schema, HoldsMoreDefinitionsThanItsOwnBuffer) {
     const Text text(withAThousandConstants());
     EXPECT_EQ(text.schema.constants().size(), 1000U);
     EXPECT_EQ(Schema::valueOf(*text.schema.constants().find("999"))->integer(), 999);
-}
-
-TEST(Schema, AsksNothingOfTheMemoryResourceThatTheApplicationHasMadeTheDefault) {
-    std::pmr::memory_resource* const before = std::pmr::set_default_resource(std::pmr::null_memory_resource());
-    EXPECT_NO_THROW(Text{withAThousandConstants()});
-    std::pmr::set_default_resource(before);
 }
 
 TEST(Schema, NeedsItsTextNoLonger) {
