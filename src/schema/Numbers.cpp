@@ -1,6 +1,11 @@
 #include "schema/Numbers.h"
 
+#ifdef OSTRA_FAST_FLOAT // where the standard library reads no doubles
+#include <fast_float/fast_float.h>
+#endif
+
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 
 namespace Ostra {
@@ -32,11 +37,18 @@ bool isBelowOne(std::string_view number) {
     return point - leading + writtenExponent(number) < 0;
 }
 
+#ifdef OSTRA_FAST_FLOAT
+using fast_float::from_chars;
+#else
+using std::from_chars;
+#endif
+
 } // namespace
 
 std::optional<double> toDouble(std::string_view number) {
     double nearest = 0;
-    if (std::from_chars(number.data(), number.data() + number.size(), nearest).ec == std::errc()) {
+    const auto error = from_chars(number.data(), number.data() + number.size(), nearest).ec;
+    if (error == std::errc() && std::isfinite(nearest)) { // some versions of fast_float take infinity for a result
         return nearest;
     }
     // The standard library reports both ends alike and leaves the result alone.
