@@ -40,7 +40,7 @@ public:
     /// Returns the message of that code; does not compile where there is none.
     // A call and no operator[]: clang 14 refuses one that is consteval in every template.
     consteval const Message& operator()(std::string_view code) const {
-        const auto found = std::ranges::find(messages_, code, &Message::code);
+        const auto found = find(code);
         if (found == end()) {
             noMessageHasThisCode();
         }
@@ -58,12 +58,16 @@ private:
     static void aCodeStandsTwice();
     static void aSentenceIsEmptyOrItsPlaceholdersAreNotClosed();
 
+    constexpr auto find(std::string_view code) const {
+        return std::find_if(begin(), end(), [code](const Message& message) { return message.code == code; });
+    }
+
     constexpr void check() const {
         for (auto message = begin(); message != end(); ++message) {
             if (!isCode(message->code)) {
                 aCodeIsNotLowerCaseWordsWithHyphens();
             }
-            if (std::ranges::find(begin(), message, message->code, &Message::code) != message) {
+            if (find(message->code) != message) {
                 aCodeStandsTwice();
             }
             if (!isSentence(message->sentence)) {
