@@ -62,7 +62,7 @@ TEST(Hash, TellsApartWordsThatWereChosenToChangePlaces) {
 std::size_t mostInOnePlace(const std::vector<std::string>& typeIds, unsigned shift) {
     std::vector<std::size_t> counts(typeIds.size());
     for (const std::string& typeId : typeIds) {
-        ++counts[(hashOf(typeId) >> shift) % counts.size()];
+        ++counts[static_cast<std::size_t>((hashOf(typeId) >> shift) % counts.size())];
     }
     return *std::max_element(counts.begin(), counts.end());
 }

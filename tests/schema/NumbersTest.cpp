@@ -50,7 +50,7 @@ private:
 
 std::string randomDigits(std::mt19937_64& random, std::size_t maxCount) {
     std::string digits;
-    for (std::size_t count = 1 + random() % maxCount; count > 0; --count) {
+    for (std::uint64_t count = 1 + random() % maxCount; count > 0; --count) {
         digits += static_cast<char>('0' + random() % 10);
     }
     return digits;
