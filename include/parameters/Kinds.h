@@ -14,6 +14,16 @@
 #include <type_traits>
 #include <utility>
 
+// Headers of window systems make macros of such names, which are put aside here.
+#pragma push_macro("None")
+#pragma push_macro("Bool")
+#pragma push_macro("Int")
+#pragma push_macro("String")
+#undef None
+#undef Bool
+#undef Int
+#undef String
+
 namespace Parameters {
 
 /// @addtogroup kinds
@@ -479,3 +489,8 @@ PARAMETERS_EXPORT std::optional<KindInfo> findKindOfId(std::string_view id) noex
 /// @}
 
 } // namespace Parameters
+
+#pragma pop_macro("String")
+#pragma pop_macro("Int")
+#pragma pop_macro("Bool")
+#pragma pop_macro("None")
