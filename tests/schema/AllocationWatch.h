@@ -12,6 +12,8 @@ public:
 
     /// Whether requests are seen: the thread sanitizer and valgrind do not let a program replace operator new.
     static bool works();
+    /// Whether what an operation asks for inside a library is seen: a DLL has an operator new of its own.
+    static bool sees(const std::function<void()>& operation);
 
     /// Lets the request of that number fail, counted from 0.
     explicit AllocationWatch(long failingRequest = none);

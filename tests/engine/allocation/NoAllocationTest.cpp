@@ -39,7 +39,7 @@ long requestsOf(Read&& read) {
 class Reading : public testing::Test {
 protected:
     void SetUp() override {
-        if (!Ostra::AllocationWatch::works()) {
+        if (!Ostra::AllocationWatch::sees([] { const ParametersEngine engine; })) {
             GTEST_SKIP() << "requests for memory are not seen in this build";
         }
     }
