@@ -1,0 +1,4 @@
+# Linux, 64 bits, the greatest byte first.
+set(OSTRA_PROCESSOR s390x)
+include(${CMAKE_CURRENT_LIST_DIR}/CrossDebian.cmake)
+set(CMAKE_CROSSCOMPILING_EMULATOR qemu-s390x -L /usr/${triple})
