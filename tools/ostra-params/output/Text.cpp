@@ -63,6 +63,18 @@ std::string readable(std::string_view text) {
     return result += text;
 }
 
+std::u32string charactersOf(std::string_view text) {
+    constexpr char32_t beyondAll = 0x110000;
+    std::u32string characters;
+    while (!text.empty()) {
+        unsigned character = 0;
+        const std::size_t length = lengthOfCharacter(text, character);
+        characters += length == 0 ? beyondAll + static_cast<unsigned char>(text.front()) : character;
+        text.remove_prefix(std::max<std::size_t>(length, 1));
+    }
+    return characters;
+}
+
 std::string lower(std::string_view text) {
     std::string result(text);
     for (char& character : result) {

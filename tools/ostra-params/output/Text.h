@@ -21,6 +21,9 @@ std::size_t findInvalid(std::string_view text);
 /// Returns the text with a replacement character for each byte that is no UTF-8.
 std::string readable(std::string_view text);
 
+/// Returns the characters of a text; a byte that is no UTF-8 is a character of its own, which Unicode does not have.
+std::u32string charactersOf(std::string_view text);
+
 /// Returns the text with the letters of ASCII in lower case.
 std::string lower(std::string_view text);
 

@@ -2,11 +2,10 @@
 #include "output/Json.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
+#include "verbs/NamePattern.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
-
-#include <fnmatch.h>
 
 #include <algorithm>
 #include <memory>
@@ -23,18 +22,18 @@ struct Options {
 };
 
 /// A pattern without a wildcard may stand anywhere in a name.
-bool matches(const std::string& name, const std::string& pattern) {
-    const bool isPlain = pattern.find_first_of("*?[") == std::string::npos;
-    const std::string whole = isPlain ? "*" + pattern + "*" : pattern;
-    return ::fnmatch(whole.c_str(), name.c_str(), FNM_CASEFOLD) == 0;
+NamePattern patternOf(const std::string& text) {
+    const bool isPlain = text.find_first_of("*?[") == std::string::npos;
+    return NamePattern(isPlain ? "*" + text + "*" : text);
 }
 
 std::vector<const Object*> select(const Catalogue& catalogue, const Options& options) {
+    const NamePattern pattern = patternOf(options.name);
     std::vector<const Object*> selected;
     for (const Object& object : catalogue.objects()) {
         const auto isOf = [&](const std::string& word) { return isMeant(*object.section, word); };
         const bool isOfKind = options.kinds.empty() || std::ranges::any_of(options.kinds, isOf);
-        if (isOfKind && (options.name.empty() || matches(object.name, options.name))) {
+        if (isOfKind && (options.name.empty() || pattern.matches(object.name))) {
             selected.push_back(&object);
         }
     }
