@@ -13,6 +13,7 @@ struct Rule {
     std::string_view folder;
     std::vector<std::string_view> ours;
     bool mayUseThirdParties;
+    bool mayUseSystem = true; ///< Headers that are not on every system.
 };
 
 const std::vector<Rule> rules = {
@@ -23,7 +24,8 @@ const std::vector<Rule> rules = {
     {"include/", {"parameters/", "units/"}, false},
     {"units/include/", {"units/"}, false},
     {"units/src/", {"schema/", "units/"}, true},
-    {"tools/", {"parameters/", "units/", "schema/Spelling.h"}, true},
+    {"tools/ostra-params/system/", {}, true},
+    {"tools/", {"parameters/", "units/", "schema/Spelling.h"}, true, false},
 };
 
 const std::vector<std::string_view> rooms = {"engine/", "model/", "schema/", "parameters/", "units/"};
@@ -33,7 +35,14 @@ bool startsWithOneOf(std::string_view name, const std::vector<std::string_view>&
                        [&](std::string_view beginning) { return name.starts_with(beginning); });
 }
 
+bool isOfSystem(std::string_view name) {
+    return name.starts_with("sys/") || (name.ends_with(".h") && name.find('/') == std::string_view::npos);
+}
+
 bool isAllowed(std::string_view name, const Rule& rule) {
+    if (isOfSystem(name) && !rule.mayUseSystem) {
+        return false;
+    }
     if (startsWithOneOf(name, rule.ours)) {
         return true;
     }

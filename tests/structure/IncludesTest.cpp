@@ -66,6 +66,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Include{"OfADocumentInTheUnits", "units/src/UnitsEngine.cpp", "#include \"schema/Schema.h\""},
                     Include{"OfAUnitInAPublicHeader", "include/parameters/MeasurableSpec.h", "#include <units/Unit.h>"},
                     Include{"OfFormattingInTheHeaderForIt", "include/parameters/Format.h", "#include <fmt/format.h>"},
+                    Include{"OfTheSystemInItsRoomOfTheTool", "tools/ostra-params/system/Posix.cpp",
+                            "#include <unistd.h>"},
                     Include{"OfTheStandardLibraryInAPublicHeader", "include/parameters/Taxon.h", "#include <string>"}),
     Support::nameOfRow);
 
@@ -95,6 +97,8 @@ INSTANTIATE_TEST_SUITE_P(
         Include{"OfTheParserInTheHeaderForFormatting", "include/parameters/Format.h", "#include <rapidjson/reader.h>"},
         Include{"OfADocumentInAPublicHeader", "include/parameters/Taxon.h", "#include \"schema/JSON.h\""},
         Include{"OfAParameterInAPublicHeaderOfTheUnits", "units/include/units/Unit.h", "#include <parameters/Taxon.h>"},
+        Include{"OfTheSystemInAVerb", "tools/ostra-params/verbs/List.cpp", "#include <fnmatch.h>"},
+        Include{"OfTheSystemsFoldersInAVerb", "tools/ostra-params/verbs/List.cpp", "#include <sys/stat.h>"},
         Include{"OfTheLibrarysInternalsInATool", "tools/ostra-params/main.cpp", "#include \"schema/JSON.h\""}),
     Support::nameOfRow);
 

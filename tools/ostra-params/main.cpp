@@ -1,11 +1,11 @@
 #include "output/OutputFile.h"
 #include "output/Text.h"
+#include "system/System.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
 
 #include <array>
-#include <clocale>
 #include <cstdio>
 #include <exception>
 #include <map>
@@ -27,28 +27,29 @@ constexpr std::array verbs{Tool::addCheck,  Tool::addList, Tool::addShow,  Tool:
                            Tool::addExport, Tool::addDiff, Tool::addReport};
 
 /// Returns what to say of a verb that there is not; the library that reads the arguments takes it for a missing one.
-std::string noVerb(const CLI::App& program, const char* argument) {
-    if (argument == nullptr || *argument == '-') {
+std::string noVerb(const CLI::App& program, const std::vector<std::string>& arguments) {
+    if (arguments.empty() || arguments.front().starts_with('-')) {
         return "a verb is required";
     }
     std::vector<std::string_view> names;
     for (const CLI::App* verb : program.get_subcommands([](const CLI::App*) { return true; })) {
         names.emplace_back(verb->get_name());
     }
-    return Tool::thereIsNo("verb", argument, names);
+    return Tool::thereIsNo("verb", arguments.front(), names);
 }
 
 /// Says what is wrong with the arguments.
-void complain(const CLI::App& program, const CLI::ParseError& error, const char* argument) {
+void complain(const CLI::App& program, const CLI::ParseError& error, const std::vector<std::string>& arguments) {
     const std::vector<CLI::App*> chosen = program.get_subcommands();
     const bool isMissing = dynamic_cast<const CLI::RequiredError*>(&error) != nullptr && chosen.empty();
-    Tool::printError("ostra-params: " + (isMissing ? noVerb(program, argument) : Tool::printable(error.what())) +
+    Tool::printError("ostra-params: " + (isMissing ? noVerb(program, arguments) : Tool::printable(error.what())) +
                      "\n\"ostra-params" + (chosen.empty() ? "" : " " + chosen.front()->get_name()) +
                      " --help\" tells more.\n");
 }
 
-int run(int argc, char** argv) {
+int run(const std::vector<std::string>& arguments) {
     CLI::App program{"Tools for people who write and review parameter catalogues", "ostra-params"};
+    program.allow_windows_style_options(false); // which paths may look like
     program.set_version_flag("--version", std::string("ostra-params ") + OSTRA_PARAMETERS_VERSION);
     program.footer(footer);
     program.get_formatter()->label("SUBCOMMAND", "VERB");
@@ -63,12 +64,12 @@ int run(int argc, char** argv) {
     }
 
     try {
-        program.parse(argc, argv);
+        program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend())); // as it wants them
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() == 0) { // help, or the version
             return program.exit(error);
         }
-        complain(program, error, argv[1]);
+        complain(program, error, arguments);
         return Tool::Unusable;
     }
     return actions.at(program.get_subcommands().front())();
@@ -77,9 +78,8 @@ int run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
-    std::setlocale(LC_CTYPE, "C.UTF-8"); // for patterns of names
     try {
-        const int code = run(argc, argv);
+        const int code = run(Tool::System::begin(argc, argv));
         if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
             throw Tool::OutputError("Cannot write the result.");
         }

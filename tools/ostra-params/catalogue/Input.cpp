@@ -2,10 +2,9 @@
 
 #include "output/Json.h"
 #include "output/Text.h"
+#include "system/System.h"
 
 #include <fmt/format.h>
-
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -34,17 +33,19 @@ namespace fs = std::filesystem;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 [[noreturn]] void failToRead(const std::string& path, const std::error_code& reason) {
-    throw InputError(fmt::format("Cannot read {}: {}.", printable(nameOf(path)), reason.message()));
+    throw InputError(fmt::format("Cannot read {}: {}.", printable(nameOf(path)), System::messageOf(reason)));
 }
 
 std::error_code lastError() { return {errno, std::generic_category()}; }
 
 bool holdsLines(const fs::path& file) {
-    const std::string extension = lower(file.extension().string());
+    const std::string extension = lower(System::textOf(file.extension()));
     return extension == ".ndjson" || extension == ".jsonl";
 }
 
-bool isSchemaFile(const fs::path& file) { return lower(file.extension().string()) == ".json" || holdsLines(file); }
+bool isSchemaFile(const fs::path& file) {
+    return lower(System::textOf(file.extension())) == ".json" || holdsLines(file);
+}
 
 /// Returns the path of the file of which that of this path is a copy, by its name; empty when it does not look like
 /// one.
@@ -53,7 +54,7 @@ std::string originalOf(const std::string& path) {
                                  R"(|[._-](bak|backup|orig|old|copy))?(\.[^.]*))",
                                  std::regex::icase);
     constexpr std::size_t longest = 1000; // it takes stack for each character
-    const std::string name = lower(fs::path(path).filename().string());
+    const std::string name = lower(System::textOf(System::pathOf(path).filename()));
     const auto isIn = [&](const char* sign) { return name.find(sign) != std::string::npos; };
     const bool isCopy =
         path.size() <= longest && std::ranges::any_of(std::array{"copy", "bak", "back", "orig", "old", " ("}, isIn);
@@ -77,13 +78,13 @@ public:
         std::error_code error;
         if (fs::is_symlink(file, error)) {
             const fs::path target = fs::canonical(file, error);
-            return seen_.insert(error ? file : target).second;
+            return seen_.insert(System::textOf(error ? file : target)).second;
         }
         if (folder_ != file.parent_path()) { // which is that of many files in turn
             folder_ = file.parent_path();
             canonicalFolder_ = fs::canonical(folder_.empty() ? "." : folder_, error);
         }
-        return seen_.insert(canonicalFolder_ / file.filename()).second;
+        return seen_.insert(System::textOf(canonicalFolder_ / file.filename())).second;
     }
 
 private:
@@ -98,7 +99,7 @@ public:
     explicit Progress(const std::deque<std::string>& files) {
         for (const std::string& file : files) {
             std::error_code unknown; // the size of standard input, for one
-            const std::uintmax_t size = isShown_ ? fs::file_size(file, unknown) : 0;
+            const std::uintmax_t size = isShown_ ? fs::file_size(System::pathOf(file), unknown) : 0;
             total_ += unknown ? 0 : size;
         }
     }
@@ -130,7 +131,7 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
-    bool isShown_ = ::isatty(STDERR_FILENO) == 1; // whether anybody could see it
+    bool isShown_ = System::canDraw(); // whether anybody could see it
     bool isDrawn_ = false;
     std::uintmax_t total_ = 0;
     Clock::time_point nextDrawing_ = Clock::now() + std::chrono::seconds(1);
@@ -166,7 +167,7 @@ Input::Input(const std::vector<std::string>& paths) {
     }
     if (mayRepeat_) {
         Once once;
-        std::erase_if(files_, [&](const std::string& file) { return !once.isNew(file); });
+        std::erase_if(files_, [&](const std::string& file) { return !once.isNew(System::pathOf(file)); });
     }
     putCopiesLast(files_);
     Progress progress(files_);
@@ -182,18 +183,19 @@ std::size_t Input::numberOf(const std::string& key) {
     return number;
 }
 
-void Input::find(const std::string& path) {
+void Input::find(const std::string& name) {
+    const fs::path path = System::pathOf(name);
     std::error_code error;
-    const fs::file_status status = path == standardInput ? fs::file_status() : fs::status(path, error);
+    const fs::file_status status = name == standardInput ? fs::file_status() : fs::status(path, error);
     if (error) {
-        failToRead(path, error);
+        failToRead(name, error);
     }
     if (fs::is_directory(status)) {
         findBelow(path);
-    } else if (path == standardInput || isSchemaFile(path)) {
-        files_.push_back(path);
+    } else if (name == standardInput || isSchemaFile(path)) {
+        files_.push_back(System::textOf(path));
     } else {
-        throw InputError(fmt::format("{} is neither a folder nor a .json or .ndjson file.", printable(path)));
+        throw InputError(fmt::format("{} is neither a folder nor a .json or .ndjson file.", printable(name)));
     }
 }
 
@@ -209,21 +211,21 @@ void Input::findBelow(const fs::path& top) {
             std::error_code unknown; // as of a link that leads nowhere
             const bool isFolder = entry->is_directory(unknown);
             mayRepeat_ = mayRepeat_ || entry->is_symlink(unknown);
-            if (path.filename().string().front() == '.' || (isFolder && entry->is_symlink(unknown))) {
+            if (path.filename().native().front() == '.' || (isFolder && entry->is_symlink(unknown))) {
                 continue;
             }
             if (isFolder) {
                 folders.push_back(path);
             } else if (isSchemaFile(path)) {
-                found.push_back(path.string());
+                found.push_back(System::textOf(path));
             }
         }
         if (error) {
-            found.push_back(folder.string()); // to be refused when it is its turn to be read
+            found.push_back(System::textOf(folder)); // to be refused when it is its turn to be read
         }
     }
     if (found.empty()) {
-        throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(top.string())));
+        throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(System::textOf(top))));
     }
     std::ranges::sort(found, [](const std::string& one, const std::string& other) {
         // As paths are compared, name by name, at a fraction of the cost.
@@ -235,8 +237,9 @@ void Input::findBelow(const fs::path& top) {
 
 void Input::read(const std::string& file) {
     errno = 0;
-    std::ifstream stream(file, std::ios::binary);
-    if (stream && holdsLines(file)) {
+    const fs::path path = System::pathOf(file);
+    std::ifstream stream(path, std::ios::binary);
+    if (stream && holdsLines(path)) {
         readLines(stream, file);
     } else if (stream) {
         std::string text = readAll(stream);
@@ -247,9 +250,9 @@ void Input::read(const std::string& file) {
     if (stream.bad() || !stream.is_open()) {
         std::error_code error = lastError();
         if (error == std::errc::is_a_directory) { // which could not be searched, for a reason of its own
-            std::ignore = fs::directory_iterator(file, error);
+            std::ignore = fs::directory_iterator(path, error);
         }
-        failures_.push_back({&file, error.message(), sources_.size()});
+        failures_.push_back({&file, System::messageOf(error), sources_.size()});
     }
 }
 

@@ -49,7 +49,7 @@ public:
     static std::size_t numberOf(const std::string& key);
 
 private:
-    void find(const std::string& path);
+    void find(const std::string& name);
     void findBelow(const std::filesystem::path& top);
     void read(const std::string& file);
     void readLines(std::istream& stream, const std::string& file);

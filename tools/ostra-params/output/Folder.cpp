@@ -2,12 +2,10 @@
 
 #include "catalogue/Sections.h"
 #include "output/Text.h"
+#include "system/System.h"
 
 #include <fmt/format.h>
 
-#include <unistd.h>
-
-#include <cerrno>
 #include <cstdint>
 #include <iterator>
 #include <map>
@@ -23,11 +21,11 @@ namespace fs = std::filesystem;
 class FolderAside {
 public:
     explicit FolderAside(const fs::path& target) {
-        std::string name = target.string() + ".XXXXXX";
-        if (::mkdtemp(name.data()) == nullptr) {
-            failToWrite(target, {errno, std::generic_category()});
+        try {
+            path_ = System::makeFolderBeside(target);
+        } catch (const std::system_error& error) {
+            failToWrite(target, error.code());
         }
-        path_ = name;
     }
     FolderAside(const FolderAside&) = delete;
     FolderAside& operator=(const FolderAside&) = delete;
@@ -43,7 +41,7 @@ private:
 
 bool isFromAnExport(const fs::path& folder, const fs::directory_entry& entry) {
     const fs::path relative = entry.path().lexically_relative(folder);
-    const bool isInSection = findSection(&Section::id, relative.begin()->string()) != nullptr;
+    const bool isInSection = findSection(&Section::id, System::textOf(*relative.begin())) != nullptr;
     const auto depth = std::distance(relative.begin(), relative.end());
     return isInSection && !entry.is_symlink() &&
            (entry.is_directory() ? depth == 1 : depth == 2 && entry.path().extension() == ".json");
@@ -52,12 +50,13 @@ bool isFromAnExport(const fs::path& folder, const fs::directory_entry& entry) {
 void mustBeReplaceable(const fs::path& folder) {
     std::error_code error;
     if (fs::equivalent(folder, fs::current_path(), error)) { // which the shell would go on to look for
-        throw OutputError(fmt::format("{} is not replaced: it is the working folder.", printable(folder.string())));
+        throw OutputError(
+            fmt::format("{} is not replaced: it is the working folder.", printable(System::textOf(folder))));
     }
     for (fs::recursive_directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
         if (!isFromAnExport(folder, *entry)) {
-            throw OutputError(fmt::format("{} is not replaced: {} is not from an export.", printable(folder.string()),
-                                          printable(entry->path().string())));
+            throw OutputError(fmt::format("{} is not replaced: {} is not from an export.",
+                                          printable(System::textOf(folder)), printable(System::textOf(entry->path()))));
         }
     }
     if (error) {
@@ -82,7 +81,8 @@ std::string fileNameOf(const std::string& text, std::set<std::uint64_t>& digests
 
 } // namespace
 
-void replaceFolder(const fs::path& folder, const std::vector<FolderEntry>& entries) {
+void replaceFolder(const std::string& name, const std::vector<FolderEntry>& entries) {
+    const fs::path folder = System::pathOf(name);
     std::error_code error;
     const bool isThere = fs::exists(folder, error);
     if (isThere) {
@@ -99,7 +99,9 @@ void replaceFolder(const fs::path& folder, const std::vector<FolderEntry>& entri
         std::map<std::string, std::set<std::uint64_t>> digests; // of the names in each folder
         for (const FolderEntry& entry : entries) {
             fs::create_directory(fresh / entry.folder);
-            writeTo(fresh / entry.folder / (fileNameOf(entry.name, digests[entry.folder]) + ".json"), entry.content);
+            OutputFile file(fresh / entry.folder / (fileNameOf(entry.name, digests[entry.folder]) + ".json"));
+            file.write(entry.content);
+            file.commit();
         }
         if (isThere) {
             fs::rename(target, old);

@@ -2,12 +2,9 @@
 
 #include "output/OutputFile.h"
 #include "output/Text.h"
+#include "system/System.h"
 
 #include <fmt/format.h>
-
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -15,7 +12,6 @@
 #include <iterator>
 #include <optional>
 #include <sstream>
-#include <utility>
 
 namespace Tool {
 
@@ -34,16 +30,6 @@ std::string labelOf(const Graph::Node& node) {
         }
     }
     return "\"" + lines + "\"";
-}
-
-/// Runs a program and returns whether it came to a good end.
-bool run(std::vector<std::string> arguments) {
-    std::vector<char*> pointers(arguments.size() + 1); // the last one null
-    std::ranges::transform(arguments, pointers.begin(), [](std::string& argument) { return argument.data(); });
-    pid_t process = 0;
-    int status = 0;
-    return ::posix_spawnp(&process, pointers.front(), nullptr, nullptr, pointers.data(), environ) == 0 &&
-           ::waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 } // namespace
@@ -68,13 +54,13 @@ std::string toDot(Graph graph) {
 void writeSvg(const Graph& graph, const std::string& file) {
     const OutputFile dot(std::filesystem::temp_directory_path() / "ostra-params.dot");
     dot.write(toDot(graph));
-    std::vector<std::string> arguments{"dot", "-Tsvg", dot.path().string()};
+    std::vector<std::string> arguments{"-Tsvg", System::textOf(dot.path())};
     std::optional<OutputFile> svg;
     if (file != "-") {
-        svg.emplace(file.front() == '-' ? "./" + file : file); // no name is taken for an option
-        arguments.insert(arguments.end(), {"-o", svg->path().string()});
+        svg.emplace(System::pathOf(file.front() == '-' ? "./" + file : file)); // no name is taken for an option
+        arguments.insert(arguments.end(), {"-o", System::textOf(svg->path())});
     }
-    if (!run(std::move(arguments))) {
+    if (!System::run("dot", arguments)) {
         throw OutputError(fmt::format("Cannot draw {}: Graphviz's program dot is missing or failed.", printable(file)));
     }
     if (svg) {

@@ -1,11 +1,9 @@
 #include "output/OutputFile.h"
 
 #include "output/Text.h"
+#include "system/System.h"
 
 #include <fmt/format.h>
-
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
@@ -26,32 +24,18 @@ fs::path followed(fs::path path) {
     return target.empty() ? std::move(path) : std::move(target);
 }
 
-/// Returns the permissions that a file has, or those of any new file, not for its owner alone.
-mode_t permissionsOf(const fs::file_status& status) {
-    if (fs::is_regular_file(status)) {
-        return static_cast<mode_t>(status.permissions()) & 0777U;
-    }
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return 0666U & ~mask;
-}
-
 } // namespace
 
 OutputFile::OutputFile(fs::path target) : target_(followed(std::move(target))) {
     std::error_code unknown; // as of a folder that is not there, which is found out below
-    const fs::file_status status = fs::status(target_, unknown);
-    if (fs::is_other(status)) {
+    if (fs::is_other(target_, unknown)) {
         return;
     }
-    std::string name = target_.string() + ".XXXXXX";
-    const int descriptor = ::mkstemp(name.data());
-    if (descriptor < 0) {
-        failToWrite(target_, {errno, std::generic_category()});
+    try {
+        aside_ = System::makeFileBeside(target_);
+    } catch (const std::system_error& error) {
+        failToWrite(target_, error.code());
     }
-    ::fchmod(descriptor, permissionsOf(status));
-    ::close(descriptor);
-    aside_ = name;
 }
 
 OutputFile::~OutputFile() {
@@ -83,12 +67,12 @@ void OutputFile::commit() {
     aside_.clear();
 }
 
-void writeTo(const fs::path& file, std::string_view content) {
+void writeTo(const std::string& file, std::string_view content) {
     if (file == standardOutput) {
         print(content);
         return;
     }
-    OutputFile output(file);
+    OutputFile output(System::pathOf(file));
     output.write(content);
     output.commit();
 }
@@ -102,7 +86,7 @@ void print(std::string_view text) {
 void printError(std::string_view text) { std::ignore = std::fwrite(text.data(), 1, text.size(), stderr); }
 
 void failToWrite(const fs::path& path, const std::error_code& reason) {
-    throw OutputError(fmt::format("Cannot write {}: {}.", printable(path.string()), reason.message()));
+    throw OutputError(fmt::format("Cannot write {}: {}.", printable(System::textOf(path)), System::messageOf(reason)));
 }
 
 } // namespace Tool

@@ -47,7 +47,7 @@ constexpr std::string_view standardOutput = "-";
 
 /// Writes a file as a whole, or not at all; or to standard output.
 /// @throws OutputError
-void writeTo(const std::filesystem::path& file, std::string_view content);
+void writeTo(const std::string& file, std::string_view content);
 
 /// A .json file to be written, one folder down.
 struct FolderEntry {
@@ -58,7 +58,7 @@ struct FolderEntry {
 
 /// Replaces a folder by one that holds these files and nothing else; the old one stays until the new one is whole.
 /// @throws OutputError if that fails, or the folder holds what such a replacement would not have written.
-void replaceFolder(const std::filesystem::path& folder, const std::vector<FolderEntry>& entries);
+void replaceFolder(const std::string& name, const std::vector<FolderEntry>& entries);
 
 /// Writes to standard output.
 /// @throws OutputError

@@ -5,6 +5,7 @@
 #include "faults/Rules.h"
 #include "output/Json.h"
 #include "output/Text.h"
+#include "system/System.h"
 
 #include <fmt/format.h>
 
@@ -90,9 +91,14 @@ Json asJson(const Finding& finding) {
 
 /// Returns a path as a URI: relative where the path is, so that it means the same in another checkout.
 std::string uriOf(const std::string& path) {
-    const std::filesystem::path file(path);
-    const std::string normal = (path == standardInput ? file : file.lexically_normal()).generic_string();
-    return (file.is_absolute() ? "file://" : "") + percentEncoded(normal, "/-._~");
+    const std::filesystem::path file = System::pathOf(path);
+    const std::string normal = System::textOf(path == standardInput ? file : file.lexically_normal());
+    if (!file.is_absolute()) {
+        return percentEncoded(normal, "/-._~");
+    }
+    const std::string root = System::textOf(file.root_name()); // such as C: or //server, where there are such
+    const std::string scheme = root.starts_with("//") ? "file:" : root.empty() ? "file://" : "file:///";
+    return scheme + root + percentEncoded(normal.substr(root.size()), "/-._~");
 }
 
 Json locationOf(const Place& place) {

@@ -1,6 +1,7 @@
 #include "catalogue/Catalogue.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
+#include "system/System.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
@@ -42,7 +43,7 @@ std::vector<FolderEntry> files(const Catalogue& catalogue) {
 
 /// @throws OutputError for what is most likely meant to be a file and would be a folder.
 bool isFolder(const std::string& output) {
-    const std::filesystem::path path(output);
+    const std::filesystem::path path = System::pathOf(output);
     if (path.extension() == ".json" && !std::filesystem::is_directory(path)) {
         throw OutputError(fmt::format("Cannot write {}: a .json file holds one schema; .ndjson files hold many, and so "
                                       "do folders, of any other name.",

@@ -1,0 +1,74 @@
+#include "system/System.h"
+
+#include <spawn.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace Tool::System {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Returns the beginning of a name that mkstemp and mkdtemp make another one of each time.
+std::string patternBeside(const fs::path& target) { return target.string() + ".XXXXXX"; }
+
+[[noreturn]] void fail() { throw std::system_error(errno, std::generic_category()); }
+
+/// Returns the permissions that a file has, or those of any new file, not for its owner alone.
+mode_t permissionsOf(const fs::path& file) {
+    std::error_code unknown; // as of a file that is not there
+    const fs::file_status status = fs::status(file, unknown);
+    if (fs::is_regular_file(status)) {
+        return static_cast<mode_t>(status.permissions()) & 0777U;
+    }
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666U & ~mask;
+}
+
+} // namespace
+
+std::vector<std::string> begin(int argc, const char* const* argv) { return {argv + std::min(argc, 1), argv + argc}; }
+
+fs::path pathOf(std::string_view name) { return name; }
+
+std::string textOf(const fs::path& path) { return path.string(); }
+
+bool canDraw() { return ::isatty(STDERR_FILENO) == 1; }
+
+fs::path makeFileBeside(const fs::path& target) {
+    std::string name = patternBeside(target);
+    const int descriptor = ::mkstemp(name.data());
+    if (descriptor < 0) {
+        fail();
+    }
+    ::fchmod(descriptor, permissionsOf(target));
+    ::close(descriptor);
+    return name;
+}
+
+fs::path makeFolderBeside(const fs::path& target) {
+    std::string name = patternBeside(target);
+    if (::mkdtemp(name.data()) == nullptr) {
+        fail();
+    }
+    return name;
+}
+
+bool run(const std::string& program, const std::vector<std::string>& arguments) {
+    std::vector<std::string> words{program};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<char*> pointers(words.size() + 1); // the last one null
+    std::ranges::transform(words, pointers.begin(), [](std::string& word) { return word.data(); });
+    pid_t process = 0;
+    int status = 0;
+    return ::posix_spawnp(&process, pointers.front(), nullptr, nullptr, pointers.data(), environ) == 0 &&
+           ::waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+} // namespace Tool::System

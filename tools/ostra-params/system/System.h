@@ -1,0 +1,40 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+/// What is done in another way on each system. All texts are UTF-8, or whatever bytes a system takes for a name.
+namespace Tool::System {
+
+/// Makes the standard streams carry bytes as they are, and returns the arguments behind the name of the program.
+std::vector<std::string> begin(int argc, const char* const* argv);
+
+/// Returns the path of a name.
+std::filesystem::path pathOf(std::string_view name);
+
+/// Returns the name of a path, with / between its parts on every system.
+std::string textOf(const std::filesystem::path& path);
+
+/// Returns what is said of a failure, in the same words on every system if the standard has some for it.
+inline std::string messageOf(const std::error_code& failure) { return failure.default_error_condition().message(); }
+
+/// Returns whether standard error is a terminal on which a line can be drawn again.
+bool canDraw();
+
+/// Makes an empty file beside another one that it shall replace, with that one's permissions or, if there is none,
+/// those of any new file. Returns its path.
+/// @throws std::system_error
+std::filesystem::path makeFileBeside(const std::filesystem::path& target);
+
+/// Makes an empty folder beside a file or folder. Returns its path.
+/// @throws std::system_error
+std::filesystem::path makeFolderBeside(const std::filesystem::path& target);
+
+/// Runs a program that is found where the system looks for programs, with these arguments behind its name, and returns
+/// whether it came to a good end.
+bool run(const std::string& program, const std::vector<std::string>& arguments);
+
+} // namespace Tool::System

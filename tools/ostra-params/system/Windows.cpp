@@ -1,0 +1,150 @@
+#include "system/System.h"
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+// What it needs stands above.
+#include <fcntl.h>
+#include <io.h>
+#include <shellapi.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <random>
+
+namespace Tool::System {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Returns a text as the system takes it. What is no UTF-8 becomes a replacement character, so that nothing fails here.
+std::wstring wide(std::string_view text) {
+    const auto convert = [&](wchar_t* result, int size) {
+        return ::MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result, size);
+    };
+    std::wstring result(static_cast<std::size_t>(convert(nullptr, 0)), L'\0');
+    convert(result.data(), static_cast<int>(result.size()));
+    return result;
+}
+
+std::string narrow(std::wstring_view text) {
+    const auto convert = [&](char* result, int size) {
+        return ::WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result, size, nullptr,
+                                     nullptr);
+    };
+    std::string result(static_cast<std::size_t>(convert(nullptr, 0)), '\0');
+    convert(result.data(), static_cast<int>(result.size()));
+    return result;
+}
+
+/// Makes something under a name beside another one that nothing has yet.
+fs::path makeBeside(const fs::path& target, const std::function<bool(const wchar_t*)>& make) {
+    static std::random_device random;
+    for (;;) {
+        const fs::path path = target.native() + L"." + std::to_wstring(random());
+        if (make(path.c_str())) {
+            return path;
+        }
+        const DWORD reason = ::GetLastError();
+        if (reason != ERROR_FILE_EXISTS && reason != ERROR_ALREADY_EXISTS) {
+            throw std::system_error(static_cast<int>(reason), std::system_category());
+        }
+    }
+}
+
+/// Quotes a word of a command line so that programs read it as it is: backslashes are doubled before quotation marks
+/// alone.
+std::wstring asWord(std::wstring_view word) {
+    std::wstring result = L"\"";
+    std::size_t backslashes = 0;
+    for (const wchar_t character : word) {
+        if (character == L'"') {
+            result.append(backslashes + 1, L'\\');
+        }
+        backslashes = character == L'\\' ? backslashes + 1 : 0;
+        result += character;
+    }
+    return result.append(backslashes, L'\\') + L"\"";
+}
+
+/// Returns the file of a program on the path; empty when there is none. The system itself would look in the working
+/// folder first, where anybody may have put a program of that name.
+std::wstring findProgram(const std::wstring& name) {
+    const wchar_t* const folders = ::_wgetenv(L"PATH");
+    const auto search = [&](wchar_t* result, DWORD size) {
+        return folders == nullptr ? 0 : ::SearchPathW(folders, name.c_str(), L".exe", size, result, nullptr);
+    };
+    std::wstring file(search(nullptr, 0), L'\0');
+    file.resize(search(file.data(), static_cast<DWORD>(file.size())));
+    return file;
+}
+
+} // namespace
+
+std::vector<std::string> begin(int, const char* const*) {
+    for (std::FILE* stream : {stdin, stdout, stderr}) {
+        ::_setmode(::_fileno(stream), _O_BINARY);
+    }
+    static const UINT encoding = ::GetConsoleOutputCP(); // which is the console's, and stays when the program is gone
+    if (encoding != 0 && ::SetConsoleOutputCP(CP_UTF8) != 0) {
+        std::atexit([] { ::SetConsoleOutputCP(encoding); });
+    }
+    int count = 0;
+    const std::unique_ptr<wchar_t*, decltype(&::LocalFree)> words(::CommandLineToArgvW(::GetCommandLineW(), &count),
+                                                                  &::LocalFree);
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i) {
+        arguments.push_back(narrow(words.get()[i]));
+    }
+    return arguments;
+}
+
+fs::path pathOf(std::string_view name) { return wide(name); }
+
+std::string textOf(const fs::path& path) { return narrow(path.generic_wstring()); }
+
+bool canDraw() {
+    const HANDLE console = ::GetStdHandle(STD_ERROR_HANDLE);
+    DWORD mode = 0;
+    return ::GetConsoleMode(console, &mode) != 0 &&
+           ::SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
+
+fs::path makeFileBeside(const fs::path& target) {
+    return makeBeside(target, [](const wchar_t* path) {
+        const HANDLE file = ::CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+        return file != INVALID_HANDLE_VALUE && ::CloseHandle(file) != 0;
+    });
+}
+
+fs::path makeFolderBeside(const fs::path& target) {
+    return makeBeside(target, [](const wchar_t* path) { return ::CreateDirectoryW(path, nullptr) != 0; });
+}
+
+bool run(const std::string& program, const std::vector<std::string>& arguments) {
+    const std::wstring file = findProgram(wide(program));
+    std::wstring commandLine = asWord(file);
+    for (const std::string& argument : arguments) {
+        commandLine += L" " + asWord(wide(argument));
+    }
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    if (file.empty() || ::CreateProcessW(file.c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                                         &startup, &process) == 0) {
+        return false;
+    }
+    DWORD exitCode = 1;
+    ::WaitForSingleObject(process.hProcess, INFINITE);
+    ::GetExitCodeProcess(process.hProcess, &exitCode);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    return exitCode == 0;
+}
+
+} // namespace Tool::System
