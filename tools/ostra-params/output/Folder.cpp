@@ -6,6 +6,9 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <array>
+#include <cctype>
 #include <cstdint>
 #include <iterator>
 #include <map>
@@ -64,20 +67,60 @@ void mustBeReplaceable(const fs::path& folder) {
     }
 }
 
-/// Returns a file name for a text, the same on every platform: readable, and another one for each text. A name that
-/// would be too long ends in a digest of the text instead.
-std::string fileNameOf(const std::string& text, std::set<std::uint64_t>& digests) {
-    constexpr std::size_t longest = 200;                                              // file systems take 255 bytes
-    std::string name = percentEncoded(text, text.substr(0, 1) == "." ? "-_" : "-_."); // none is hidden
-    if (name.size() <= longest) {
-        return name;
-    }
-    std::uint64_t digest = digestOf(text);
-    while (!digests.insert(digest).second) {
-        ++digest; // texts of one digest can be made on purpose
-    }
-    return fmt::format("{}%{:016X}", name.substr(0, longest), digest);
+/// Returns whether some system takes a file name for that of a device, which it does whatever stands behind a dot.
+bool isOfDevice(const std::string& name) {
+    constexpr std::array<std::string_view, 4> devices{"con", "prn", "aux", "nul"};
+    const std::string stem = lower(name.substr(0, name.find('.')));
+    const bool isOfPort = stem.size() == 4 && (stem.starts_with("com") || stem.starts_with("lpt")) &&
+                          std::isdigit(static_cast<unsigned char>(stem.back())) != 0;
+    return isOfPort || std::ranges::find(devices, stem) != devices.end();
 }
+
+/// Names the files of one folder by texts: readable, the same on every system, and another one for each text wherever
+/// case does not matter. But for names that are cut, the text can be read back.
+class FileNames {
+public:
+    /// Takes a text to be named, before the first name is asked for.
+    void add(const std::string& text) {
+        if (const std::string name = nameOf(text, true); name.size() <= longest) {
+            ++alike_[lower(name)];
+        }
+    }
+
+    std::string of(const std::string& text) {
+        std::string name = nameOf(text, true);
+        if (name.size() <= longest && alike_[lower(name)] > 1) {
+            name = nameOf(text, false);
+        }
+        if (isOfDevice(name)) {
+            name = encoded(name.substr(0, 1), [](char) { return false; }) + name.substr(1);
+        }
+        return name.size() <= longest ? name : cut(text, name);
+    }
+
+private:
+    static std::string nameOf(const std::string& text, bool hasCapitals) {
+        const std::string_view signs = text.starts_with('.') ? "-_" : "-_."; // none is hidden
+        return encoded(text, [&](char byte) {
+            const auto letter = static_cast<unsigned char>(byte);
+            return signs.find(byte) != std::string_view::npos ||
+                   (std::isalnum(letter) != 0 && (hasCapitals || std::isupper(letter) == 0));
+        });
+    }
+
+    /// Lets a name that is too long end in a digest of its text.
+    std::string cut(const std::string& text, const std::string& name) {
+        std::uint64_t digest = digestOf(text);
+        while (!digests_.insert(digest).second) {
+            ++digest; // texts of one digest can be made on purpose
+        }
+        return fmt::format("{}%{:016X}", name.substr(0, longest), digest);
+    }
+
+    static constexpr std::size_t longest = 200; // file systems take 255 bytes
+    std::map<std::string, int> alike_;          // how many names there are that case alone tells apart
+    std::set<std::uint64_t> digests_;
+};
 
 } // namespace
 
@@ -96,10 +139,13 @@ void replaceFolder(const std::string& name, const std::vector<FolderEntry>& entr
     const fs::path old = aside.path() / "old";
     try {
         fs::create_directory(fresh);
-        std::map<std::string, std::set<std::uint64_t>> digests; // of the names in each folder
+        std::map<std::string, FileNames> names; // of each folder
+        for (const FolderEntry& entry : entries) {
+            names[entry.folder].add(entry.name);
+        }
         for (const FolderEntry& entry : entries) {
             fs::create_directory(fresh / entry.folder);
-            OutputFile file(fresh / entry.folder / (fileNameOf(entry.name, digests[entry.folder]) + ".json"));
+            OutputFile file(fresh / entry.folder / (names[entry.folder].of(entry.name) + ".json"));
             file.write(entry.content);
             file.commit();
         }
