@@ -4,6 +4,26 @@ include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 include(GenerateExportHeader)
 
+# Libraries and programs find the libraries relative to where they lie themselves. Windows looks beside the program.
+if(APPLE)
+    set(ostra_origin @loader_path)
+elseif(UNIX)
+    set(ostra_origin $ORIGIN)
+endif()
+
+# Visual Studio warns that classes of the standard library are no part of a DLL (4251, 4275): whoever uses a C++ library
+# has the standard library that it was built with. In others' projects our headers are those of a system, see below.
+set(ostra_options "")
+set(ostra_header_warnings "")
+if(MSVC)
+    set(ostra_options /W4 /permissive- /utf-8 /EHsc /Zc:__cplusplus /wd4251 /wd4275)
+    set(ostra_header_warnings /W4 /wd4251 /wd4275 /WX)
+elseif(CMAKE_CXX_COMPILER_ID MATCHES "^(GNU|Clang|AppleClang)$")
+    set(ostra_header_warnings -Wall -Wextra -Wpedantic -Wconversion)
+    set(ostra_options ${ostra_header_warnings} -Wshadow)
+    list(APPEND ostra_header_warnings -Werror)
+endif()
+
 # ostra_find_sources(<variable> <folder>): the sources of a folder. They are found, not listed, so that a new kind is
 # its files and nothing else: every source in a folder is built, and no list can forget one.
 function(ostra_find_sources variable folder)
@@ -14,10 +34,7 @@ endfunction()
 # ostra_configure(<target>): language, visibility and warnings of our own sources.
 function(ostra_configure target)
     target_compile_features(${target} PRIVATE cxx_std_20)
-    target_compile_options(
-        ${target}
-        PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Wall -Wextra -Wpedantic -Wconversion -Wshadow>
-    )
+    target_compile_options(${target} PRIVATE ${ostra_options})
     get_target_property(type ${target} TYPE)
     if(OSTRA_PARAMETERS_FUZZERS AND type STREQUAL "OBJECT_LIBRARY") # the libraries' own code
         target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link) # tells fuzzers what an input reaches
@@ -70,20 +87,19 @@ function(ostra_add_library target)
     target_link_libraries(${target} PUBLIC ${arg_LINKS})
     # The target that compiles each public header alone does so with warnings.
     set(is_verification $<STREQUAL:$<TARGET_PROPERTY:NAME>,${target}_verify_interface_header_sets>)
-    target_compile_options(
-        ${target}
-        INTERFACE
-            "$<BUILD_INTERFACE:$<$<AND:${is_verification},$<CXX_COMPILER_ID:GNU,Clang,AppleClang>>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Werror>>"
-    )
+    target_compile_options(${target} INTERFACE "$<BUILD_INTERFACE:$<${is_verification}:${ostra_header_warnings}>>")
     set_target_properties(
         ${target}
         PROPERTIES EXPORT_NAME ${name}
                    VERSION ${PROJECT_VERSION}
                    SOVERSION ${PROJECT_VERSION_MAJOR}
                    VERIFY_INTERFACE_HEADER_SETS ON
-                   INSTALL_RPATH $ORIGIN # the libraries lie side by side
+                   INSTALL_RPATH "${ostra_origin}" # the libraries lie side by side
                    INSTALL_RPATH_USE_LINK_PATH ON # or where the units library was found
     )
+    if(NOT PROJECT_IS_TOP_LEVEL)
+        set_target_properties(${target} PROPERTIES SYSTEM ON) # as it would be if it were installed
+    endif()
     ostra_export_namespace(${target} ${name})
     if(NOT BUILD_SHARED_LIBS)
         target_compile_definitions(${target} PUBLIC ${macro}_STATIC_DEFINE)
