@@ -1,5 +1,7 @@
 # Builds and runs the stranger's project, and the program of README.md, with the libraries got in the way named by WAY.
 
+cmake_minimum_required(VERSION 3.25)
+
 function(run)
     execute_process(COMMAND ${ARGV} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
@@ -171,6 +173,32 @@ elseif(WAY STREQUAL "foreign-units")
     set(ENV{LD_LIBRARY_PATH} ${units}/lib)
     build_stranger(${WORK_DIR}/stranger ${found} -DOstraUnits_ROOT=${units} -DUNITS_ARE_FOREIGN=ON)
     run(${WORK_DIR}/stranger/on_foreign_units)
+elseif(WAY STREQUAL "vcpkg")
+    set(PORT ostra-parameters)
+    file(READ ${SOURCE_DIR}/ports/${PORT}/vcpkg.json port)
+    string(JSON port_version GET "${port}" version)
+    if(NOT port_version STREQUAL VERSION)
+        message(FATAL_ERROR "The port for vcpkg is of version ${port_version}, not ${VERSION}.")
+    endif()
+    set(FEATURES core tool)
+    set(CURRENT_PACKAGES_DIR ${prefix})
+    include(${CMAKE_CURRENT_LIST_DIR}/recipes/vcpkg.cmake)
+    include(${SOURCE_DIR}/ports/${PORT}/portfile.cmake)
+    build_stranger(${WORK_DIR}/stranger ${found})
+    run(${prefix}/tools/${PORT}/ostra-params check ${SOURCE_DIR}/examples/catalogue)
+elseif(WAY STREQUAL "conan")
+    execute_process(
+        COMMAND python3 ${CMAKE_CURRENT_LIST_DIR}/recipes/conan.py ${SOURCE_DIR}/conanfile.py ${WORK_DIR}/build ${prefix}
+                -G ${GENERATOR} -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
+        OUTPUT_VARIABLE told COMMAND_ERROR_IS_FATAL ANY
+    )
+    if(NOT told STREQUAL "ostra-parameters ${VERSION}
+parameters OstraParameters units ostra-parameters
+units OstraUnits ostra-units
+")
+        message(FATAL_ERROR "The package says of itself: ${told}")
+    endif()
+    build_stranger(${WORK_DIR}/stranger ${found})
 else()
     message(FATAL_ERROR "There is no way \"${WAY}\" to get the libraries.")
 endif()
