@@ -1,4 +1,41 @@
-# Debian packages: a library each, what is compiled with it each, and the tool.
+# What cpack makes: Debian packages (a library each, what is compiled with it each, and the tool), or for Windows an
+# archive and an installer of all. OSTRA_PARAMETERS_PACKAGES says where they are for.
+
+set(CPACK_PACKAGE_CONTACT "The maintainers of ${PROJECT_NAME} <maintainers@localhost>")
+set(CPACK_STRIP_FILES ON)
+
+if(WIN32)
+    set(CPACK_GENERATOR ZIP)
+    find_program(OSTRA_PARAMETERS_NSIS makensis PATHS "$ENV{ProgramFiles\(x86\)}/NSIS")
+    if(OSTRA_PARAMETERS_NSIS)
+        list(APPEND CPACK_GENERATOR NSIS)
+    endif()
+    set(CPACK_MONOLITHIC_INSTALL ON)
+    set(CPACK_PACKAGE_NAME ${PROJECT_NAME})
+    set(CPACK_PACKAGE_VENDOR "The maintainers of ${PROJECT_NAME}")
+    set(CPACK_PACKAGE_INSTALL_DIRECTORY ${PROJECT_NAME})
+    set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
+    set(CPACK_NSIS_MODIFY_PATH ON) # where programs look for the libraries and people for the tool
+    set(CPACK_NSIS_ENABLE_UNINSTALL_BEFORE_INSTALL ON)
+    install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME}
+            COMPONENT OstraParameters
+    )
+    # The compiler's own libraries are no part of the system.
+    if(MINGW)
+        foreach(library IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+            execute_process(
+                COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${library} OUTPUT_VARIABLE file
+                OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY
+            )
+            install(FILES ${file} TYPE BIN COMPONENT OstraUnits)
+        endforeach()
+    else()
+        set(CMAKE_INSTALL_SYSTEM_RUNTIME_COMPONENT OstraUnits)
+        include(InstallRequiredSystemLibraries)
+    endif()
+    include(CPack)
+    return()
+endif()
 
 set(release 1)
 set(version ${PROJECT_VERSION}-${release})
@@ -44,9 +81,7 @@ ostra_package(
 set(CPACK_GENERATOR DEB)
 set(CPACK_COMPONENTS_ALL OstraUnits OstraUnits-dev OstraParameters OstraParameters-dev ostra-params)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_PACKAGE_CONTACT "The maintainers of ${PROJECT_NAME} <maintainers@localhost>")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE ${release})
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
