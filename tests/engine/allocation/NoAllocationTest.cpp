@@ -39,7 +39,7 @@ long requestsOf(Read&& read) {
 class Reading : public testing::Test {
 protected:
     void SetUp() override {
-        if (!Ostra::AllocationWatch::sees([] { const ParametersEngine engine; })) {
+        if (!Ostra::AllocationWatch::sees([] { const ParametersEngine other; })) {
             GTEST_SKIP() << "requests for memory are not seen in this build";
         }
     }
