@@ -1,11 +1,9 @@
 #pragma once
 
-#include "schema/Memory.h"
-
-#include <rapidjson/stringbuffer.h>
-#include <rapidjson/writer.h>
-
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -15,42 +13,78 @@ namespace Ostra {
 class JSONWriter {
 public:
     JSONWriter() = default;
+    JSONWriter(const JSONWriter&) = delete;
+    JSONWriter& operator=(const JSONWriter&) = delete;
 
-    void null() { writer_.Null(); }
-    void boolean(bool value) { writer_.Bool(value); }
-    void integer(std::int64_t value) { writer_.Int64(value); }
-    void unsignedInteger(std::uint64_t value) { writer_.Uint64(value); }
+    void null() { word("null"); }
+    void boolean(bool value) { word(value ? std::string_view("true") : "false"); }
+    void integer(std::int64_t value);
+    void unsignedInteger(std::uint64_t value);
     /// Writes a short text that reads back as the same double.
     /// @throws std::domain_error if the number is not finite.
     void number(double value);
     /// @throws std::length_error if the string is too long to be written.
-    void string(std::string_view value) { writer_.string(value); }
+    void string(std::string_view value);
 
-    void beginArray() { writer_.StartArray(); }
-    void endArray() { writer_.EndArray(); }
-    void beginObject() { writer_.StartObject(); }
-    void endObject() { writer_.EndObject(); }
+    void beginArray() { begin('['); }
+    void endArray() { end(']'); }
+    void beginObject() { begin('{'); }
+    void endObject() { end('}'); }
     /// Writes the name of the member whose value comes next.
-    void name(std::string_view name) { writer_.string(name); }
+    void name(std::string_view name) {
+        string(name);
+        *free_++ = ':';
+        needsComma_ = false;
+    }
 
     /// Returns the text of the whole value.
-    std::string text() const { return {buffer_.GetString(), buffer_.GetSize()}; }
+    std::string text() const { return {begin_, size()}; }
 
 private:
-    using Buffer = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, JSONPool>;
+    static constexpr std::size_t slack = 2; // what may always be written: the mark before or behind a value
 
-    /// RapidJSON's writer, with strings copied in one go where nothing in them needs an escape.
-    class Writer : public rapidjson::Writer<Buffer, rapidjson::UTF8<>, rapidjson::UTF8<>, JSONPool> {
-    public:
-        using rapidjson::Writer<Buffer, rapidjson::UTF8<>, rapidjson::UTF8<>, JSONPool>::Writer;
-        void string(std::string_view value);
-    };
+    std::size_t size() const { return static_cast<std::size_t>(free_ - begin_); }
+    /// Makes room for so many characters and the slack behind them.
+    void reserve(std::size_t count) {
+        // No sum of a pointer: a buffer near the end of memory must not be taken for one with room.
+        if (static_cast<std::size_t>(end_ - free_) < count + slack) [[unlikely]] {
+            enlarge(count + slack);
+        }
+    }
+    void enlarge(std::size_t count);
 
-    static constexpr std::size_t usualSize = 4096;
+    /// Begins a value of so many characters, and those that follow it.
+    void beginValue(std::size_t count) {
+        reserve(count + 1);
+        if (needsComma_) {
+            *free_++ = ',';
+        }
+        needsComma_ = true;
+    }
+    void begin(char bracket) {
+        beginValue(1);
+        *free_++ = bracket;
+        needsComma_ = false;
+    }
+    void end(char bracket) {
+        reserve(1);
+        *free_++ = bracket;
+        needsComma_ = true;
+    }
+    void word(std::string_view word) {
+        beginValue(word.size());
+        free_ += word.copy(free_, word.size());
+    }
+    template <class Integer>
+    void decimal(Integer value);
+    void escaped(std::string_view value);
 
-    JSONMemory memory_;
-    mutable Buffer buffer_{&memory_.pool(), usualSize}; // GetString() puts a byte 0 behind the text
-    Writer writer_{buffer_, &memory_.pool()};
+    std::array<char, 4096> first_; // of nearly all schemas the only memory
+    std::unique_ptr<char[]> more_; // NOLINT(*-avoid-c-arrays): what lies behind is not made, it is written
+    char* begin_ = first_.data();
+    char* free_ = first_.data();
+    char* end_ = first_.data() + first_.size();
+    bool needsComma_ = false;
 };
 
 } // namespace Ostra

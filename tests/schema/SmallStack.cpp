@@ -1,9 +1,35 @@
 #include "SmallStack.h"
 
 #include <gtest/gtest.h>
+
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <pthread.h>
+#endif
 
 namespace Ostra {
+
+#ifdef _WIN32
+
+namespace {
+
+DWORD WINAPI run(void* work) {
+    (*static_cast<const std::function<void()>*>(work))();
+    return 0;
+}
+
+} // namespace
+
+void runOnSmallStack(const std::function<void()>& work) {
+    const HANDLE thread = ::CreateThread(nullptr, 131'072, &run, const_cast<std::function<void()>*>(&work),
+                                         STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
+    ASSERT_NE(thread, nullptr);
+    ASSERT_EQ(::WaitForSingleObject(thread, INFINITE), WAIT_OBJECT_0);
+    ::CloseHandle(thread);
+}
+
+#else
 
 namespace {
 
@@ -23,5 +49,7 @@ void runOnSmallStack(const std::function<void()>& work) {
     ASSERT_EQ(pthread_join(thread, nullptr), 0);
     pthread_attr_destroy(&attributes);
 }
+
+#endif
 
 } // namespace Ostra

@@ -28,7 +28,7 @@ const std::string group = R"({"typeid":"g","inherits":["norvex.parameter:group-1
 /// Runs a script in a folder, in which it finds the tool as $tool and the schema g.json.
 void runScript(const Folder& folder, const std::string& script) {
     folder.write("g.json", group);
-    folder.write(".script", "tool='" OSTRA_PARAMS_TOOL "'\n" + script);
+    folder.write(".script", "tool='" + pathOfTool() + "'\n" + script);
     std::ignore = std::system(("cd '" + folder.path().string() + "' && bash .script").c_str());
 }
 
@@ -133,7 +133,8 @@ TEST(Output, DoesNotReplaceTheWorkingFolder) {
 
 /// A program that waits for a file which is written only after more than a second.
 const std::string slowReading = "mkfifo slow.ndjson; (sleep 1.2; echo ']') > slow.ndjson & "
-                                "'" OSTRA_PARAMS_TOOL "' check --quiet slow.ndjson";
+                                "'" +
+                                pathOfTool() + "' check --quiet slow.ndjson";
 
 TEST(Progress, IsShownOnATerminalWhenReadingTakesLong) {
     const Folder folder;

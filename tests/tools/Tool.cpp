@@ -38,6 +38,11 @@ std::string contentOf(const fs::path& file) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
+std::string pathOfTool() {
+    const char* const given = std::getenv("OSTRA_TOOL");
+    return given != nullptr ? given : OSTRA_PARAMS_TOOL;
+}
+
 Folder::Folder() : path_(makeTemporaryFolder()) {}
 
 Folder::~Folder() {
@@ -79,7 +84,7 @@ std::vector<std::string> Folder::files() const {
 
 Outcome Folder::run(const std::vector<std::string>& arguments, const std::string& output,
                     const std::string& input) const {
-    return runProgram(OSTRA_PARAMS_TOOL, arguments, output, input);
+    return runProgram(pathOfTool(), arguments, output, input);
 }
 
 Outcome Folder::runProgram(const std::string& program, const std::vector<std::string>& arguments,

@@ -14,6 +14,9 @@ struct Outcome {
 /// Returns the bytes of a file; none of one that is not there.
 std::string contentOf(const std::filesystem::path& file);
 
+/// Returns the path of the tool: that of this build, or the one that OSTRA_TOOL names, which may be another platform's.
+std::string pathOfTool();
+
 /// A folder of its own for each test, in which the tool runs and which goes with the test.
 class Folder {
 public:

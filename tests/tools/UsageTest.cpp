@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(Tool, BrokenFile, testing::Values("f.json", "f.ndjson")
 TEST(Tool, RefusesAStandardInputThatCannotBeRead) {
     const Folder folder;
     folder.makeFolder("c");
-    folder.write("run.sh", "'" OSTRA_PARAMS_TOOL "' check - < c 2> err; echo $? >> err");
+    folder.write("run.sh", "'" + pathOfTool() + "' check - < c 2> err; echo $? >> err");
     std::ignore = std::system(("cd '" + folder.path().string() + "' && sh run.sh").c_str());
     EXPECT_EQ(folder.read("err"), "ostra-params: Cannot read <stdin>: Is a directory.\n2\n");
 }
@@ -135,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(Tool, FullDevice,
 TEST(Tool, ExitsAsItWouldWhenItsComplaintCannotBeWritten) {
     const Folder folder;
     folder.write("f.json", "]");
-    folder.write("run.sh", "'" OSTRA_PARAMS_TOOL "' list f.json 2>&-; echo $? > code");
+    folder.write("run.sh", "'" + pathOfTool() + "' list f.json 2>&-; echo $? > code");
     std::ignore = std::system(("cd '" + folder.path().string() + "' && sh run.sh").c_str());
     EXPECT_EQ(folder.read("code"), "1\n");
 }
@@ -147,7 +147,7 @@ TEST(Tool, EndsQuietlyWhenNobodyReadsOn) {
         lines += "]\n";
     }
     folder.write("f.ndjson", lines);
-    folder.write("run.sh", "'" OSTRA_PARAMS_TOOL "' check f.ndjson 2>err | head -n 1 > out");
+    folder.write("run.sh", "'" + pathOfTool() + "' check f.ndjson 2>err | head -n 1 > out");
     std::ignore = std::system(("cd '" + folder.path().string() + "' && sh run.sh").c_str());
     EXPECT_EQ(folder.read("out"), "f.ndjson:1:1: JSON parsing error at offset 0: Invalid value.\n");
     EXPECT_EQ(folder.read("err"), "");

@@ -482,7 +482,7 @@ TEST(Completion, OffersVerbsOptionsAndValues) {
     const std::string completion = OSTRA_SOURCE_DIR "/tools/ostra-params/shell/ostra-params.bash";
     const auto complete = [&](const std::string& words, const std::string& last) {
         const Folder folder;
-        const std::string script = "source '" + completion + "'; COMP_WORDS=('" OSTRA_PARAMS_TOOL "' " + words +
+        const std::string script = "source '" + completion + "'; COMP_WORDS=('" + pathOfTool() + "' " + words +
                                    "); COMP_CWORD=" + last + "; _ostra_params; echo \"${COMPREPLY[*]}\" > '" +
                                    (folder.path() / "reply").string() + "'";
         folder.write("script", script);
