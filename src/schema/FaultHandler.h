@@ -1,6 +1,6 @@
 #pragma once
 
-#include "schema/Memory.h"
+#include "schema/JSONValue.h"
 #include "schema/Message.h"
 
 #include <cstddef>

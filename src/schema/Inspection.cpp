@@ -42,7 +42,7 @@ void Inspection::handle(const Finding& finding) {
 
 void Inspection::unread(const JSONValue& array, const JSONValue& definition, const JSONValue& id,
                         const Message& message) {
-    unread_.push_back({&array, stringIn(id), &id, &message});
+    unread_.push_back({&array, id.string(), &id, &message});
     passOver(definition);
 }
 
@@ -85,7 +85,7 @@ std::vector<DocumentFault> Inspection::faults() {
 std::vector<Spot> Inspection::placesOf(const std::vector<Reference>& references) const {
     std::unordered_map<std::string_view, std::vector<const JSONValue*>, TextHash> byTypeId;
     for (const JSONValue* const value : references_) {
-        byTypeId[stringIn(*value)].push_back(value);
+        byTypeId[value->string()].push_back(value);
     }
     Places places;
     std::vector<const JSONValue*> values;
@@ -106,18 +106,14 @@ std::vector<Spot> Inspection::placesOf(const std::vector<Reference>& references)
 }
 
 Spot Inspection::placeOfTypeId() const {
-    const JSONValue* value = root_;
-    if (root_->IsObject()) {
-        const auto typeId = root_->FindMember("typeid");
-        value = typeId != root_->MemberEnd() ? &typeId->value : root_;
-    }
-    Places places{{value, {}}};
+    const JSONValue* const typeId = root_->find("typeid");
+    Places places{{typeId != nullptr ? typeId : root_, {}}};
     locate(text_, *root_, places);
     return places.begin()->second;
 }
 
 void Inspection::findUnread() {
-    if (!root_->IsObject() && !root_->IsArray()) {
+    if (!root_->isContainer()) {
         return;
     }
     toWalk_.assign(1, root_);
@@ -131,22 +127,22 @@ void Inspection::findUnread() {
 void Inspection::findUnreadIn(const JSONValue& value) {
     const bool isPassedOver = !passedOver_.empty() && &value != root_ && passedOver_.contains(&value);
     const auto walkLater = [&](const JSONValue& part) {
-        if (!isPassedOver && (part.IsObject() || part.IsArray())) {
+        if (!isPassedOver && part.isContainer()) {
             toWalk_.push_back(&part);
         }
     };
-    if (value.IsArray()) {
-        for (const JSONValue& element : value.GetArray()) {
-            walkLater(element);
+    const JSONValue* const end = value.next();
+    for (const JSONValue* part = value.first(); part != end; part = part->next()) {
+        if (value.isArray()) {
+            walkLater(*part);
+            continue;
         }
-        return;
-    }
-    for (const auto& member : value.GetObject()) {
-        if (isMarked(member.name)) {
-            walkLater(member.value);
+        const JSONValue& name = *part;
+        part = part->next();
+        if (isMarked(name)) {
+            walkLater(*part);
         } else {
-            unread_.push_back(
-                {&value, stringIn(member.name), &member.value, &messages("member-unknown"), isPassedOver});
+            unread_.push_back({&value, name.string(), part, &messages("member-unknown"), isPassedOver});
         }
     }
 }
@@ -179,18 +175,18 @@ Inspection::Unread* Inspection::misspelt(const Kept& kept, const UnreadByHolder&
     if (const auto beside = unread.find(kept.value); beside != unread.end()) {
         for (const std::string_view lacking : kept.lacking) {
             for (Unread* const candidate : beside->second) {
-                const bool isAlone = lacking == "typeid" && kept.value->MemberCount() == 1 && kept.value != root_;
+                const bool isAlone = lacking == "typeid" && kept.value->size() == 1 && kept.value != root_;
                 if (isAlone || !nearest(candidate->name, {lacking}).empty()) {
                     return candidate;
                 }
             }
         }
     }
-    if (!kept.value->IsArray()) {
+    if (!kept.value->isArray()) {
         return nullptr;
     }
     const auto elsewhere = std::find_if(unread_.begin(), unread_.end(), [&kept](const Unread& candidate) {
-        return candidate.holder->IsArray() && candidate.name == kept.lacking.front();
+        return candidate.holder->isArray() && candidate.name == kept.lacking.front();
     });
     return elsewhere != unread_.end() ? &*elsewhere : nullptr;
 }
@@ -215,7 +211,7 @@ Inspection::Kept Inspection::faultOf(const Unread& unread, const std::vector<con
     std::vector<std::string_view> known;
     for (const Look* const look : looks) {
         known.push_back(look->name);
-        if (unread.holder->IsArray() || look->found == nullptr) {
+        if (unread.holder->isArray() || look->found == nullptr) {
             continue;
         }
         if (look->name == unread.name) {
@@ -242,8 +238,8 @@ DocumentFault Inspection::located(Kept&& kept, const Places& places) const {
     const Spot& place = places.at(kept.value);
     DocumentFault fault{kept.message, std::move(kept.sentence), std::move(kept.name), std::move(kept.nearest), place,
                         std::nullopt};
-    if (fault.name.empty() && place.pointer.starts_with("/inherits/") && kept.value->IsString()) {
-        fault.name = stringIn(*kept.value);
+    if (fault.name.empty() && place.pointer.starts_with("/inherits/") && kept.value->isString()) {
+        fault.name = kept.value->string();
     } else if (fault.name.empty()) {
         fault.name = place.label;
     }

@@ -2,7 +2,7 @@
 
 #include "schema/FaultHandler.h"
 #include "schema/JSONParser.h"
-#include "schema/Memory.h"
+#include "schema/JSONValue.h"
 #include "schema/Message.h"
 #include "schema/Places.h"
 
@@ -42,13 +42,13 @@ public:
     /// Begins with a document.
     void begin(std::string_view text, const ParsedText& parsed, const JSONValue& root);
     void handle(const Finding& finding) override;
-    /// Somebody looked for a member.
-    void looked(const JSONValue& object, std::string_view name, const JSONValue::Member* found) {
+    /// Somebody looked for a member, and found that with this name.
+    void looked(const JSONValue& object, std::string_view name, const JSONValue* found) {
         if (found != nullptr) {
-            mark(found->name);
+            mark(*found);
         }
         if (notesLooks_) {
-            looks_.push_back({&object, name, found != nullptr ? &found->value : nullptr});
+            looks_.push_back({&object, name, found != nullptr ? found->next() : nullptr});
         }
     }
     /// Somebody looked for a definition in an array.
@@ -120,9 +120,8 @@ private:
     using LooksByHolder = std::unordered_map<const JSONValue*, std::vector<const Look*>>;
     using UnreadByHolder = std::unordered_map<const JSONValue*, std::vector<Unread*>>;
 
-    static std::string_view stringIn(const JSONValue& value) { return {value.GetString(), value.GetStringLength()}; }
     std::size_t placeIn(const JSONValue& string) const {
-        return static_cast<std::size_t>(string.GetString() - parsed_.copy);
+        return static_cast<std::size_t>(string.string().data() - parsed_.origin);
     }
     void mark(const JSONValue& string) {
         std::uint64_t& marks = marks_[placeIn(string) / 64];

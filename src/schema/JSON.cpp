@@ -14,22 +14,24 @@ namespace Ostra {
 
 namespace {
 
-/// Writes a value with a stack of its own: RapidJSON's way recurses with the depth of the value.
+/// Writes a value with a stack of its own rather than the program's.
 class ValueWriter {
 public:
     std::string write(const JSONValue& root) {
         begin(root);
         while (!open_.empty()) {
             Container& container = open_.back();
-            if (container.next == container.size) {
+            if (container.next == container.value->next()) {
                 end();
-            } else if (container.value->IsObject()) {
-                const auto& member = container.value->MemberBegin()[container.next++];
-                writer_.name(stringIn(member.name));
-                begin(member.value);
-            } else {
-                begin(container.value->Begin()[container.next++]);
+                continue;
             }
+            const JSONValue* value = container.next;
+            if (container.value->isObject()) {
+                writer_.name(value->string());
+                value = value->next();
+            }
+            container.next = value->next();
+            begin(*value);
         }
         return writer_.text();
     }
@@ -38,48 +40,38 @@ private:
     /// A container whose members or elements before the next one are written.
     struct Container {
         const JSONValue* value;
-        rapidjson::SizeType size;
-        rapidjson::SizeType next;
+        const JSONValue* next;
     };
 
     void begin(const JSONValue& value) {
-        if (value.IsObject()) {
-            writer_.beginObject();
-            open_.push_back({&value, value.MemberCount(), 0});
-        } else if (value.IsArray()) {
-            writer_.beginArray();
-            open_.push_back({&value, value.Size(), 0});
+        if (value.isContainer()) {
+            value.isObject() ? writer_.beginObject() : writer_.beginArray();
+            open_.push_back({&value, value.first()});
         } else {
             scalar(value);
         }
     }
 
     void end() {
-        if (open_.back().value->IsObject()) {
-            writer_.endObject();
-        } else {
-            writer_.endArray();
-        }
+        open_.back().value->isObject() ? writer_.endObject() : writer_.endArray();
         open_.pop_back();
     }
 
     void scalar(const JSONValue& value) {
-        if (value.IsString()) {
-            writer_.string(stringIn(value));
-        } else if (value.IsBool()) {
-            writer_.boolean(value.GetBool());
-        } else if (value.IsInt64()) {
-            writer_.integer(value.GetInt64());
-        } else if (value.IsUint64()) {
-            writer_.unsignedInteger(value.GetUint64());
-        } else if (value.IsDouble()) {
-            writer_.number(value.GetDouble());
+        if (value.isString()) {
+            writer_.string(value.string());
+        } else if (value.isBoolean()) {
+            writer_.boolean(value.boolean());
+        } else if (value.isInteger()) {
+            writer_.integer(value.integer());
+        } else if (value.isUnsignedInteger()) {
+            writer_.unsignedInteger(value.unsignedInteger());
+        } else if (value.isReal()) {
+            writer_.number(value.number());
         } else {
             writer_.null();
         }
     }
-
-    static std::string_view stringIn(const JSONValue& value) { return {value.GetString(), value.GetStringLength()}; }
 
     JSONWriter writer_;
     std::vector<Container> open_;
@@ -89,14 +81,15 @@ private:
 
 std::map<std::string, std::string> JSONView::toStringMap() const {
     std::map<std::string, std::string> strings;
-    for (const auto& member : value_->GetObject()) {
-        if (!member.name.IsString()) {
+    const JSONValue* const end = value_->next();
+    for (const JSONValue* name = value_->first(); name != end; name = name->next()->next()) {
+        if (!name->isString()) {
             return fail(messages("map-key-string-expected"));
         }
-        if (!member.value.IsString()) {
+        if (!name->next()->isString()) {
             return fail(messages("map-value-string-expected"));
         }
-        strings.emplace(JSONView(member.name, *handler_).string(), JSONView(member.value, *handler_).string());
+        strings.emplace(name->string(), name->next()->string());
     }
     return strings;
 }
@@ -148,23 +141,27 @@ void JSONView::notePassedOver() const {
     }
 }
 
-void JSONView::noteLook(std::string_view name, const JSONMember* found) const {
+void JSONView::noteLook(std::string_view name, const JSONValue* found) const {
     handler_->inspection()->looked(*value_, name, found);
 }
 
 void JSONView::noteName() const { handler_->inspection()->named(*value_); }
 
-JSON::JSON(std::string_view text, FaultHandler& handler) : handler_(handler) {
-    const ParsedText parsed = parseText(text, memory_.pool(), value_);
-    if (Inspection* const inspection = handler.inspection()) {
-        inspection->begin(text, parsed, value_);
+JSON::JSON(const std::string& text, FaultHandler& handler) : handler_(handler) {
+    const ParsedText parsed = parseText(text, tape_, arena_);
+    isParsed_ = !parsed.result.IsError();
+    if (!isParsed_) {
+        tape_.clear();
+        tape_.null(); // stands for the document
     }
-    if (parsed.result.IsError()) {
-        isParsed_ = false;
+    if (Inspection* const inspection = handler.inspection()) {
+        inspection->begin(text, parsed, tape_.root());
+    }
+    if (!isParsed_) {
         handler.handle(
             {.message = messages("json-syntax"),
              .inserted = {std::to_string(parsed.result.Offset()), rapidjson::GetParseError_En(parsed.result.Code())},
-             .value = value_,
+             .value = tape_.root(),
              .offset = parsed.result.Offset()});
     }
 }

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "schema/Arena.h"
 #include "schema/FaultHandler.h"
-#include "schema/Memory.h"
+#include "schema/JSONValue.h"
 #include "schema/Message.h"
 
 #include <cstddef>
@@ -21,16 +22,16 @@ class JSONView {
 public:
     JSONView(const JSONValue& value, FaultHandler& handler) : value_(&value), handler_(&handler) {}
 
-    bool isObject() const { return value_->IsObject(); }
-    bool isArray() const { return value_->IsArray(); }
-    bool isString() const { return value_->IsString(); }
-    bool isBoolean() const { return value_->IsBool(); }
+    bool isObject() const { return value_->isObject(); }
+    bool isArray() const { return value_->isArray(); }
+    bool isString() const { return value_->isString(); }
+    bool isBoolean() const { return value_->isBoolean(); }
     /// True for a number that was written without fraction and exponent and fits a signed 64-bit integer.
-    bool isInteger() const { return value_->IsInt64(); }
-    bool isNumber() const { return value_->IsNumber(); }
+    bool isInteger() const { return value_->isInteger(); }
+    bool isNumber() const { return value_->isNumber(); }
 
     /// Returns the number of members of an object or of elements of an array.
-    std::size_t size() const { return isObject() ? value_->MemberCount() : value_->Size(); }
+    std::size_t size() const { return value_->size(); }
 
     /// Returns the first member of that name, or nothing when there is none or the value is no object.
     MaybeView member(std::string_view name) const;
@@ -39,23 +40,25 @@ public:
     /// Calls visit(name, value) for each member of an object in document order.
     template <class Visitor>
     void forEachMember(Visitor&& visit) const {
-        for (const auto& member : value_->GetObject()) {
-            visit(JSONView(member.name, *handler_).string(), JSONView(member.value, *handler_));
+        const JSONValue* const end = value_->next();
+        for (const JSONValue* name = value_->first(); name != end; name = name->next()->next()) {
+            visit(name->string(), JSONView(*name->next(), *handler_));
         }
     }
     /// Calls visit(element) for each element of an array in order.
     template <class Visitor>
     void forEachElement(Visitor&& visit) const {
-        for (const JSONValue& element : value_->GetArray()) {
-            visit(JSONView(element, *handler_));
+        const JSONValue* const end = value_->next();
+        for (const JSONValue* element = value_->first(); element != end; element = element->next()) {
+            visit(JSONView(*element, *handler_));
         }
     }
 
-    std::string_view string() const { return {value_->GetString(), value_->GetStringLength()}; }
-    bool boolean() const { return value_->GetBool(); }
-    std::int64_t integer() const { return value_->GetInt64(); }
+    std::string_view string() const { return value_->string(); }
+    bool boolean() const { return value_->boolean(); }
+    std::int64_t integer() const { return value_->integer(); }
     /// Returns any number as a double, rounded where an integer has more than 53 bits.
-    double number() const { return value_->GetDouble(); }
+    double number() const { return value_->number(); }
 
     /// Copies the members of an object; of two members of one name the first counts.
     /// Fails when a name or a value is not a string.
@@ -104,17 +107,7 @@ private:
     friend class MaybeView;
     JSONView() = default; // of nothing
 
-    using JSONMember = JSONValue::Member;
-
-    const JSONMember* findMember(std::string_view name) const {
-        for (const auto& member : value_->GetObject()) {
-            if (std::string_view(member.name.GetString(), member.name.GetStringLength()) == name) {
-                return &member;
-            }
-        }
-        return nullptr;
-    }
-    void noteLook(std::string_view name, const JSONMember* found) const;
+    void noteLook(std::string_view name, const JSONValue* found) const;
     void noteName() const;
 
     const JSONValue* value_ = nullptr;
@@ -141,32 +134,36 @@ private:
 };
 
 inline MaybeView JSONView::member(std::string_view name) const {
-    const JSONMember* const found = isObject() ? findMember(name) : nullptr;
+    const JSONValue* const found = isObject() ? value_->findName(name) : nullptr;
     if (isInspected()) [[unlikely]] {
         noteLook(name, found);
     }
-    return found != nullptr ? MaybeView(JSONView(found->value, *handler_)) : std::nullopt;
+    return found != nullptr ? MaybeView(JSONView(*found->next(), *handler_)) : std::nullopt;
 }
 
 inline bool JSONView::hasMember(std::string_view name) const { return member(name).has_value(); }
 
-/// A parsed document. It owns the memory in which its values lie.
+/// A parsed document. It owns the memory in which its values lie; their strings may lie in the text.
 class JSON {
 public:
-    /// Parses a whole text. Neither this nor destruction recurses with the depth of the text.
+    /// Parses a whole text, which must live as long. Neither this nor destruction recurses with the depth of the text.
     /// Fails through the handler, which must live as long, with "JSON parsing error at offset N: reason".
-    JSON(std::string_view text, FaultHandler& handler);
+    JSON(const std::string& text, FaultHandler& handler);
+    JSON(std::string&& text, FaultHandler& handler) = delete; // it would be gone
 
     /// False for what is no JSON, where faults are kept.
     bool isParsed() const { return isParsed_; }
-    JSONView view() const { return {value_, handler_}; }
+    JSONView view() const { return {tape_.root(), handler_}; }
 
     /// Returns the value as text without blanks (see JSONView::toText).
     std::string toText() const { return view().toText(); }
 
+    /// Returns memory that lives as long as the document.
+    Arena& arena() { return arena_; }
+
 private:
-    JSONMemory memory_;
-    JSONValue value_;
+    Arena arena_;
+    JSONTape tape_{arena_};
     FaultHandler& handler_;
     bool isParsed_ = true;
 };

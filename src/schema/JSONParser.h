@@ -1,11 +1,12 @@
 #pragma once
 
-#include "schema/Memory.h"
+#include "schema/Arena.h"
+#include "schema/JSONValue.h"
 
-#include <rapidjson/document.h>
+#include <rapidjson/error/error.h>
 
 #include <cstddef>
-#include <string_view>
+#include <string>
 
 namespace Ostra {
 
@@ -13,12 +14,16 @@ namespace Ostra {
 struct ParsedText {
     rapidjson::ParseResult result; ///< Where the text is no JSON and why.
     std::size_t members;           ///< How many members all objects have together.
-    const char* copy; ///< Where the copy of the text begins. Strings begin in it where they do in the text.
+    const char*
+        origin; ///< The text, or a copy of it. Strings refer into it, and begin in it where they do in the text.
 };
 
-/// Parses a whole text into a value. The value and a copy of the text, in which its strings lie, go into the pool.
-/// Does not recurse with the depth of the text.
-/// @throws std::length_error for a text of nearly 2 GiB or more.
-ParsedText parseText(std::string_view text, JSONPool& pool, JSONValue& value);
+/// @throws std::length_error for the size of a text of nearly 2 GiB or more.
+void checkTextSize(std::size_t size);
+
+/// Parses a whole text onto a tape that is empty. What does not fit there, and a copy of the text where strings need
+/// one, goes into the arena. Does not recurse with the depth of the text.
+/// @throws std::length_error as checkTextSize.
+ParsedText parseText(const std::string& text, JSONTape& tape, Arena& arena);
 
 } // namespace Ostra

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <rapidjson/document.h>
+#include <rapidjson/allocators.h>
 
 #include <array>
 #include <cstddef>
@@ -23,11 +23,7 @@ inline ThrowingAllocator sharedAllocator;
 
 using JSONPool = rapidjson::MemoryPoolAllocator<ThrowingAllocator>;
 
-/// The value type of the parser, with all its memory from operator new.
-using JSONValue = rapidjson::GenericValue<rapidjson::UTF8<>, JSONPool>;
-
-/// A pool with memory of its own to begin with, in which nearly all schemas find room: they are read and written
-/// without asking the system for any.
+/// A pool with memory of its own to begin with, in which nearly all texts find room.
 class JSONMemory {
 public:
     JSONMemory() = default;

@@ -8,14 +8,14 @@ namespace Ostra {
 
 namespace {
 
-std::string_view stringIn(const JSONValue& value) { return {value.GetString(), value.GetStringLength()}; }
-
 /// Members that every definition or typed value has: they tell nothing of what they belong to.
 bool isStructure(std::string_view member) {
     constexpr std::array<std::string_view, 7> names{"typeid", "inherits", "constants", "properties",
                                                     "id",     "value",    "typedValue"};
     return std::find(names.begin(), names.end(), member) != names.end();
 }
+
+bool isTable(std::string_view member) { return member == "constants" || member == "properties"; }
 
 /// Walks through a text, which is known to be JSON, and the values that were made of it side by side.
 class Walk {
@@ -26,34 +26,40 @@ public:
         enter(root);
         while (!open_.empty()) {
             Container& container = open_.back();
-            if (container.next == container.size) {
+            if (container.next == container.value->next()) {
                 leave();
-            } else if (container.value->IsObject()) {
-                skipString();
-                enter(container.value->MemberBegin()[container.next++].value);
-            } else {
-                enter(container.value->Begin()[container.next++]);
+                continue;
             }
+            if (container.value->isObject()) {
+                skipString();
+                container.name = container.next->string();
+                container.next = container.next->next();
+            }
+            const JSONValue& value = *container.next;
+            container.next = value.next();
+            ++container.passed;
+            enter(value);
         }
     }
 
 private:
     struct Container {
         const JSONValue* value;
-        rapidjson::SizeType size;
-        rapidjson::SizeType next; // the one behind that which is walked through
-        Spot* spot;               // to be closed, if it is wanted
+        const JSONValue* next;   // behind the one that is walked through
+        Spot* spot;              // to be closed, if it is wanted
+        std::size_t passed = 0;  // elements or members, with the one that is walked through
+        std::string_view name{}; // of that, in an object
     };
 
     void enter(const JSONValue& value) {
         skipBetween();
         Spot* const spot = begin(value);
-        if (value.IsObject() || value.IsArray()) {
+        if (value.isContainer()) {
             ++offset_;
-            open_.push_back({&value, value.IsObject() ? value.MemberCount() : value.Size(), 0, spot});
+            open_.push_back({&value, value.first(), spot});
             return;
         }
-        if (value.IsString()) {
+        if (value.isString()) {
             skipString();
         } else {
             offset_ = std::min(text_.find_first_of(",]} \t\n\r", offset_), text_.size());
@@ -83,22 +89,21 @@ private:
 
     void describeStep(const Container& container, Spot& spot) {
         spot.pointer += '/';
-        if (container.value->IsArray()) {
-            spot.pointer += std::to_string(container.next - 1);
+        if (container.value->isArray()) {
+            spot.pointer += std::to_string(container.passed - 1);
             return;
         }
-        const std::string_view name = stringIn(container.value->MemberBegin()[container.next - 1].name);
-        for (const char character : name) {
+        for (const char character : container.name) {
             if (character == '~' || character == '/') {
                 spot.pointer += character == '~' ? "~0" : "~1";
             } else {
                 spot.pointer += character;
             }
         }
-        if (&container == &open_[0] && (name == "constants" || name == "properties") && open_.size() > 2) {
+        if (&container == &open_[0] && isTable(container.name) && open_.size() > 2) {
             labelByDefinition(*open_[2].value, spot);
-        } else if (!isStructure(name)) {
-            spot.label = name;
+        } else if (!isStructure(container.name)) {
+            spot.label = container.name;
         }
     }
 
@@ -107,13 +112,12 @@ private:
         if (&definition != definition_) { // its members are not searched for each value in it
             definition_ = &definition;
             id_ = nullptr;
-            if (definition.IsObject()) {
-                const auto id = definition.FindMember("id");
-                id_ = id != definition.MemberEnd() && id->value.IsString() ? &id->value : nullptr;
+            if (const JSONValue* const id = definition.find("id"); id != nullptr && id->isString()) {
+                id_ = id;
             }
         }
         if (id_ != nullptr) {
-            spot.label = stringIn(*id_);
+            spot.label = id_->string();
         }
     }
 

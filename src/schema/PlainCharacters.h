@@ -1,10 +1,17 @@
 #pragma once
 
+#include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
 
-/// Which characters a JSON string may hold as they are, looked at eight at a time.
+#if defined(__SSE2__) || defined(_M_X64) // as every x86 of 64 bits has it
+#define OSTRA_HAS_SSE2
+#include <emmintrin.h>
+#endif
+
+/// Which characters a JSON string may hold as they are, looked at eight or sixteen at a time.
 namespace Ostra::PlainCharacters {
 
 namespace Detail {
@@ -32,6 +39,44 @@ inline std::uint64_t wordAt(const char* bytes) {
 /// quotation mark, a backslash or a control character.
 constexpr std::uint64_t othersIn(std::uint64_t word) {
     return Detail::below(word, 0x20) | Detail::equal(word, '"') | Detail::equal(word, '\\');
+}
+
+constexpr bool isPlain(char character) {
+    return static_cast<unsigned char>(character) >= 0x20 && character != '"' && character != '\\';
+}
+
+#ifdef OSTRA_HAS_SSE2
+/// Returns a bit for each of sixteen characters, set if it is not plain.
+inline unsigned othersAt(const char* bytes) {
+    const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
+    const __m128i isControl = _mm_cmpeq_epi8(_mm_min_epu8(block, _mm_set1_epi8(0x1F)), block);
+    const __m128i isMark =
+        _mm_or_si128(_mm_cmpeq_epi8(block, _mm_set1_epi8('"')), _mm_cmpeq_epi8(block, _mm_set1_epi8('\\')));
+    return static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(isControl, isMark)));
+}
+#endif
+
+/// Returns the first character that is not plain, or the end.
+inline const char* endOf(const char* at, const char* end) {
+#ifdef OSTRA_HAS_SSE2
+    for (; end - at >= 16; at += 16) {
+        if (const unsigned others = othersAt(at)) {
+            return at + std::countr_zero(others);
+        }
+    }
+#else
+    if constexpr (std::endian::native == std::endian::little) {
+        for (; static_cast<std::size_t>(end - at) >= wordSize; at += wordSize) {
+            if (const std::uint64_t others = othersIn(wordAt(at))) {
+                return at + std::countr_zero(others) / 8;
+            }
+        }
+    }
+#endif
+    while (at != end && isPlain(*at)) {
+        ++at;
+    }
+    return at;
 }
 
 /// True when all characters are plain.

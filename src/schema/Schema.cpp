@@ -64,7 +64,7 @@ MaybeView readId(JSONView definition) {
 
 } // namespace
 
-Schema::Schema(std::string_view text, FaultHandler& handler) : document_(text, handler) {
+Schema::Schema(const std::string& text, FaultHandler& handler) : document_(text, handler) {
     isReadable_ = document_.isParsed() && readHead();
     if (isReadable_) {
         readDefinitions("constants", constants_);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "schema/Arena.h"
 #include "schema/Definitions.h"
 #include "schema/Identifier.h"
 #include "schema/JSON.h"
@@ -15,8 +14,9 @@ namespace Ostra {
 /// Everything that it hands out refers into the text's document and lives as long as the record.
 class Schema {
 public:
-    /// Reads a text; every fault in its structure goes to the handler, which must live as long.
-    Schema(std::string_view text, FaultHandler& handler);
+    /// Reads a text; every fault in its structure goes to the handler. Both must live as long.
+    Schema(const std::string& text, FaultHandler& handler);
+    Schema(std::string&& text, FaultHandler& handler) = delete; // it would be gone
     Schema(const Schema&) = delete;
     Schema& operator=(const Schema&) = delete;
 
@@ -59,9 +59,8 @@ private:
     std::string_view base_;
     bool beginsOnly_ =
         false; // an identifier can be in the base at its beginning alone, which is sooner seen than searched
-    Arena memory_;
-    Definitions constants_{memory_};
-    Definitions properties_{memory_};
+    Definitions constants_{document_.arena()};
+    Definitions properties_{document_.arena()};
 };
 
 } // namespace Ostra

@@ -27,10 +27,10 @@ using Support::messageOf;
 /// A schema with the given text in place of its constants.
 struct Defined {
     explicit Defined(const std::string& definitions)
-        : schema(R"({"typeid": "plant.spec:open", "inherits": ["b"], "constants": [)" + definitions + "]}",
-                 Complaints::shared()) {}
+        : text(R"({"typeid": "plant.spec:open", "inherits": ["b"], "constants": [)" + definitions + "]}") {}
 
-    Schema schema;
+    std::string text;
+    Schema schema{text, Complaints::shared()};
     Constants constants{schema};
 };
 
@@ -280,14 +280,15 @@ TEST(Constants, FailWhereARequiredOneIsSpeltOtherwise) {
 }
 
 TEST(Constants, DoNotLookAmongTheProperties) {
-    const Schema schema(R"({"typeid": "t", "inherits": ["b"], "properties": [{"id": "name", "value": "a"}]})",
-                        Complaints::shared());
+    const std::string text = R"({"typeid": "t", "inherits": ["b"], "properties": [{"id": "name", "value": "a"}]})";
+    const Schema schema(text, Complaints::shared());
     EXPECT_EQ(messageOf<Complaint>([&] { Constants(schema).required<String>("name"); }),
               "Schema t has an undefined name constant.");
 }
 
 TEST(Constants, NameATypeIdWholeWhenItHoldsANul) {
-    const Schema schema(R"({"typeid": "t\u0000u", "inherits": ["b"]})", Complaints::shared());
+    const std::string text = R"({"typeid": "t\u0000u", "inherits": ["b"]})";
+    const Schema schema(text, Complaints::shared());
     EXPECT_EQ(complaintOf([&] { Constants(schema).required<String>("spec"); }),
               std::string("Schema t\0u has an undefined spec constant.", 42));
 }

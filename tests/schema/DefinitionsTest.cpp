@@ -20,16 +20,18 @@ protected:
         for (int element = 0; element < GetParam(); ++element) {
             ids.push_back("id " + std::to_string((element * 7919) % 10'007));
         }
-        std::string text = "[";
+        text = "[";
         for (std::size_t element = 0; element < ids.size(); ++element) {
             text += (element == 0 ? "" : ",") + std::to_string(element);
         }
-        array = std::make_unique<JSON>(text + "]", Support::Complaints::shared());
+        text += "]";
+        array = std::make_unique<JSON>(text, Support::Complaints::shared());
         std::size_t element = 0;
         array->view().forEachElement([&](JSONView value) { EXPECT_TRUE(definitions.add(ids[element++], value)); });
     }
 
     std::vector<std::string> ids;
+    std::string text;
     std::unique_ptr<JSON> array;
     Arena memory;
     Definitions definitions{memory};

@@ -49,7 +49,7 @@ void readConstants(const Schema& schema) {
 }
 
 /// Returns the faults of a text, which is read again where more can be said of it.
-Lines read(std::string_view text, Inspection& inspection) {
+Lines read(const std::string& text, Inspection& inspection) {
     const Schema schema(text, inspection);
     if (schema.isReadable()) {
         readConstants(schema);
@@ -63,7 +63,7 @@ Lines read(std::string_view text, Inspection& inspection) {
     return linesOf(inspection.faults(), text);
 }
 
-Lines read(std::string_view text) {
+Lines read(const std::string& text) {
     Inspection inspection;
     return read(text, inspection);
 }
@@ -168,18 +168,21 @@ TEST(Inspection, TellsOneFaultOfOneValueOnce) {
 TEST(Inspection, FindsWhereTheTypeIdStands) {
     Inspection inspection;
     {
-        const JSON json(R"( {"a":{"typeid":1}, "typeid" : "t"})", inspection);
+        const std::string text = R"( {"a":{"typeid":1}, "typeid" : "t"})";
+        const JSON json(text, inspection);
         EXPECT_EQ(inspection.placeOfTypeId().pointer, "/typeid");
         EXPECT_EQ(inspection.placeOfTypeId().begin, 31U);
         EXPECT_EQ(inspection.placeOfTypeId().end, 34U);
     }
     {
-        const JSON json(" [1]", inspection);
+        const std::string text = " [1]";
+        const JSON json(text, inspection);
         EXPECT_EQ(inspection.placeOfTypeId().pointer, "");
         EXPECT_EQ(inspection.placeOfTypeId().begin, 1U);
     }
     {
-        const JSON json(" {} ", inspection);
+        const std::string text = " {} ";
+        const JSON json(text, inspection);
         EXPECT_EQ(inspection.placeOfTypeId().end, 3U);
     }
 }

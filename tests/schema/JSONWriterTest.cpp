@@ -134,7 +134,8 @@ TEST(JSONWriter, WritesDoublesThatReadBackAsTheSame) {
         writer.number(doubles.back());
     }
     writer.endArray();
-    const JSON read(writer.text(), ExceptionFactoryOf<std::runtime_error>::shared());
+    const std::string text = writer.text();
+    const JSON read(text, ExceptionFactoryOf<std::runtime_error>::shared());
     std::size_t index = 0;
     read.view().forEachElement([&](JSONView element) {
         const double expected = doubles.at(index++);

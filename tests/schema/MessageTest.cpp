@@ -148,7 +148,8 @@ TEST(ExceptionFactory, RaisesFilledMessages) {
 }
 
 TEST(JSONView, ReportsWithFilledMessages) {
-    const Ostra::JSON json("[]", ExceptionFactoryOf<std::range_error>::shared());
+    const std::string text = "[]";
+    const Ostra::JSON json(text, ExceptionFactoryOf<std::range_error>::shared());
     EXPECT_EQ(messageOf<std::range_error>([&] { json.view().report(table("plain")); }), "Nothing is inserted.");
     EXPECT_EQ(messageOf<std::range_error>([&] { json.view().report(table("both-ends"), {"1", "2"}); }), "1 and 2");
 }

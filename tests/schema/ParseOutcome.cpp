@@ -2,6 +2,7 @@
 
 #include "schema/JSONParser.h"
 
+#include <rapidjson/document.h>
 #include <rapidjson/error/en.h>
 #include <rapidjson/reader.h>
 
@@ -10,6 +11,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -57,6 +59,35 @@ private:
     std::string events_;
 };
 
+/// Tells of a value and all that is in it. Recurses with its depth.
+void record(const JSONValue& value, Recorder& recorder) {
+    if (value.isContainer()) {
+        value.isObject() ? recorder.StartObject() : recorder.StartArray();
+        for (const JSONValue* part = value.first(); part != value.next(); part = part->next()) {
+            if (value.isObject()) {
+                const std::string_view name = part->string();
+                recorder.Key(name.data(), static_cast<SizeType>(name.size()), true);
+                part = part->next();
+            }
+            record(*part, recorder);
+        }
+        const auto size = static_cast<SizeType>(value.size());
+        value.isObject() ? recorder.EndObject(size) : recorder.EndArray(size);
+    } else if (value.isString()) {
+        recorder.String(value.string().data(), static_cast<SizeType>(value.string().size()), true);
+    } else if (value.isBoolean()) {
+        recorder.Bool(value.boolean());
+    } else if (value.isInteger()) {
+        recorder.Int64(value.integer());
+    } else if (value.isUnsignedInteger()) {
+        recorder.Uint64(value.unsignedInteger());
+    } else if (value.isReal()) {
+        recorder.Double(value.number());
+    } else {
+        recorder.Null();
+    }
+}
+
 /// Converts each number that RapidJSON knows as a double with the C library, and stops at the first infinite one.
 struct DoubleCollector : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, DoubleCollector> {
     bool RawNumber(const char* text, SizeType length, bool) {
@@ -101,12 +132,12 @@ ParseOutcome outcomeByDefaultFlags(const std::string& text) {
 }
 
 ParseOutcome outcomeOf(const std::string& text) {
-    JSONPool pool(1024);
-    JSONValue value;
-    const rapidjson::ParseResult result = parseText(text, pool, value).result;
+    Arena arena;
+    JSONTape tape(arena);
+    const rapidjson::ParseResult result = parseText(text, tape, arena).result;
     Recorder recorder;
     if (!result.IsError()) {
-        value.Accept(recorder);
+        record(tape.root(), recorder);
     }
     return {result.Code(), result.Offset(), recorder.events()};
 }

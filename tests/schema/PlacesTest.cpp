@@ -20,22 +20,9 @@ using testing::ElementsAre;
 /// All values of a text in its order.
 class Text {
 public:
-    explicit Text(std::string_view text) : text_(text), parsed_(parseText(text, memory_.pool(), root_)) {
-        std::vector<const JSONValue*> open{&root_};
-        while (!open.empty()) {
-            const JSONValue& value = *open.back();
-            open.pop_back();
-            values_.push_back(&value);
-            if (value.IsObject()) {
-                for (auto member = value.MemberEnd(); member != value.MemberBegin();) {
-                    open.push_back(&(--member)->value);
-                }
-            } else if (value.IsArray()) {
-                for (auto element = value.End(); element != value.Begin();) {
-                    open.push_back(--element);
-                }
-            }
-        }
+    explicit Text(std::string_view text) : text_(text) {
+        EXPECT_FALSE(parseText(text_, tape_, arena_).result.IsError());
+        collect(tape_.root());
     }
 
     /// Returns the pointer and the bytes of each value.
@@ -61,25 +48,33 @@ public:
     /// Returns the spot of one value alone.
     Spot spotOf(std::size_t value) const {
         Places places{{values_.at(value), {}}};
-        locate(text_, root_, places);
+        locate(text_, tape_.root(), places);
         return places.begin()->second;
     }
     std::size_t size() const { return values_.size(); }
 
 private:
+    void collect(const JSONValue& value) {
+        values_.push_back(&value);
+        if (value.isContainer()) {
+            for (const JSONValue* part = value.first(); part != value.next(); part = part->next()) {
+                part = value.isObject() ? part->next() : part; // names have no spots
+                collect(*part);
+            }
+        }
+    }
     Places all() const {
         Places places;
         for (const JSONValue* const value : values_) {
             places.try_emplace(value);
         }
-        locate(text_, root_, places);
+        locate(text_, tape_.root(), places);
         return places;
     }
 
     std::string text_;
-    JSONMemory memory_;
-    JSONValue root_;
-    ParsedText parsed_;
+    Arena arena_;
+    JSONTape tape_{arena_};
     std::vector<const JSONValue*> values_;
 };
 

@@ -166,7 +166,8 @@ TEST(SchemaWriter, WritesWhatTheReaderReads) {
     SchemaWriter schema("\"t\xff", "b\\", Complaints::shared());
     schema.constant(std::string("a\0b", 3)).string("\x1f");
     schema.typedProperty("\xc3\xa4").typedValue("c");
-    const Schema read(textOf(std::move(schema)), Complaints::shared());
+    const std::string text = textOf(std::move(schema));
+    const Schema read(text, Complaints::shared());
     EXPECT_EQ(read.typeId(), "\"t\xff");
     EXPECT_EQ(read.base(), "b\\");
     EXPECT_EQ(Schema::valueOf(*read.constants().find(std::string("a\0b", 3)))->string(), "\x1f");
