@@ -54,13 +54,20 @@ public:
     std::size_t size() const { return values_.size(); }
 
 private:
-    void collect(const JSONValue& value) {
-        values_.push_back(&value);
-        if (value.isContainer()) {
-            for (const JSONValue* part = value.first(); part != value.next(); part = part->next()) {
-                part = value.isObject() ? part->next() : part; // names have no spots
-                collect(*part);
+    void collect(const JSONValue& root) {
+        std::vector<const JSONValue*> open; // which the value is in
+        for (const JSONValue* value = &root; value != root.next();) {
+            while (!open.empty() && open.back()->next() == value) {
+                open.pop_back();
             }
+            if (!open.empty() && open.back()->isObject()) {
+                value = value->next(); // a name, which has no spot
+            }
+            values_.push_back(value);
+            if (value->isContainer()) {
+                open.push_back(value);
+            }
+            value = value->isContainer() ? value->first() : value->next();
         }
     }
     Places all() const {
