@@ -1,5 +1,6 @@
 # Runs PROGRAM with ARGUMENTS and fails unless its whole output is the content of the file EXPECTED and its exit code is
 # STATUS (0 when none is given). Programs of another platform run in its EMULATOR.
+separate_arguments(EMULATOR)
 execute_process(COMMAND ${EMULATOR} ${PROGRAM} ${ARGUMENTS} OUTPUT_VARIABLE output RESULT_VARIABLE result)
 file(READ ${EXPECTED} expected)
 if(LINES_END_IN_CRLF) # as programs write them to the standard output of a Windows

@@ -310,6 +310,7 @@ TEST(Formats, GithubFoldsAndHints) {
 }
 
 TEST(Files, ThatCannotBeReadAreFaultsAndTheRestIsChecked) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     folder.write("c/f.json", "]");
     std::filesystem::create_symlink("nowhere", folder.path() / "c/a.json");
@@ -325,6 +326,7 @@ TEST(Files, ThatCannotBeReadAreFaultsAndTheRestIsChecked) {
 }
 
 TEST(Files, ThatCannotBeReadHaveAPlaceInEachFormat) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     folder.makeFolder("c");
     std::filesystem::create_symlink("nowhere", folder.path() / "c/a.json");

@@ -57,6 +57,7 @@ INSTANTIATE_TEST_SUITE_P(Output, FailingOutput,
                          Support::nameOfRow);
 
 TEST(Output, FollowsALinkAndKeepsIt) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     folder.write("file", "old");
     folder.makeFolder("normal");
@@ -70,6 +71,7 @@ TEST(Output, FollowsALinkAndKeepsIt) {
 }
 
 TEST(Output, KeepsThePermissionsOfTheFileThatItReplaces) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     folder.write("old.html", "old");
     fs::permissions(folder.path() / "old.html", fs::perms::owner_read | fs::perms::owner_write);
@@ -80,6 +82,7 @@ TEST(Output, KeepsThePermissionsOfTheFileThatItReplaces) {
 }
 
 TEST(Output, GoesIntoAPipeThatIsNamedAsAFile) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     runScript(folder, "mkfifo pipe.ndjson; cat pipe.ndjson > out & $tool export g.json -o pipe.ndjson; wait;"
                       "$tool export g.json -o >(cat > never) 2> /dev/null; [ -p pipe.ndjson ] && echo yes > kept");
@@ -88,6 +91,7 @@ TEST(Output, GoesIntoAPipeThatIsNamedAsAFile) {
 }
 
 TEST(Output, LeavesTheFileAsItWasWhenTheDiskIsFull) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     folder.write("out.ndjson", "as it was");
     runScript(folder,
@@ -137,6 +141,7 @@ const std::string slowReading = "mkfifo slow.ndjson; (sleep 1.2; echo ']') > slo
                                 pathOfTool() + "' check --quiet slow.ndjson";
 
 TEST(Progress, IsShownOnATerminalWhenReadingTakesLong) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     folder.write("slow.sh", slowReading);
     ASSERT_EQ(std::system(("cd '" + folder.path().string() + "' && script -qc 'bash slow.sh' seen >/dev/null").c_str()),
@@ -146,6 +151,7 @@ TEST(Progress, IsShownOnATerminalWhenReadingTakesLong) {
 }
 
 TEST(Progress, IsNotShownElsewhere) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     folder.write("slow.sh", slowReading);
     std::ignore = std::system(("cd '" + folder.path().string() + "' && bash slow.sh 2>seen >out").c_str());
@@ -154,6 +160,7 @@ TEST(Progress, IsNotShownElsewhere) {
 }
 
 TEST(Progress, IsShownWhenStandardInputTakesLongAndIsEmpty) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     runScript(folder, "script -qec \"bash -c 'sleep 1.2 | $tool check -q -'\" seen > /dev/null < /dev/null");
     EXPECT_THAT(folder.read("seen"), HasSubstr("<stdin>:1:1: JSON parsing error at offset 0: The document is empty."));

@@ -43,6 +43,11 @@ std::string pathOfTool() {
     return given != nullptr ? given : OSTRA_PARAMS_TOOL;
 }
 
+bool isToolForWindows() {
+    const char* const system = std::getenv("OSTRA_TOOL_SYSTEM");
+    return system != nullptr && std::string(system) == "Windows";
+}
+
 Folder::Folder() : path_(makeTemporaryFolder()) {}
 
 Folder::~Folder() {

@@ -17,6 +17,16 @@ std::string contentOf(const std::filesystem::path& file);
 /// Returns the path of the tool: that of this build, or the one that OSTRA_TOOL names, which may be another platform's.
 std::string pathOfTool();
 
+/// Returns whether that tool is one for Windows, as OSTRA_TOOL_SYSTEM says.
+bool isToolForWindows();
+
+/// Skips a test of what Windows does not know: its sockets, pipes, links and permissions are others.
+#define SKIP_FOR_WINDOWS()                                                                                             \
+    if (isToolForWindows()) {                                                                                          \
+        GTEST_SKIP() << "Windows does not know this.";                                                                 \
+    }                                                                                                                  \
+    static_assert(true, "so that a semicolon follows")
+
 /// A folder of its own for each test, in which the tool runs and which goes with the test.
 class Folder {
 public:

@@ -82,6 +82,7 @@ TEST(Tool, ChecksNothingWhenOneOfThePathsIsMissing) {
 class BrokenFile : public testing::TestWithParam<const char*> {};
 
 TEST_P(BrokenFile, IsFaultyAndNotTakenForAShortOne) {
+    SKIP_FOR_WINDOWS();
     const std::string unreadable = "/proc/self/mem"; // opens, but has nothing at its start
     if (!std::filesystem::exists(unreadable)) {
         GTEST_SKIP() << "There is no file that opens and cannot be read.";
@@ -112,6 +113,7 @@ struct Printing {
 class FullDevice : public testing::TestWithParam<Printing> {};
 
 TEST_P(FullDevice, IsSaid) {
+    SKIP_FOR_WINDOWS();
     if (!std::filesystem::exists("/dev/full")) {
         GTEST_SKIP() << "There is no device that refuses what is written to it.";
     }
