@@ -101,9 +101,9 @@ def enumeration(data):
 def bounded(number):
     def show(data):
         parts = [identified(data)]
-        for preposition, present in (("from", data + WORD), ("to", data + 3 * WORD)):
-            if flag(present):
-                parts.append(f"{preposition} {read(number, present + WORD)[0]}")
+        for preposition, place in (("from", 0), ("to", 1)):
+            if flag(data + 3 * WORD + place):
+                parts.append(f"{preposition} {read(number, data + (1 + place) * WORD)[0]}")
         return " ".join(parts)
 
     return show
@@ -172,20 +172,35 @@ def members(value):
             yield from members(value[field])
 
 
-def pointers(handle):
-    """The two pointers of a handle: to its data, and to the counts of its owners."""
+def pointers(handle, count):
+    """The pointers of a handle, of which the first is that to its data."""
     if handle.address is None:  # what a function returned
-        data, counts = members(handle)
-        return data, counts
-    return read("QQ", int(handle.address))  # a compiler may have said nothing of its members
+        found = list(members(handle))
+        if len(found) != count:
+            raise ValueError
+        return found
+    return read(count * "Q", int(handle.address))  # a compiler may have said nothing of its members
 
 
-def check_owned(counts):
-    """Data that nobody owns is gone; its memory may still look like it."""
-    functions, owners, others = read("Qii", counts)
-    read("Q", functions)
-    if owners <= 0 or others <= 0:
-        raise Damaged
+# Data that nobody owns is gone; its memory may still look like it.
+
+
+def owned(handle):
+    """The data of a handle of OstraParameters, before which lies the number of its owners."""
+    (data,) = pointers(handle, 1)
+    return data, lambda: read("i", data - WORD)[0] > 0
+
+
+def shared(handle):
+    """The data of a handle of OstraUnits, a std::shared_ptr."""
+    data, counts = pointers(handle, 2)
+
+    def is_owned():
+        functions, owners, others = read("Qii", counts)
+        read("Q", functions)
+        return owners > 0 and others > 0
+
+    return data, is_owned
 
 
 class HandlePrinter:
@@ -199,11 +214,12 @@ class HandlePrinter:
         if handle.type.code in (gdb.TYPE_CODE_REF, gdb.TYPE_CODE_RVALUE_REF):
             handle = handle.referenced_value()
         try:
-            data, counts = pointers(handle)
+            data, is_owned = (shared if self.show is unit else owned)(handle)
         except (ValueError, gdb.error):
             return f"{self.name} <unknown>"
         try:
-            check_owned(counts)
+            if not is_owned():
+                raise Damaged
             return f"{self.name} {self.show(data)}"
         except (Damaged, OverflowError, gdb.error):
             return f"{self.name} <{data:#x}>"

@@ -3,10 +3,10 @@
 #include <parameters/BoolSpec.h>
 #include <parameters/Export.h>
 #include <parameters/ParameterCore.h>
+#include <parameters/Ref.h>
 #include <parameters/Value.h>
 
 #include <functional>
-#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -62,7 +62,7 @@ public:
 private:
     friend struct Internal::Access;
     using Data = Internal::BoolParameterData;
-    BoolParameter(std::shared_ptr<const Internal::ParameterCoreData> data, Internal::Key key) noexcept
+    BoolParameter(Internal::Ref<const Internal::ParameterCoreData> data, Internal::Key key) noexcept
         : core_(std::move(data), key) {}
 
     ParameterCore core_; // the part of the data that all parameters have

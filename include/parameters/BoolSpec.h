@@ -1,11 +1,11 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/SpecCore.h>
 #include <parameters/Value.h>
 
 #include <functional>
-#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -53,7 +53,7 @@ public:
 private:
     friend struct Internal::Access;
     using Data = Internal::SpecCoreData;
-    BoolSpec(std::shared_ptr<const Internal::SpecCoreData> data, Internal::Key key) noexcept
+    BoolSpec(Internal::Ref<const Internal::SpecCoreData> data, Internal::Key key) noexcept
         : core_(std::move(data), key) {}
 
     SpecCore core_; // the part of the data that all specs have

@@ -2,11 +2,11 @@
 
 #include <parameters/Export.h>
 #include <parameters/MajorCategoryComponent.h>
+#include <parameters/Ref.h>
 #include <parameters/SubCategoryComponent.h>
 #include <parameters/Value.h>
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -67,9 +67,9 @@ public:
 
 private:
     friend struct Internal::Access;
-    Category(std::shared_ptr<const Internal::CategoryData> data, Internal::Key) noexcept : data_(std::move(data)) {}
+    Category(Internal::Ref<const Internal::CategoryData> data, Internal::Key) noexcept : data_(std::move(data)) {}
 
-    std::shared_ptr<const Internal::CategoryData> data_;
+    Internal::Ref<const Internal::CategoryData> data_;
 };
 
 } // namespace Parameters

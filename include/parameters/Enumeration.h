@@ -1,12 +1,12 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/Value.h>
 #include <parameters/Views.h>
 
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -55,10 +55,9 @@ public:
 
 private:
     friend struct Internal::Access;
-    Enumeration(std::shared_ptr<const Internal::EnumerationData> data, Internal::Key) noexcept
-        : data_(std::move(data)) {}
+    Enumeration(Internal::Ref<const Internal::EnumerationData> data, Internal::Key) noexcept : data_(std::move(data)) {}
 
-    std::shared_ptr<const Internal::EnumerationData> data_;
+    Internal::Ref<const Internal::EnumerationData> data_;
 };
 
 } // namespace Parameters

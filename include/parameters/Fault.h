@@ -1,10 +1,10 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/Value.h>
 
 #include <cstddef>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -80,9 +80,9 @@ public:
 
 private:
     friend struct Internal::Access;
-    Fault(std::shared_ptr<const Internal::FaultData> data, Internal::Key) noexcept : data_(std::move(data)) {}
+    Fault(Internal::Ref<const Internal::FaultData> data, Internal::Key) noexcept : data_(std::move(data)) {}
 
-    std::shared_ptr<const Internal::FaultData> data_;
+    Internal::Ref<const Internal::FaultData> data_;
 };
 
 } // namespace Parameters

@@ -4,10 +4,10 @@
 #include <parameters/IntRange.h>
 #include <parameters/IntSpec.h>
 #include <parameters/ParameterCore.h>
+#include <parameters/Ref.h>
 #include <parameters/Value.h>
 
 #include <functional>
-#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -69,7 +69,7 @@ public:
 private:
     friend struct Internal::Access;
     using Data = Internal::RangedParameterData<IntSpec, IntRange>;
-    IntParameter(std::shared_ptr<const Internal::ParameterCoreData> data, Internal::Key key) noexcept
+    IntParameter(Internal::Ref<const Internal::ParameterCoreData> data, Internal::Key key) noexcept
         : core_(std::move(data), key) {}
 
     ParameterCore core_; // the part of the data that all parameters have

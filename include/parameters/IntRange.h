@@ -1,10 +1,10 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/Value.h>
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -62,10 +62,10 @@ public:
 
 private:
     friend struct Internal::Access;
-    IntRange(std::shared_ptr<const Internal::NumericRangeData<long long>> data, Internal::Key) noexcept
+    IntRange(Internal::Ref<const Internal::NumericRangeData<long long>> data, Internal::Key) noexcept
         : data_(std::move(data)) {}
 
-    std::shared_ptr<const Internal::NumericRangeData<long long>> data_;
+    Internal::Ref<const Internal::NumericRangeData<long long>> data_;
 };
 
 } // namespace Parameters

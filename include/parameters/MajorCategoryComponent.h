@@ -1,11 +1,11 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/Taxon.h>
 #include <parameters/Value.h>
 #include <parameters/Views.h>
 
-#include <memory>
 #include <utility>
 #include <vector>
 
@@ -41,10 +41,10 @@ public:
 
 private:
     friend struct Internal::Access;
-    MajorCategoryComponent(std::shared_ptr<const Internal::MajorCategoryComponentData> data, Internal::Key) noexcept
+    MajorCategoryComponent(Internal::Ref<const Internal::MajorCategoryComponentData> data, Internal::Key) noexcept
         : data_(std::move(data)) {}
 
-    std::shared_ptr<const Internal::MajorCategoryComponentData> data_;
+    Internal::Ref<const Internal::MajorCategoryComponentData> data_;
 };
 
 } // namespace Parameters

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/SpecCore.h>
 #include <parameters/Value.h>
 #include <parameters/Views.h>
@@ -8,7 +9,6 @@
 #include <units/Unit.h>
 
 #include <functional>
-#include <memory>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -73,7 +73,7 @@ public:
 private:
     friend struct Internal::Access;
     using Data = Internal::MeasurableSpecData;
-    MeasurableSpec(std::shared_ptr<const Internal::SpecCoreData> data, Internal::Key key) noexcept
+    MeasurableSpec(Internal::Ref<const Internal::SpecCoreData> data, Internal::Key key) noexcept
         : core_(std::move(data), key) {}
 
     SpecCore core_; // the part of the data that all specs have

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/Taxon.h>
 #include <parameters/Value.h>
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -28,7 +28,7 @@ public:
     ParameterCore(const std::string& typeId, const std::string& name, const Taxon& group,
                   const std::string& description, const std::string& sampleText, bool readOnly);
     /// For the library: the core that is part of other data.
-    ParameterCore(std::shared_ptr<const Internal::ParameterCoreData> data, Internal::Key) noexcept
+    ParameterCore(Internal::Ref<const Internal::ParameterCoreData> data, Internal::Key) noexcept
         : data_(std::move(data)) {}
     /// Copies share their data; moving copies.
     /// @{
@@ -78,7 +78,7 @@ public:
 private:
     friend struct Internal::Access;
 
-    std::shared_ptr<const Internal::ParameterCoreData> data_;
+    Internal::Ref<const Internal::ParameterCoreData> data_;
 };
 
 } // namespace Parameters

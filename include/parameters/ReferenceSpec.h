@@ -2,11 +2,11 @@
 
 #include <parameters/Category.h>
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/SpecCore.h>
 #include <parameters/Value.h>
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -61,7 +61,7 @@ public:
 private:
     friend struct Internal::Access;
     using Data = Internal::ReferenceSpecData;
-    ReferenceSpec(std::shared_ptr<const Internal::SpecCoreData> data, Internal::Key key) noexcept
+    ReferenceSpec(Internal::Ref<const Internal::SpecCoreData> data, Internal::Key key) noexcept
         : core_(std::move(data), key) {}
 
     SpecCore core_; // the part of the data that all specs have

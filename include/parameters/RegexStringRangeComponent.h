@@ -1,9 +1,9 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/Value.h>
 
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -37,11 +37,10 @@ public:
 
 private:
     friend struct Internal::Access;
-    RegexStringRangeComponent(std::shared_ptr<const Internal::RegexStringRangeComponentData> data,
-                              Internal::Key) noexcept
+    RegexStringRangeComponent(Internal::Ref<const Internal::RegexStringRangeComponentData> data, Internal::Key) noexcept
         : data_(std::move(data)) {}
 
-    std::shared_ptr<const Internal::RegexStringRangeComponentData> data_;
+    Internal::Ref<const Internal::RegexStringRangeComponentData> data_;
 };
 
 } // namespace Parameters

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/Value.h>
 #include <parameters/Views.h>
 
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -36,10 +36,10 @@ public:
 
 private:
     friend struct Internal::Access;
-    SetStringRangeComponent(std::shared_ptr<const Internal::SetStringRangeComponentData> data, Internal::Key) noexcept
+    SetStringRangeComponent(Internal::Ref<const Internal::SetStringRangeComponentData> data, Internal::Key) noexcept
         : data_(std::move(data)) {}
 
-    std::shared_ptr<const Internal::SetStringRangeComponentData> data_;
+    Internal::Ref<const Internal::SetStringRangeComponentData> data_;
 };
 
 } // namespace Parameters

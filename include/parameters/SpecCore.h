@@ -1,11 +1,11 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/Taxon.h>
 #include <parameters/Value.h>
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -26,7 +26,7 @@ public:
     /// Makes a core with a discipline.
     SpecCore(const std::string& typeId, const std::string& name, const Taxon& discipline);
     /// For the library: the core that is part of other data.
-    SpecCore(std::shared_ptr<const Internal::SpecCoreData> data, Internal::Key) noexcept : data_(std::move(data)) {}
+    SpecCore(Internal::Ref<const Internal::SpecCoreData> data, Internal::Key) noexcept : data_(std::move(data)) {}
     /// Copies share their data; moving copies.
     /// @{
     SpecCore(const SpecCore&) noexcept = default;
@@ -63,7 +63,7 @@ public:
 private:
     friend struct Internal::Access;
 
-    std::shared_ptr<const Internal::SpecCoreData> data_;
+    Internal::Ref<const Internal::SpecCoreData> data_;
 };
 
 } // namespace Parameters

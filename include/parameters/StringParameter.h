@@ -2,12 +2,12 @@
 
 #include <parameters/Export.h>
 #include <parameters/ParameterCore.h>
+#include <parameters/Ref.h>
 #include <parameters/StringRange.h>
 #include <parameters/StringSpec.h>
 #include <parameters/Value.h>
 
 #include <functional>
-#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -69,7 +69,7 @@ public:
 private:
     friend struct Internal::Access;
     using Data = Internal::RangedParameterData<StringSpec, StringRange>;
-    StringParameter(std::shared_ptr<const Internal::ParameterCoreData> data, Internal::Key key) noexcept
+    StringParameter(Internal::Ref<const Internal::ParameterCoreData> data, Internal::Key key) noexcept
         : core_(std::move(data), key) {}
 
     ParameterCore core_; // the part of the data that all parameters have

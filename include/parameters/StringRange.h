@@ -1,12 +1,12 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/RegexStringRangeComponent.h>
 #include <parameters/SetStringRangeComponent.h>
 #include <parameters/Value.h>
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -71,10 +71,9 @@ public:
 
 private:
     friend struct Internal::Access;
-    StringRange(std::shared_ptr<const Internal::StringRangeData> data, Internal::Key) noexcept
-        : data_(std::move(data)) {}
+    StringRange(Internal::Ref<const Internal::StringRangeData> data, Internal::Key) noexcept : data_(std::move(data)) {}
 
-    std::shared_ptr<const Internal::StringRangeData> data_;
+    Internal::Ref<const Internal::StringRangeData> data_;
 };
 
 } // namespace Parameters

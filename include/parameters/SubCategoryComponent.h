@@ -1,9 +1,9 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/Value.h>
 
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -35,10 +35,10 @@ public:
 
 private:
     friend struct Internal::Access;
-    SubCategoryComponent(std::shared_ptr<const Internal::SubCategoryComponentData> data, Internal::Key) noexcept
+    SubCategoryComponent(Internal::Ref<const Internal::SubCategoryComponentData> data, Internal::Key) noexcept
         : data_(std::move(data)) {}
 
-    std::shared_ptr<const Internal::SubCategoryComponentData> data_;
+    Internal::Ref<const Internal::SubCategoryComponentData> data_;
 };
 
 } // namespace Parameters

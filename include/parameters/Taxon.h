@@ -1,10 +1,10 @@
 #pragma once
 
 #include <parameters/Export.h>
+#include <parameters/Ref.h>
 #include <parameters/Value.h>
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -52,9 +52,9 @@ public:
 
 private:
     friend struct Internal::Access;
-    Taxon(std::shared_ptr<const Internal::TaxonData> data, Internal::Key) noexcept : data_(std::move(data)) {}
+    Taxon(Internal::Ref<const Internal::TaxonData> data, Internal::Key) noexcept : data_(std::move(data)) {}
 
-    std::shared_ptr<const Internal::TaxonData> data_;
+    Internal::Ref<const Internal::TaxonData> data_;
 };
 
 } // namespace Parameters

@@ -8,19 +8,19 @@
 namespace Parameters::Internal {
 
 const Directory::Entry* Directory::find(const Key& key) const noexcept {
-    if (slots_.empty()) {
-        return nullptr;
-    }
+    const EntryId id = slots_.empty() ? none : slots_[search(key)].entry;
+    return id != none ? &entries_[id] : nullptr;
+}
+
+/// Returns the place of the slot of a typeid, or that of the empty one where it would go.
+std::size_t Directory::search(const Key& key) const noexcept {
     const std::size_t mask = slots_.size() - 1;
-    for (std::size_t at = key.hash & mask; slots_[at].entry != none; at = (at + 1) & mask) {
-        if (slots_[at].hash == key.hash) {
-            const Entry& entry = entries_[slots_[at].entry];
-            if (entry.typeId == key.typeId) {
-                return &entry;
-            }
-        }
+    std::size_t at = key.hash & mask;
+    while (slots_[at].entry != none &&
+           (slots_[at].hash != key.hash || entries_[slots_[at].entry].typeId != key.typeId)) {
+        at = (at + 1) & mask;
     }
-    return nullptr;
+    return at;
 }
 
 void Directory::reserveOne() {
@@ -30,9 +30,7 @@ void Directory::reserveOne() {
     if (entries_.size() >= limit) {
         throw std::length_error(EngineMessages::messages("engine-full").with({}));
     }
-    if (entries_.size() == entries_.capacity()) {
-        entries_.reserve(std::max<std::size_t>(8, entries_.capacity() * 2));
-    }
+    entries_.reserveOne();
     // Three quarters full is where runs of taken slots begin to cost.
     if ((entries_.size() + 1) * 4 > slots_.size() * 3) {
         enlarge(std::max<std::size_t>(16, slots_.size() * 2));
@@ -46,7 +44,7 @@ Directory::EntryId Directory::add(const Entry& entry, std::uint32_t hash) noexce
         entries_[id] = entry;
     } else {
         id = static_cast<EntryId>(entries_.size());
-        entries_.push_back(entry);
+        entries_.add(entry);
     }
     place({hash, id});
     return id;

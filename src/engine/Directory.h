@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/Chunked.h"
 #include "schema/Hash.h"
 
 #include <concepts>
@@ -45,7 +46,8 @@ public:
     EntryId add(const Entry& entry, std::uint32_t hash) noexcept;
     /// Removes an entry. The next one that is added takes its id.
     void remove(EntryId id) noexcept;
-    EntryId idOf(const Entry& entry) const noexcept { return static_cast<EntryId>(&entry - entries_.data()); }
+    /// Returns the id of a typeid that has an entry.
+    EntryId idOf(const Key& key) const noexcept { return slots_[search(key)].entry; }
 
 private:
     struct Slot {
@@ -57,10 +59,11 @@ private:
 
     void enlarge(std::size_t slotCount);
     void place(Slot slot) noexcept;
+    std::size_t search(const Key& key) const noexcept;
     std::size_t slotOf(EntryId id) const noexcept;
     void vacate(std::size_t at) noexcept;
 
-    std::vector<Entry> entries_;
+    Chunked<Entry> entries_;
     EntryId free_ = none;     // an id that is free; the place of its entry is the next one
     std::vector<Slot> slots_; // a power of two of them, or none; collisions go to the next slot
 };

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "engine/CopyOnWrite.h"
 #include "engine/Kinds.h"
 #include "engine/Messages.h"
 #include "engine/Registry.h"
 #include "engine/Resolution.h"
 #include "model/ValidationExceptionFactory.h"
+#include "schema/CopyOnWrite.h"
 #include "schema/Schema.h"
 
 #include <parameters/Fault.h>
@@ -139,7 +139,7 @@ private:
     void findMissing(const typename K::Record& record, Missing& missing) const;
     void findMissing(const Texts& named, std::string_view ownTypeId, std::set<std::string>& missing) const;
 
-    CopyOnWrite<Registry> registry_;
+    Ostra::CopyOnWrite<Registry> registry_;
     Units::UnitsEngine units_;
 };
 

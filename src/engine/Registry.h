@@ -143,7 +143,7 @@ public:
 
     /// Withdraws a record that is pending.
     void discardPending(std::string_view typeId) noexcept {
-        const Directory::EntryId id = directory_.idOf(*find(typeId));
+        const Directory::EntryId id = directory_.idOf(typeId);
         withKind(directory_[id].kind, [&]<class K>() {
             auto& pending = std::get<kindIndex<K>>(stores_).pending;
             const std::uint32_t place = directory_[id].place;

@@ -5,6 +5,7 @@
 #include "engine/Messages.h"
 #include "engine/Resolution.h"
 #include "model/Access.h"
+#include "model/MakeRef.h"
 #include "schema/Hash.h"
 #include "schema/Inspection.h"
 #include "schema/Schema.h"
@@ -422,7 +423,7 @@ std::vector<Fault> Review::faults() {
     std::vector<Fault> faults;
     faults.reserve(faults_.size());
     for (TextFault& fault : faults_) {
-        faults.push_back(Access::make<Fault>(std::make_shared<const FaultData>(std::move(fault.data))));
+        faults.push_back(Access::make<Fault>(makeRef<FaultData>(std::move(fault.data))));
     }
     return faults;
 }

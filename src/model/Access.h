@@ -1,11 +1,11 @@
 #pragma once
 
+#include <parameters/Ref.h>
 #include <parameters/Value.h>
 #include <parameters/Views.h>
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -33,18 +33,18 @@ struct Access {
         }
     }
     template <class Value, class Data>
-    static Value make(std::shared_ptr<Data> data) noexcept {
+    static Value make(Ref<Data> data) noexcept {
         return Value(std::move(data), Key(0));
     }
 
     /// A handle without data, for a place whose value is not there. It never leaves the library.
     template <class Value>
     static Value none() noexcept {
-        return Value(nullptr, Key(0));
+        return Value({}, Key(0));
     }
     template <class Value>
     static bool isNone(const Value& value) noexcept {
-        return shared(value) == nullptr;
+        return !shared(value);
     }
     /// Puts a value in a place without touching its count: handles can only be copied, lest others see one without
     /// data.

@@ -1,5 +1,6 @@
 #include "model/BoolParameter.h"
 
+#include "model/MakeRef.h"
 #include "model/Writing.h"
 
 #include <memory>
@@ -10,7 +11,7 @@ namespace Parameters {
 namespace {
 
 BoolParameter parameterOf(Internal::BoolParameterData data) {
-    return Internal::Access::make<BoolParameter>(std::make_shared<const Internal::BoolParameterData>(std::move(data)));
+    return Internal::Access::make<BoolParameter>(Internal::makeRef<Internal::BoolParameterData>(std::move(data)));
 }
 
 } // namespace

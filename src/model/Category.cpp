@@ -1,5 +1,6 @@
 #include "model/Category.h"
 
+#include "model/MakeRef.h"
 #include "model/Taxon.h"
 #include "model/Writing.h"
 #include "schema/Constants.h"
@@ -16,17 +17,17 @@ using Internal::Access;
 using Internal::CategoryData;
 
 Category categoryOf(CategoryData data) {
-    return Access::make<Category>(std::make_shared<const CategoryData>(std::move(data)));
+    return Access::make<Category>(Internal::makeRef<CategoryData>(std::move(data)));
 }
 
 MajorCategoryComponent majorOf(Internal::MajorCategoryComponentData data) {
     return Access::make<MajorCategoryComponent>(
-        std::make_shared<const Internal::MajorCategoryComponentData>(std::move(data)));
+        Internal::makeRef<Internal::MajorCategoryComponentData>(std::move(data)));
 }
 
 SubCategoryComponent subOf(std::string_view parentCategory) {
     using Data = Internal::SubCategoryComponentData;
-    return Access::make<SubCategoryComponent>(std::make_shared<const Data>(Data{{parentCategory}}));
+    return Access::make<SubCategoryComponent>(Internal::makeRef<Data>(Data{{parentCategory}}));
 }
 
 std::string_view parentOf(const SubCategoryComponent& component) { return Access::data(component).parentCategory[0]; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/MakeRef.h"
 #include "model/SpecCore.h"
 #include "model/Writing.h"
 #include "schema/Schema.h"
@@ -45,9 +46,7 @@ struct CoreSpecKind : DescribedKind<P> {
     }
 
 private:
-    static Spec of(SpecCoreData core) {
-        return Access::make<Spec>(std::make_shared<const SpecCoreData>(std::move(core)));
-    }
+    static Spec of(SpecCoreData core) { return Access::make<Spec>(makeRef<SpecCoreData>(std::move(core))); }
 };
 
 } // namespace Parameters::Internal

@@ -1,5 +1,6 @@
 #include "model/Enumeration.h"
 
+#include "model/MakeRef.h"
 #include "model/Messages.h"
 #include "model/ValidationExceptionFactory.h"
 #include "schema/SchemaWriter.h"
@@ -33,7 +34,7 @@ EnumerationData dataOf(std::string_view typeId, const std::vector<std::pair<std:
 } // namespace
 
 Enumeration::Enumeration(const std::string& typeId, const std::vector<std::pair<std::string, std::int64_t>>& values)
-    : data_(std::make_shared<const EnumerationData>(dataOf(typeId, values))) {}
+    : data_(Internal::makeRef<EnumerationData>(dataOf(typeId, values))) {}
 
 std::string Enumeration::getTypeId() const { return std::string(typeId()); }
 
@@ -114,7 +115,7 @@ Enumeration EnumerationKind::build(const Record& record, const Finder& finder, c
     if (finder.binds()) {
         check(record); // a text's values have been checked since they were read
     }
-    return Access::make<Enumeration>(std::make_shared<const EnumerationData>(record));
+    return Access::make<Enumeration>(makeRef<EnumerationData>(record));
 }
 
 std::string EnumerationKind::write(const Enumeration& enumeration) {

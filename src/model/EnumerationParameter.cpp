@@ -1,5 +1,6 @@
 #include "model/EnumerationParameter.h"
 
+#include "model/MakeRef.h"
 #include "model/Writing.h"
 #include "schema/Constants.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 EnumerationParameter parameterOf(Internal::EnumerationParameterData data) {
     return Internal::Access::make<EnumerationParameter>(
-        std::make_shared<const Internal::EnumerationParameterData>(std::move(data)));
+        Internal::makeRef<Internal::EnumerationParameterData>(std::move(data)));
 }
 
 } // namespace

@@ -4,11 +4,11 @@ namespace Parameters {
 
 FloatRange::FloatRange(const std::string& typeId, bool fromBottom, double bottomBoundary, bool fromTop,
                        double topBoundary)
-    : FloatRange(Internal::FloatRangeKind::of({{typeId}, fromBottom, bottomBoundary, fromTop, topBoundary})) {}
+    : FloatRange(Internal::FloatRangeKind::of({{typeId}, bottomBoundary, topBoundary, fromBottom, fromTop})) {}
 
 FloatRange::FloatRange(bool fromBottom, double bottomBoundary, bool fromTop, double topBoundary)
     : FloatRange(Internal::FloatRangeKind::of(
-          {Internal::FloatRangeKind::baseTexts(), fromBottom, bottomBoundary, fromTop, topBoundary})) {}
+          {Internal::FloatRangeKind::baseTexts(), bottomBoundary, topBoundary, fromBottom, fromTop})) {}
 
 std::string FloatRange::getTypeId() const { return std::string(typeId()); }
 

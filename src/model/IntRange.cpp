@@ -4,11 +4,11 @@ namespace Parameters {
 
 IntRange::IntRange(const std::string& typeId, bool fromBottom, long long bottomBoundary, bool fromTop,
                    long long topBoundary)
-    : IntRange(Internal::IntRangeKind::of({{typeId}, fromBottom, bottomBoundary, fromTop, topBoundary})) {}
+    : IntRange(Internal::IntRangeKind::of({{typeId}, bottomBoundary, topBoundary, fromBottom, fromTop})) {}
 
 IntRange::IntRange(bool fromBottom, long long bottomBoundary, bool fromTop, long long topBoundary)
     : IntRange(Internal::IntRangeKind::of(
-          {Internal::IntRangeKind::baseTexts(), fromBottom, bottomBoundary, fromTop, topBoundary})) {}
+          {Internal::IntRangeKind::baseTexts(), bottomBoundary, topBoundary, fromBottom, fromTop})) {}
 
 std::string IntRange::getTypeId() const { return std::string(typeId()); }
 

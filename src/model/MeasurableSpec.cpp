@@ -1,5 +1,6 @@
 #include "model/MeasurableSpec.h"
 
+#include "model/MakeRef.h"
 #include "model/Writing.h"
 #include "schema/Constants.h"
 
@@ -12,8 +13,7 @@ namespace Parameters {
 namespace {
 
 MeasurableSpec specOf(Internal::MeasurableSpecData data) {
-    return Internal::Access::make<MeasurableSpec>(
-        std::make_shared<const Internal::MeasurableSpecData>(std::move(data)));
+    return Internal::Access::make<MeasurableSpec>(Internal::makeRef<Internal::MeasurableSpecData>(std::move(data)));
 }
 
 } // namespace

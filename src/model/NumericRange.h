@@ -3,6 +3,7 @@
 #include "model/Access.h"
 #include "model/Finder.h"
 #include "model/Kind.h"
+#include "model/MakeRef.h"
 #include "model/Messages.h"
 #include "model/RangeConstant.h"
 #include "model/Texts.h"
@@ -23,10 +24,10 @@ namespace Parameters::Internal {
 template <class Number>
 struct NumericRangeData {
     Texts texts; // typeid
-    bool fromBottom;
     Number bottomBoundary;
-    bool fromTop;
     Number topBoundary;
+    bool fromBottom;
+    bool fromTop;
 
     std::string_view typeId() const { return texts[0]; }
 };
@@ -61,7 +62,7 @@ public:
         if (schema.view().isInspected()) [[unlikely]] {
             inspect([&constants](std::string_view id) { return constants.find(id); });
         }
-        return Record{{schema.typeId()}, fromBottom, bottom, fromTop, top};
+        return Record{{schema.typeId()}, bottom, top, fromBottom, fromTop};
     }
 
     static Record recordOf(const Object& range) { return Access::data(range); }
@@ -119,7 +120,7 @@ public:
         writer.endObject();
     }
 
-    static Object of(Record record) { return Access::make<Object>(std::make_shared<const Record>(std::move(record))); }
+    static Object of(Record record) { return Access::make<Object>(makeRef<Record>(std::move(record))); }
 
     /// Returns the texts of a range that belongs to a parameter; all of them share one block.
     static Texts baseTexts() {

@@ -1,5 +1,6 @@
 #include "model/ParameterCore.h"
 
+#include "model/MakeRef.h"
 #include "model/Taxon.h"
 
 #include <string>
@@ -12,7 +13,7 @@ ParameterCore::ParameterCore(const std::string& typeId, const std::string& name,
 
 ParameterCore::ParameterCore(const std::string& typeId, const std::string& name, const Taxon& group,
                              const std::string& description, const std::string& sampleText, bool readOnly)
-    : data_(std::make_shared<const Internal::ParameterCoreData>(Internal::ParameterCoreData{
+    : data_(Internal::makeRef<Internal::ParameterCoreData>(Internal::ParameterCoreData{
           .texts = {typeId, name, description, sampleText}, .group = group, .readOnly = readOnly})) {}
 
 std::string ParameterCore::getTypeId() const { return std::string(typeId()); }

@@ -3,6 +3,7 @@
 #include "model/Access.h"
 #include "model/Finder.h"
 #include "model/Kind.h"
+#include "model/MakeRef.h"
 #include "model/ParameterCore.h"
 #include "model/RangeConstant.h"
 #include "model/Writing.h"
@@ -94,7 +95,7 @@ public:
 
     static Object make(ParameterCoreData&& core, const Spec& spec, const Range& range) {
         using Data = RangedParameterData<Spec, Range>;
-        return Access::make<Object>(std::make_shared<const Data>(Data{std::move(core), spec, range}));
+        return Access::make<Object>(makeRef<Data>(Data{std::move(core), spec, range}));
     }
 
 private:

@@ -1,6 +1,7 @@
 #include "model/ReferenceParameter.h"
 
 #include "model/Category.h"
+#include "model/MakeRef.h"
 #include "model/Writing.h"
 #include "schema/Constants.h"
 
@@ -16,7 +17,7 @@ namespace {
 
 ReferenceParameter parameterOf(Internal::ReferenceParameterData data) {
     return Internal::Access::make<ReferenceParameter>(
-        std::make_shared<const Internal::ReferenceParameterData>(std::move(data)));
+        Internal::makeRef<Internal::ReferenceParameterData>(std::move(data)));
 }
 
 } // namespace

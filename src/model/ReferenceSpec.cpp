@@ -1,6 +1,7 @@
 #include "model/ReferenceSpec.h"
 
 #include "model/Category.h"
+#include "model/MakeRef.h"
 #include "model/Writing.h"
 #include "schema/Constants.h"
 
@@ -13,8 +14,7 @@ namespace {
 
 ReferenceSpec specOf(Internal::SpecCoreData core, std::optional<Category> category) {
     using Data = Internal::ReferenceSpecData;
-    return Internal::Access::make<ReferenceSpec>(
-        std::make_shared<const Data>(Data{std::move(core), std::move(category)}));
+    return Internal::Access::make<ReferenceSpec>(Internal::makeRef<Data>(Data{std::move(core), std::move(category)}));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "model/SpecCore.h"
 
+#include "model/MakeRef.h"
 #include "model/Taxon.h"
 
 #include <string>
@@ -7,10 +8,10 @@
 namespace Parameters {
 
 SpecCore::SpecCore(const std::string& typeId, const std::string& name)
-    : data_(std::make_shared<const Internal::SpecCoreData>(Internal::commonSpecCore(typeId, name))) {}
+    : data_(Internal::makeRef<Internal::SpecCoreData>(Internal::commonSpecCore(typeId, name))) {}
 
 SpecCore::SpecCore(const std::string& typeId, const std::string& name, const Taxon& discipline)
-    : data_(std::make_shared<const Internal::SpecCoreData>(Internal::SpecCoreData{{typeId, name}, discipline})) {}
+    : data_(Internal::makeRef<Internal::SpecCoreData>(Internal::SpecCoreData{{typeId, name}, discipline})) {}
 
 std::string SpecCore::getTypeId() const { return std::string(typeId()); }
 

@@ -1,5 +1,6 @@
 #include "model/StringRange.h"
 
+#include "model/MakeRef.h"
 #include "model/Messages.h"
 #include "model/Writing.h"
 #include "schema/Immortal.h"
@@ -23,17 +24,17 @@ using Internal::StringRangeKind;
 using Internal::Texts;
 
 StringRange rangeOf(StringRangeData data) {
-    return Access::make<StringRange>(std::make_shared<const StringRangeData>(std::move(data)));
+    return Access::make<StringRange>(Internal::makeRef<StringRangeData>(std::move(data)));
 }
 
 SetStringRangeComponent setOf(std::span<const std::string_view> values) {
     using Data = Internal::SetStringRangeComponentData;
-    return Access::make<SetStringRangeComponent>(std::make_shared<const Data>(Data{Texts(values)}));
+    return Access::make<SetStringRangeComponent>(Internal::makeRef<Data>(Data{Texts(values)}));
 }
 
 RegexStringRangeComponent regexOf(std::string_view regex) {
     using Data = Internal::RegexStringRangeComponentData;
-    return Access::make<RegexStringRangeComponent>(std::make_shared<const Data>(Data{{regex}}));
+    return Access::make<RegexStringRangeComponent>(Internal::makeRef<Data>(Data{{regex}}));
 }
 
 std::string_view regexIn(const RegexStringRangeComponent& component) { return Access::data(component).regex[0]; }

@@ -1,5 +1,6 @@
 #include "model/Taxon.h"
 
+#include "model/MakeRef.h"
 #include "model/Writing.h"
 #include "schema/Constants.h"
 
@@ -23,9 +24,7 @@ PARAMETERS_COMPARE_BY_TYPEID(Taxon)
 
 namespace Internal {
 
-Taxon makeTaxon(Texts texts) {
-    return Access::make<Taxon>(std::make_shared<const TaxonData>(TaxonData{std::move(texts)}));
-}
+Taxon makeTaxon(Texts texts) { return Access::make<Taxon>(makeRef<TaxonData>(TaxonData{std::move(texts)})); }
 
 std::optional<Texts> readTaxon(const Ostra::Schema& schema, const Ostra::Identifier& base) {
     if (!schema.inherits(base)) {

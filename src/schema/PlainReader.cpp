@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <limits>
 
 namespace Ostra {
 
@@ -15,9 +16,7 @@ constexpr int maxDepth = 64; // it recurses
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
-bool isBlank(char character) {
-    return character == ' ' || character == '\n' || character == '\r' || character == '\t';
-}
+bool isBlank(char character) { return character == ' ' || character == '\n' || character == '\r' || character == '\t'; }
 
 const char* behindBlanks(const char* at) {
     while (isBlank(*at)) {
@@ -227,19 +226,23 @@ void PlainReader::copyText() {
 
 /// Reads numbers of so few digits that none of them is out of reach, whoever rounds.
 const char* PlainReader::number(const char* at) {
-    constexpr std::ptrdiff_t maxDigits = 18;
+    constexpr std::ptrdiff_t maxDigits = 19; // of which 64 bits hold any number
     const char* const begin = at;
     at += *at == '-' ? 1 : 0;
     const char* const digits = at;
-    std::int64_t integer = 0;
+    std::uint64_t integer = 0;
     for (; isDigit(*at) && at - digits < maxDigits; ++at) {
-        integer = integer * 10 + (*at - '0');
+        integer = integer * 10 + static_cast<std::uint64_t>(*at - '0');
     }
     if (at == digits || isDigit(*at) || (*digits == '0' && at - digits > 1)) {
         return nullptr;
     }
     if (*at != '.' && *at != 'e' && *at != 'E') {
-        tape_.integer(*begin == '-' ? -integer : integer);
+        if (integer > std::numeric_limits<std::int64_t>::max()) {
+            return nullptr;
+        }
+        const auto positive = static_cast<std::int64_t>(integer);
+        tape_.integer(*begin == '-' ? -positive : positive);
         return at;
     }
     if (*at == '.') {

@@ -204,7 +204,7 @@ TEST_F(Gdb, ShowsThePointerOfWhatIsNoValue) {
 }
 
 TEST_F(Gdb, ShowsThePointerOfWhatNobodyOwns) {
-    EXPECT_THAT(show({"*(Parameters::Taxon*)&unowned", "*(Parameters::Taxon*)&other"}),
+    EXPECT_THAT(show({"*(Parameters::Taxon*)&unowned", "*(Parameters::Taxon*)&nonsense"}),
                 testing::Each(MatchesRegex("Taxon <0x[0-9a-f]+>")));
 }
 
@@ -216,7 +216,7 @@ TEST_F(Gdb, ShowsThePointerOfWhatHasNoTexts) {
 }
 
 TEST_F(Gdb, ShowsThePointerOfWhatIsOfAnotherClass) {
-    EXPECT_THAT(show({"taxonAsFault", "farAsFault", "taxonAsUnit", "taxonAsComponent", "coreAsRange", "rangeAsTaxon"}),
+    EXPECT_THAT(show({"taxonAsFault", "farAsFault", "taxonAsUnit", "taxonAsComponent", "flagsAsRange", "rangeAsTaxon"}),
                 testing::Each(MatchesRegex("[A-Za-z]+ <0x[0-9a-f]+>")));
 }
 

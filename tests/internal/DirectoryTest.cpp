@@ -122,7 +122,7 @@ TEST(Directory, ReservingMoreThanIsAddedDoesNoHarm) {
 TEST(Directory, DoesNotFindWhatWasRemoved) {
     Directory directory;
     add(directory, "x", 1);
-    directory.remove(directory.idOf(*directory.find("x")));
+    directory.remove(directory.idOf("x"));
     EXPECT_EQ(directory.find("x"), nullptr);
     add(directory, "x", 2);
     EXPECT_EQ(directory.find("x")->place, 2U);
@@ -137,7 +137,7 @@ TEST(Directory, GivesIdsThatWereRemovedToTheNextEntries) {
     directory.remove(second);
     EXPECT_EQ(add(directory, "fourth", 4), second);
     EXPECT_EQ(add(directory, "fifth", 5), first);
-    EXPECT_EQ(directory.idOf(*directory.find("third")), third);
+    EXPECT_EQ(directory.idOf("third"), third);
     EXPECT_EQ(directory.find("fourth")->place, 4U);
     EXPECT_EQ(directory.find("fifth")->place, 5U);
     EXPECT_EQ(directory.find("first"), nullptr);

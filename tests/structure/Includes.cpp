@@ -20,7 +20,8 @@ const std::vector<Rule> rules = {
     {"src/schema/", {"schema/"}, true},
     {"src/model/", {"model/", "schema/", "parameters/", "units/"}, true},
     {"src/engine/", {"engine/", "model/", "schema/", "parameters/", "units/"}, true},
-    {"include/parameters/Format.h", {"parameters/", "fmt/format.h"}, false}, // for those who use it
+    {"include/parameters/Format.h", {"parameters/", "fmt/format.h"}, false},       // for those who use it
+    {"include/parameters/Ref.h", {"parameters/", "sys/single_threaded.h"}, false}, // where there is one
     {"include/", {"parameters/", "units/"}, false},
     {"units/include/", {"units/"}, false},
     {"units/src/", {"schema/", "units/"}, true},

@@ -102,12 +102,14 @@ TEST(Output, LeavesTheFileAsItWasWhenTheDiskIsFull) {
 }
 
 TEST(Output, OfAPictureMayHaveANameLikeAnOption) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     runScript(folder, "$tool deps --svg=-x.svg g g.json");
     EXPECT_THAT(folder.read("-x.svg"), HasSubstr("<svg "));
 }
 
 TEST(Output, OfAPictureGoesToStandardOutputWhenAskedTo) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     folder.write("g.json", group);
     const Outcome outcome = folder.run({"deps", "--svg", "-", "g"});

@@ -20,7 +20,8 @@ std::string pathOfTool();
 /// Returns whether that tool is one for Windows, as OSTRA_TOOL_SYSTEM says.
 bool isToolForWindows();
 
-/// Skips a test of what Windows does not know: its sockets, pipes, links and permissions are others.
+/// Skips a test of what Windows does not know: its sockets, pipes, links and permissions are others, and it has no
+/// Graphviz of this machine.
 #define SKIP_FOR_WINDOWS()                                                                                             \
     if (isToolForWindows()) {                                                                                          \
         GTEST_SKIP() << "Windows does not know this.";                                                                 \

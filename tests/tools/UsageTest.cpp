@@ -98,6 +98,7 @@ INSTANTIATE_TEST_SUITE_P(Tool, BrokenFile, testing::Values("f.json", "f.ndjson")
                          [](const auto& test) { return std::string(test.param).substr(2); });
 
 TEST(Tool, RefusesAStandardInputThatCannotBeRead) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     folder.makeFolder("c");
     folder.write("run.sh", "'" + pathOfTool() + "' check - < c 2> err; echo $? >> err");
@@ -143,6 +144,7 @@ TEST(Tool, ExitsAsItWouldWhenItsComplaintCannotBeWritten) {
 }
 
 TEST(Tool, EndsQuietlyWhenNobodyReadsOn) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     std::string lines;
     for (int i = 0; i < 5000; ++i) {

@@ -244,6 +244,7 @@ TEST(Deps, WritesAGraphForGraphviz) {
 }
 
 TEST(Deps, DrawsAPictureIntoAFile) {
+    SKIP_FOR_WINDOWS();
     const Folder folder;
     const Outcome outcome = folder.run({"deps", "--svg", "picture.svg", discharge, examples});
     EXPECT_EQ(outcome.exitCode, 0) << outcome.err;

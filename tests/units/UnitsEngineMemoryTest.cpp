@@ -105,6 +105,24 @@ TEST_F(UnitsEngineOutOfMemory, ShowsUnitsAllTheSame) {
     EXPECT_GT(shown, resolvedId.size());
 }
 
+TEST_F(UnitsEngineOutOfMemory, CopiesCostTheSameWhateverIsInThem) {
+    UnitsEngine engine;
+    const auto requestsOfACopy = [&engine] {
+        const AllocationWatch watch;
+        const UnitsEngine copy(engine);
+        return watch.requests();
+    };
+    if (!AllocationWatch::sees([] { const UnitsEngine other; })) {
+        GTEST_SKIP() << "the library's requests for memory are not seen in this build";
+    }
+    const auto requests = requestsOfACopy();
+    for (int i = 0; i < 100; ++i) {
+        engine.registerSchema(unit("ship.unit:" + std::to_string(i)));
+    }
+    EXPECT_EQ(requestsOfACopy(), requests);
+    EXPECT_LE(requests, 2);
+}
+
 TEST_F(UnitsEngineOutOfMemory, ResolvesAllTheSame) {
     EXPECT_EQ(failEachAllocationOf([](UnitsEngine& engine) { engine.resolveSchemas(); }), 0);
 }

@@ -2,6 +2,7 @@
 
 #include "Messages.h"
 #include "UnitSchema.h"
+#include "schema/CopyOnWrite.h"
 #include "schema/ExceptionFactory.h"
 #include "schema/Hash.h"
 #include "schema/Inspection.h"
@@ -41,10 +42,11 @@ std::vector<Fault> toFaults(std::vector<Ostra::DocumentFault>&& found) {
 } // namespace
 
 /// The units in the order in which they were registered. A unit is built when its schema is registered, and only handed
-/// out later, so that resolving is one assignment, which cannot fail.
+/// out later, so that resolving is one assignment, which cannot fail. Copies share their units until one of them gets
+/// another.
 class UnitsEngine::Registry {
 public:
-    bool holds(std::string_view typeId) const { return entries_.contains(typeId); }
+    bool holds(std::string_view typeId) const { return entries_.read().contains(typeId); }
 
     /// Reads a schema that is to be registered.
     std::optional<Unit> read(const Ostra::Schema& schema) const {
@@ -55,15 +57,16 @@ public:
     }
 
     void add(const Ostra::Schema& schema, const Unit& unit) {
-        entries_.try_emplace(std::string(schema.typeId()), Entry{unit, entries_.size()});
+        Entries& entries = entries_.write();
+        entries.try_emplace(std::string(schema.typeId()), Entry{unit, entries.size()});
     }
 
-    void resolve() noexcept { resolved_ = entries_.size(); }
+    void resolve() noexcept { resolved_ = entries_.read().size(); }
 
     /// Returns null for what is unknown or not resolved.
     const Unit* find(std::string_view typeId) const {
-        const auto found = entries_.find(typeId);
-        return found != entries_.end() && isResolved(found->second) ? &found->second.unit : nullptr;
+        const auto found = entries_.read().find(typeId);
+        return found != entries_.read().end() && isResolved(found->second) ? &found->second.unit : nullptr;
     }
 
     const Unit& get(std::string_view typeId) const {
@@ -75,7 +78,7 @@ public:
 
     std::map<std::string, Unit> all() const {
         std::map<std::string, Unit> units;
-        for (const auto& [typeId, entry] : entries_) {
+        for (const auto& [typeId, entry] : entries_.read()) {
             if (isResolved(entry)) {
                 units.emplace(typeId, entry.unit);
             }
@@ -89,9 +92,11 @@ private:
         std::size_t position;
     };
 
+    using Entries = std::unordered_map<std::string, Entry, Ostra::TextHash, std::equal_to<>>;
+
     bool isResolved(const Entry& entry) const { return entry.position < resolved_; }
 
-    std::unordered_map<std::string, Entry, Ostra::TextHash, std::equal_to<>> entries_;
+    Ostra::CopyOnWrite<Entries> entries_;
     std::size_t resolved_ = 0;
 };
 

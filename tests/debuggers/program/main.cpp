@@ -14,18 +14,21 @@ using namespace Parameters;
 
 namespace {
 
-/// A handle as it lies in memory: where its data is, and where the counts of its owners are.
+/// A handle as it lies in memory.
 struct Handle {
     const void* data;
-    const void* counts;
 };
 
-/// What is shared by owners: the functions that destroy it, and how many there are of both sorts.
-struct Counts {
-    const void* functions;
+/// Data of a value, whose first word nearly always is the address of its texts, behind the number of its owners.
+struct Shared {
     std::int32_t owners;
-    std::int32_t observers;
+    std::int32_t destroy;
+    std::array<std::uintptr_t, 4> data;
 };
+
+Shared sharedBy(std::int32_t owners, const void* texts) {
+    return {owners, 0, {reinterpret_cast<std::uintptr_t>(texts)}};
+}
 
 /// The handle of a value, whose memory is read as the program may not.
 Handle handleOf(const Taxon& taxon) {
@@ -87,13 +90,14 @@ int main() {
     auto* gone = new Taxon("pumps:group.gone-1.0.0", "Gone");
     gone->~Taxon();
     [[maybe_unused]] const Handle null{};
-    [[maybe_unused]] const Handle nowhere = {reinterpret_cast<const void*>(1), reinterpret_cast<const void*>(1)};
+    [[maybe_unused]] const Handle nowhere = {reinterpret_cast<const void*>(1)};
 
-    const auto [data, counts] = handleOf(taxon);
-    const Counts unownedCounts = {data, 0, 1};
-    const Counts otherCounts = {nullptr, 1, 1};
-    [[maybe_unused]] const Handle unowned = {data, &unownedCounts};
-    [[maybe_unused]] const Handle other = {data, &otherCounts};
+    const void* texts = nullptr;
+    std::memcpy(&texts, handleOf(taxon).data, sizeof texts);
+    const Shared byNobody = sharedBy(0, texts);
+    const Shared byFewer = sharedBy(-1, texts);
+    [[maybe_unused]] const Handle unowned = {&byNobody.data};
+    [[maybe_unused]] const Handle nonsense = {&byFewer.data};
 
     // Blocks of texts: owners, count, ends, and bytes.
     const std::array<std::uint32_t, 6> released = {0, 2, 0, 0};
@@ -101,23 +105,28 @@ int main() {
     const std::array<std::uint32_t, 6> endless = {1, 2, 0, 0xffffffff};
     const std::array<std::uint32_t, 6> single = {1, 1, 0};
     const std::vector<std::uint32_t> countless(1 << 16, 0xffffffff);
-    const std::array<const void*, 5> blocks = {released.data(), disordered.data(), endless.data(), single.data(),
-                                               countless.data()};
-    [[maybe_unused]] const Handle ofReleased = {&blocks[0], counts};
-    [[maybe_unused]] const Handle ofDisordered = {&blocks[1], counts};
-    [[maybe_unused]] const Handle ofEndless = {&blocks[2], counts};
-    [[maybe_unused]] const Handle ofSingle = {&blocks[3], counts};
-    [[maybe_unused]] const Handle ofCountless = {&blocks[4], counts};
+    const std::array<Shared, 5> blocks = {sharedBy(1, released.data()), sharedBy(1, disordered.data()),
+                                          sharedBy(1, endless.data()), sharedBy(1, single.data()),
+                                          sharedBy(1, countless.data())};
+    [[maybe_unused]] const Handle ofReleased = {&blocks[0].data};
+    [[maybe_unused]] const Handle ofDisordered = {&blocks[1].data};
+    [[maybe_unused]] const Handle ofEndless = {&blocks[2].data};
+    [[maybe_unused]] const Handle ofSingle = {&blocks[3].data};
+    [[maybe_unused]] const Handle ofCountless = {&blocks[4].data};
+
+    // A range whose flags are neither true nor false.
+    const Shared flags = {1, 0, {reinterpret_cast<std::uintptr_t>(texts), 0, 0, 0x0202}};
+    [[maybe_unused]] const Handle ofFlags = {&flags.data};
 
     // The beginning of a fault: length and address of its code, which is at the end of all memory.
-    const std::array<std::uintptr_t, 16> far = {100, ~std::uintptr_t{7}};
-    [[maybe_unused]] const Handle ofFar = {&far, counts};
+    const Shared far = {1, 0, {100, ~std::uintptr_t{7}}};
+    [[maybe_unused]] const Handle ofFar = {&far.data};
 
     [[maybe_unused]] const auto& taxonAsFault = reinterpret_cast<const Fault&>(taxon);
     [[maybe_unused]] const auto& farAsFault = reinterpret_cast<const Fault&>(ofFar);
     [[maybe_unused]] const auto& taxonAsUnit = reinterpret_cast<const Units::Unit&>(taxon);
     [[maybe_unused]] const auto& taxonAsComponent = reinterpret_cast<const MajorCategoryComponent&>(taxon);
-    [[maybe_unused]] const auto& coreAsRange = reinterpret_cast<const IntRange&>(parameterCore);
+    [[maybe_unused]] const auto& flagsAsRange = reinterpret_cast<const IntRange&>(ofFlags);
     [[maybe_unused]] const auto& rangeAsTaxon = reinterpret_cast<const Taxon&>(intRange);
     stop();
     ::operator delete(gone);

@@ -1,4 +1,4 @@
-#include "engine/CopyOnWrite.h"
+#include "schema/CopyOnWrite.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-using Parameters::Internal::CopyOnWrite;
+using Ostra::CopyOnWrite;
 using Text = CopyOnWrite<std::string>;
 
 static_assert(std::is_nothrow_copy_constructible_v<Text>);

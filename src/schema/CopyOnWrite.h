@@ -3,7 +3,7 @@
 #include <atomic>
 #include <memory>
 
-namespace Parameters::Internal {
+namespace Ostra {
 
 /// A value that copies share until one of them writes: copying costs one count, the first write after it a real copy.
 template <class T>
@@ -38,4 +38,4 @@ private:
     mutable std::atomic<bool> shared_ = false; // copying is reading: several threads may copy one engine
 };
 
-} // namespace Parameters::Internal
+} // namespace Ostra
