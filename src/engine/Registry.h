@@ -35,9 +35,8 @@ public:
 
     /// Returns the places of all objects in the order of their typeids, good until the store grows.
     const SortedOrder::Order& order() const {
-        return order_.of(static_cast<std::uint32_t>(objects.size()), [this](std::uint32_t a, std::uint32_t b) {
-            return typeIdOf(objects[a]) < typeIdOf(objects[b]);
-        });
+        return order_.of(static_cast<std::uint32_t>(objects.size()),
+                         [this](std::uint32_t place) { return typeIdOf(objects[place]); });
     }
 
     /// Returns all objects by typeid.

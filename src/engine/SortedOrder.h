@@ -1,10 +1,10 @@
 #pragma once
 
 #include "engine/Lazy.h"
+#include "engine/SortedTexts.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <numeric>
 #include <vector>
 
 namespace Parameters::Internal {
@@ -27,15 +27,21 @@ public:
         }
     }
 
-    /// Returns the places 0 to count - 1 in ascending order by less(place, place).
-    template <class Less>
-    const Order& of(std::uint32_t count, Less less) const {
+    /// Returns the places 0 to count - 1 in ascending byte order of textAt(place).
+    template <class TextAt>
+    const Order& of(std::uint32_t count, TextAt textAt) const {
         return current_.get([&] {
+            std::vector<PlacedText> fresh;
+            fresh.reserve(count - previous_.size());
+            for (auto place = static_cast<std::uint32_t>(previous_.size()); place < count; ++place) {
+                fresh.push_back({textAt(place), place});
+            }
+            sortTexts(fresh);
             Order order(count);
-            const auto fresh = std::copy(previous_.begin(), previous_.end(), order.begin());
-            std::iota(fresh, order.end(), static_cast<std::uint32_t>(previous_.size()));
-            std::sort(fresh, order.end(), less);
-            std::inplace_merge(order.begin(), fresh, order.end(), less);
+            const auto middle = std::copy(previous_.begin(), previous_.end(), order.begin());
+            std::transform(fresh.begin(), fresh.end(), middle, [](const PlacedText& text) { return text.place; });
+            std::inplace_merge(order.begin(), middle, order.end(),
+                               [&textAt](std::uint32_t a, std::uint32_t b) { return textAt(a) < textAt(b); });
             return order;
         });
     }
