@@ -28,7 +28,9 @@ struct ByName {
         const std::string_view left = one.name();
         const std::string_view right = other.name();
         const auto& collate = std::use_facet<std::collate<char>>(locale);
-        return collate.compare(left.data(), left.data() + left.size(), right.data(), right.data() + right.size()) < 0;
+        const int order =
+            collate.compare(left.data(), left.data() + left.size(), right.data(), right.data() + right.size());
+        return order != 0 ? order < 0 : one < other; // by typeid, so that equal names come in the same order everywhere
     }
 };
 

@@ -59,7 +59,9 @@ private:
         }
         std::vector<Value*> values;
         collect(document, values);
-        change(*values[below(values.size())], *values[below(values.size())], document.GetAllocator());
+        Value& value = *values[below(values.size())]; // one by one: compilers take arguments in orders of their own
+        const Value& other = *values[below(values.size())];
+        change(value, other, document.GetAllocator());
         rapidjson::StringBuffer buffer;
         rapidjson::Writer writer(buffer);
         document.Accept(writer);
