@@ -111,7 +111,8 @@ private:
             return;
         }
         default:
-            object.AddMember(Value(wordFor(below(12)), pool), scalar(pool), pool);
+            Value name(wordFor(below(12)), pool);
+            object.AddMember(name, scalar(pool), pool);
         }
     }
 
