@@ -51,13 +51,14 @@ void copyMap(const Catalogue& catalogue, Measurement& measurement) { timeCopyOf(
 
 /// A map that was filled in the order of its keys lies in memory as it is walked.
 void copySortedMap(const Catalogue& catalogue, Measurement& measurement) {
-    timeCopyOf(once(catalogue, [](const Catalogue& schemas) {
-                   PlainMap sorted;
-                   for (const auto& [typeId, record] : plainMap(schemas)) {
-                       sorted.emplace_hint(sorted.end(), typeId, std::make_shared<const PlainParameter>(*record));
-                   }
-                   return sorted;
-               }),
+    timeCopyOf(once(catalogue,
+                    [](const Catalogue& schemas) {
+                        PlainMap sorted;
+                        for (const auto& [typeId, record] : plainMap(schemas)) {
+                            sorted.emplace_hint(sorted.end(), typeId, std::make_shared<const PlainParameter>(*record));
+                        }
+                        return sorted;
+                    }),
                measurement);
 }
 
