@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <memory> // which applications may have had from the headers of values
 #include <type_traits>
 #include <utility>
 
