@@ -4,11 +4,9 @@
 #include "schema/Messages.h"
 #include "schema/Numbers.h"
 #include "schema/PlainReader.h"
-#include "schema/TextStream.h"
 
 #include <rapidjson/reader.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <stdexcept>
@@ -110,16 +108,16 @@ ParseResult adjusted(ParseResult result, std::size_t end, std::size_t textSize) 
 }
 
 char* copyOf(std::string_view text, Arena& arena) {
-    auto* const copy = static_cast<char*>(arena.allocate(text.size() + TextStream::room));
+    auto* const copy = static_cast<char*>(arena.allocate(text.size() + 1));
     text.copy(copy, text.size());
-    std::fill_n(copy + text.size(), TextStream::room, '\0');
+    copy[text.size()] = '\0';
     return copy;
 }
 
 /// Parses any text, and says what is wrong with it.
 ParsedText judge(std::string_view text, JSONTape& tape, Arena& arena) {
     char* const copy = copyOf(text, arena);
-    TextStream stream(copy);
+    rapidjson::InsituStringStream stream(copy);
     JSONMemory memory;
     ValueHandler handler(tape);
     const ParseResult result = Reader(&memory.pool()).Parse<parseFlags>(stream, handler);
