@@ -2,6 +2,7 @@
 
 #include "AllocationWatch.h"
 #include "ParseOutcome.h"
+#include "Parsed.h"
 #include "SmallStack.h"
 #include "schema/ExceptionFactory.h"
 #include "schema/JSON.h"
@@ -19,7 +20,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace Ostra {
@@ -29,22 +29,6 @@ namespace {
 using namespace std::string_literals;
 using namespace std::string_view_literals;
 using Support::messageOf;
-
-/// The exception of a library that reads documents.
-struct Refusal : std::logic_error {
-    using std::logic_error::logic_error;
-};
-
-/// A text and what is read of it.
-struct Parsed {
-    std::string text;
-    JSON json{text, ExceptionFactoryOf<Refusal>::shared()};
-
-    JSONView view() const { return json.view(); }
-    std::string toText() const { return json.toText(); }
-};
-
-Parsed parse(std::string text) { return {std::move(text)}; }
 
 std::string refusalOf(const std::string& text) {
     try {

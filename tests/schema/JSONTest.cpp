@@ -2,6 +2,7 @@
 #include "schema/ExceptionFactory.h"
 
 #include "AllocationWatch.h"
+#include "Parsed.h"
 #include "schema/ExceptionFactory.h"
 #include "schema/Messages.h"
 #include "support/Messages.h"
@@ -27,22 +28,6 @@ using Support::messageOf;
 using testing::ElementsAre;
 using testing::Pair;
 using testing::ThrowsMessage;
-
-/// The exception of a library that reads documents.
-struct Refusal : std::logic_error {
-    using std::logic_error::logic_error;
-};
-
-/// A text and what is read of it.
-struct Parsed {
-    std::string text;
-    JSON json{text, ExceptionFactoryOf<Refusal>::shared()};
-
-    JSONView view() const { return json.view(); }
-    std::string toText() const { return json.toText(); }
-};
-
-Parsed parse(std::string text) { return {std::move(text)}; }
 
 std::string refusalOfMap(const JSONView& view) {
     try {
