@@ -34,4 +34,7 @@ std::string refusalOf(Call&& call) {
     return {};
 }
 
+/// Returns what an exception says of a message: what() ends with a byte 0, of which a message may quote some.
+inline std::string asThrown(const std::string& message) { return message.c_str(); }
+
 } // namespace Fuzz

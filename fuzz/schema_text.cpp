@@ -48,7 +48,8 @@ void registerAndResolve(ParametersEngine engine, const std::string& text) {
     Fuzz::require(fault.empty() == unresolvable.empty(), "what cannot be resolved is found beforehand");
     auto added = Fuzz::objectsIn(engine);
     if (!fault.empty()) {
-        Fuzz::require(unresolvable.begin()->second == fault, "the fault that is found is the one that is raised");
+        Fuzz::require(Fuzz::asThrown(unresolvable.begin()->second) == fault,
+                      "the fault that is found is the one that is raised");
         Fuzz::require(added == before, "resolution that fails adds nothing");
         Fuzz::require(engine.discardPending(unresolvable.begin()->first), "what cannot be resolved is pending");
         engine.resolveSchemas();
@@ -94,7 +95,7 @@ void findFaults(ParametersEngine engine, const std::string& text) {
     Fuzz::require(sound.registerSoundSchemas(batch).size() == faults.size(), "registering tells the same faults");
     const auto before = Fuzz::objectsIn(engine);
     const std::string refusal = Fuzz::refusalOf([&] { engine.registerSchemas(batch); });
-    Fuzz::require(first == refusal, "the first error is the one that is thrown");
+    Fuzz::require(Fuzz::asThrown(first) == refusal, "the first error is the one that is thrown");
     Fuzz::require(Fuzz::objectsIn(sound) == (refusal.empty() ? Fuzz::objectsIn(engine) : before),
                   "what is sound is registered");
 }

@@ -54,12 +54,12 @@ inline Lines faultsOf(const Texts& texts, const Parameters::ParametersEngine& en
     return linesOf(engine.findFaults(texts), texts);
 }
 
-/// Returns the messages of the errors among faults.
+/// Returns the messages of the errors among faults as exceptions say them, whose what() ends with a byte 0.
 inline Lines errorsAmong(const std::vector<Parameters::Fault>& faults) {
     Lines messages;
     for (const Parameters::Fault& fault : faults) {
         if (fault.isError()) {
-            messages.push_back(fault.message());
+            messages.emplace_back(fault.message().c_str());
         }
     }
     return messages;
