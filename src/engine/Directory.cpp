@@ -1,6 +1,7 @@
 #include "engine/Directory.h"
 
 #include "engine/Messages.h"
+#include "schema/Bytes.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -17,7 +18,7 @@ std::size_t Directory::search(const Key& key) const noexcept {
     const std::size_t mask = slots_.size() - 1;
     std::size_t at = key.hash & mask;
     while (slots_[at].entry != none &&
-           (slots_[at].hash != key.hash || entries_[slots_[at].entry].typeId != key.typeId)) {
+           (slots_[at].hash != key.hash || !Ostra::isSame(entries_[slots_[at].entry].typeId, key.typeId))) {
         at = (at + 1) & mask;
     }
     return at;

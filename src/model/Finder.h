@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Access.h"
+#include "schema/Bytes.h"
 #include "schema/Immortal.h"
 #include "schema/Message.h"
 
@@ -78,6 +79,9 @@ public:
     template <class K>
     typename K::Object requireOrStandIn(std::string_view typeId, std::string_view schemaTypeId,
                                         const typename K::Object* given = nullptr) const {
+        if (given == nullptr && Ostra::isSame(typeId, K::base.full())) {
+            return standInOf<K>(); // which nothing that is registered can have in its place
+        }
         if (const auto* object = find<K>(typeId)) {
             return *object;
         }

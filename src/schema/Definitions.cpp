@@ -1,5 +1,7 @@
 #include "schema/Definitions.h"
 
+#include "schema/Bytes.h"
+
 #include <algorithm>
 
 namespace Ostra {
@@ -24,7 +26,7 @@ MaybeView Definitions::search(std::string_view id) const {
         return found != index_.end() ? MaybeView(definitions_[found->second].definition) : std::nullopt;
     }
     for (const Definition& definition : definitions_) {
-        if (definition.id == id) {
+        if (isSame(definition.id, id)) {
             return definition.definition;
         }
     }

@@ -1,10 +1,10 @@
 #include "schema/Hash.h"
 
+#include "schema/Bytes.h"
 #include "schema/Product.h"
 
 #include <chrono>
 #include <cstddef>
-#include <cstring>
 
 namespace Ostra {
 
@@ -17,13 +17,6 @@ constexpr std::uint64_t oddB = 0xD6E8FEB86659FD93;
 std::uint64_t mix(std::uint64_t a, std::uint64_t b) noexcept {
     const Product product = multiply(a, b);
     return product.low ^ product.high;
-}
-
-template <class Word>
-std::uint64_t wordAt(const char* bytes) noexcept {
-    Word value = 0;
-    std::memcpy(&value, bytes, sizeof value);
-    return value;
 }
 
 struct Words {
@@ -40,32 +33,34 @@ Words lastWords(const char* bytes, std::size_t count) noexcept {
         return {wordAt<std::uint32_t>(bytes), wordAt<std::uint32_t>(bytes + count - 4)};
     }
     if (count > 0) {
-        return {wordAt<std::uint8_t>(bytes) << 8 | wordAt<std::uint8_t>(bytes + count / 2),
+        return {std::uint64_t{wordAt<std::uint8_t>(bytes)} << 8 | wordAt<std::uint8_t>(bytes + count / 2),
                 wordAt<std::uint8_t>(bytes + count - 1)};
     }
     return {0, 0};
 }
 
-std::uint64_t makeSeed() noexcept {
+/// Two words that nobody can know. Were they one, two words of a text would meet the same unknown, and could be chosen
+/// to change places.
+Words makeSeed() noexcept {
     static const char anchor = 0; // where the loader put the library
     const auto now = static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
-    return mix(reinterpret_cast<std::uintptr_t>(&anchor) ^ oddA, now ^ oddB);
+    const std::uint64_t first = mix(reinterpret_cast<std::uintptr_t>(&anchor) ^ oddA, now ^ oddB);
+    return {first, mix(first ^ oddB, now ^ oddA)};
 }
 
 } // namespace
 
 std::uint64_t hashOf(std::string_view bytes) noexcept {
-    static const std::uint64_t seed = makeSeed();
-    // Not seed ^ mix(...): the first two words would then meet the same unknown, and could be chosen to change places.
-    std::uint64_t hash = mix(bytes.size() ^ oddA ^ seed, oddB);
+    static const Words seed = makeSeed();
+    std::uint64_t hash = seed.first ^ bytes.size();
     const char* byte = bytes.data();
     std::size_t left = bytes.size();
     for (; left > 16; byte += 16, left -= 16) {
-        hash = mix(wordAt<std::uint64_t>(byte) ^ oddA ^ hash, wordAt<std::uint64_t>(byte + 8) ^ oddB ^ seed);
+        hash = mix(wordAt(byte) ^ hash, wordAt(byte + 8) ^ seed.second);
     }
     const auto [first, second] = lastWords(byte, left);
-    hash = mix(first ^ oddA ^ hash, second ^ oddB ^ seed);
-    return mix(hash ^ oddB, seed ^ oddA);
+    hash = mix(first ^ hash, second ^ seed.second);
+    return mix(hash ^ oddB, seed.first ^ oddA);
 }
 
 } // namespace Ostra

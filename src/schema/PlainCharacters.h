@@ -1,5 +1,7 @@
 #pragma once
 
+#include "schema/Bytes.h"
+
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -28,12 +30,6 @@ constexpr std::uint64_t equal(std::uint64_t word, unsigned char byte) { return b
 } // namespace Detail
 
 constexpr std::size_t wordSize = sizeof(std::uint64_t);
-
-inline std::uint64_t wordAt(const char* bytes) {
-    std::uint64_t word = 0;
-    std::memcpy(&word, bytes, wordSize);
-    return word;
-}
 
 /// Returns 0 for eight plain characters. Else the lowest bit that is set is in the least significant byte that is a
 /// quotation mark, a backslash or a control character.

@@ -9,6 +9,7 @@
 #include "schema/Schema.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <unordered_map>
@@ -46,7 +47,9 @@ std::vector<Fault> toFaults(std::vector<Ostra::DocumentFault>&& found) {
 /// another.
 class UnitsEngine::Registry {
 public:
-    bool holds(std::string_view typeId) const { return entries_.read().contains(typeId); }
+    bool holds(std::string_view typeId) const {
+        return (sizes_ & sizeBit(typeId)) != 0 && entries_.read().contains(typeId);
+    }
 
     /// Reads a schema that is to be registered.
     std::optional<Unit> read(const Ostra::Schema& schema) const {
@@ -59,6 +62,7 @@ public:
     void add(const Ostra::Schema& schema, const Unit& unit) {
         Entries& entries = entries_.write();
         entries.try_emplace(std::string(schema.typeId()), Entry{unit, entries.size()});
+        sizes_ |= sizeBit(schema.typeId());
     }
 
     void resolve() noexcept { resolved_ = entries_.read().size(); }
@@ -95,8 +99,10 @@ private:
     using Entries = std::unordered_map<std::string, Entry, Ostra::TextHash, std::equal_to<>>;
 
     bool isResolved(const Entry& entry) const { return entry.position < resolved_; }
+    static std::uint64_t sizeBit(std::string_view typeId) { return std::uint64_t{1} << (typeId.size() % 64); }
 
     Ostra::CopyOnWrite<Entries> entries_;
+    std::uint64_t sizes_ = 0; // a bit for each size of a typeid: other engines ask for many that are no unit's
     std::size_t resolved_ = 0;
 };
 
