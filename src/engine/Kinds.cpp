@@ -1,6 +1,8 @@
 #include "engine/Kinds.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <optional>
 
 namespace Parameters {
@@ -8,6 +10,28 @@ namespace Parameters {
 namespace Internal {
 
 namespace {
+
+/// What an identifier that schemas of a kind inherit begins with, its minor version aside.
+struct Beginning {
+    std::string_view prefix;
+    std::size_t kind;
+};
+
+template <class... Ks>
+consteval auto beginningsOf(KindList<Ks...>) {
+    const auto isVersioned = [](std::string_view base) { return base != EnumerationKind::base; };
+    std::array<Beginning, (Ks::Public::info.bases().size() + ...) - 1> beginnings{};
+    std::size_t place = 0;
+    const auto add = [&]<class K>() {
+        for (const std::string_view base : K::Public::info.bases()) {
+            if (isVersioned(base)) {
+                beginnings[place++] = {Ostra::Identifier::prefixOf(base), kindIndex<K>};
+            }
+        }
+    };
+    (add.template operator()<Ks>(), ...);
+    return beginnings;
+}
 
 /// True when the text begins with the version prefix of an identifier that stands for an object of the kind.
 template <class K>
@@ -28,6 +52,17 @@ bool reserves(std::string_view text) {
 }
 
 } // namespace
+
+std::optional<std::size_t> soleKindFor(const Ostra::Schema& schema) {
+    if (!schema.beginsOnly()) {
+        return std::nullopt;
+    }
+    static constexpr auto beginnings = beginningsOf(StoreOrder{});
+    const auto found = std::find_if(beginnings.begin(), beginnings.end(), [&schema](const Beginning& beginning) {
+        return Ostra::Identifier::begins(schema.base(), beginning.prefix);
+    });
+    return found != beginnings.end() ? std::optional(found->kind) : std::nullopt;
+}
 
 bool isReserved(std::string_view typeId) {
     using Ostra::Identifier;

@@ -23,6 +23,7 @@
 #include <parameters/Kinds.h>
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <type_traits>
 
@@ -135,6 +136,22 @@ void withKind(std::size_t index, Visitor&& visit) {
         }
         return kindIndex<K> == index;
     });
+}
+
+/// Returns the number of the one kind that can accept the schema, where its base tells that; else nothing.
+std::optional<std::size_t> soleKindFor(const Ostra::Schema& schema);
+
+/// Calls accept.operator()<K>() for the kinds that may accept the schema in the order of offering, until one returns
+/// true; returns whether one did.
+template <class Accept>
+bool offer(const Ostra::Schema& schema, Accept&& accept) {
+    const auto sole = soleKindFor(schema);
+    if (!sole) {
+        return anyKind(OfferingOrder{}, accept);
+    }
+    bool isAccepted = false;
+    withKind(*sole, [&]<class K>() { isAccepted = accept.template operator()<K>(); });
+    return isAccepted;
 }
 
 /// True when the typeid contains the version prefix of an identifier that needs no registration: no schema or object

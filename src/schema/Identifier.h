@@ -29,9 +29,10 @@ public:
     /// version does not.
     bool isIn(std::string_view typeId) const { return typeId.find(prefix()) != std::string_view::npos; }
     /// True when the typeid begins with the version prefix. Others are told apart by the prefix's last character.
-    constexpr bool begins(std::string_view typeId) const {
-        const std::size_t size = prefix().size();
-        return typeId.size() >= size && typeId[size - 1] == '.' && typeId.substr(0, size) == prefix();
+    constexpr bool begins(std::string_view typeId) const { return begins(typeId, prefix()); }
+    static constexpr bool begins(std::string_view typeId, std::string_view prefix) {
+        const std::size_t size = prefix.size();
+        return typeId.size() >= size && typeId[size - 1] == '.' && typeId.substr(0, size) == prefix;
     }
 
     /// Returns where in the typeid, at that position or behind it, an identifier may begin, or npos: all of them begin

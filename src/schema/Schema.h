@@ -26,6 +26,8 @@ public:
     /// True when the base is of that built-in identifier's major version.
     bool inherits(const Identifier& base) const { return beginsOnly_ ? base.begins(base_) : base.isIn(base_); }
     std::string_view base() const { return base_; }
+    /// True when the base can be of no built-in identifier but one with which it begins.
+    bool beginsOnly() const { return beginsOnly_; }
     const Definitions& constants() const { return constants_; }
     const Definitions& properties() const { return properties_; }
 

@@ -1,6 +1,10 @@
 #include "engine/Kinds.h"
 
+#include "model/ValidationExceptionFactory.h"
+#include "schema/Schema.h"
+
 #include "support/Catalogue.h"
+#include "support/SchemaTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -59,6 +63,35 @@ TEST(OfferingOrder, HasTheKindsThatNameNothingFirst) {
                        "string-parameter",
                        "category"};
     EXPECT_EQ(among(promised, idsOf(OfferingOrder{})), promised);
+}
+
+/// Returns the id of the one kind that can accept a schema of that base, or nothing.
+std::string soleKindOf(const std::string& base) {
+    const std::string text = Support::schemaText("x", base, "");
+    const Ostra::Schema schema(text, ValidationExceptionFactory::shared());
+    std::string id;
+    if (const auto kind = soleKindFor(schema)) {
+        withKind(*kind, [&]<class K>() { id = K::Public::info.id(); });
+    }
+    return id;
+}
+
+TEST(TheSoleKindForASchema, IsThatWithWhoseBaseItsOwnBegins) {
+    forEachKind(StoreOrder{}, []<class K>() {
+        for (const std::string_view base : K::Public::info.bases()) {
+            const bool hasVersion = base != EnumerationKind::base;
+            const std::string_view id = hasVersion ? K::Public::info.id() : "";
+            EXPECT_EQ(soleKindOf(std::string(base)), id) << base;
+            EXPECT_EQ(soleKindOf(std::string(base.substr(0, base.size() - 3)) + "7.3 and more"), id) << base;
+        }
+    });
+}
+
+TEST(TheSoleKindForASchema, IsNotKnownWhereItsBaseMayBeSeveral) {
+    EXPECT_EQ(soleKindOf("norvex.spec:discipline-1.0.0 norvex.talmo.category:domain-1.0.0"), "");
+    EXPECT_EQ(soleKindOf("a norvex.spec:discipline-1.0.0"), "");
+    EXPECT_EQ(soleKindOf("something else"), "");
+    EXPECT_EQ(soleKindOf("norvex.spec:discipline-2.0.0"), "");
 }
 
 TEST(ResolutionOrder, HasWhatIsNamedFirst) {
