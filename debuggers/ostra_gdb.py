@@ -49,6 +49,14 @@ def texts(block):
     return [(characters + begin, end - begin) for begin, end in zip(begins, ends)]
 
 
+def own_texts(data):
+    """The texts of a parameter, which lie behind its data: behind the group, where each begins and the last one ends."""
+    places = read("5I", data + WORD)
+    if any(begin > end for begin, end in zip(places, places[1:])):
+        raise Damaged
+    return [(data + WORD + begin, end - begin) for begin, end in zip(places, places[1:])]
+
+
 def texts_of(data, least):
     found = texts(*read("Q", data))
     if len(found) < least:
@@ -86,6 +94,11 @@ def flag(address):
 
 def named(data):
     typeid, name = texts_of(data, 2)[:2]
+    return f"{text(*typeid)} {quoted(*name)}"
+
+
+def parameter(data):
+    typeid, name = own_texts(data)[:2]
     return f"{text(*typeid)} {quoted(*name)}"
 
 
@@ -133,27 +146,27 @@ def unit(data):
 
 
 CLASSES = {
-    "Parameters::BoolParameter": named,
+    "Parameters::BoolParameter": parameter,
     "Parameters::BoolSpec": named,
     "Parameters::Category": named,
     "Parameters::Enumeration": enumeration,
-    "Parameters::EnumerationParameter": named,
+    "Parameters::EnumerationParameter": parameter,
     "Parameters::Fault": fault,
     "Parameters::FloatRange": bounded("d"),
     "Parameters::GeneralSpec": named,
-    "Parameters::IntParameter": named,
+    "Parameters::IntParameter": parameter,
     "Parameters::IntRange": bounded("q"),
     "Parameters::IntSpec": named,
     "Parameters::MajorCategoryComponent": major_component,
-    "Parameters::MeasurableParameter": named,
+    "Parameters::MeasurableParameter": parameter,
     "Parameters::MeasurableSpec": named,
-    "Parameters::ParameterCore": named,
-    "Parameters::ReferenceParameter": named,
+    "Parameters::ParameterCore": parameter,
+    "Parameters::ReferenceParameter": parameter,
     "Parameters::ReferenceSpec": named,
     "Parameters::RegexStringRangeComponent": regex_component,
     "Parameters::SetStringRangeComponent": set_component,
     "Parameters::SpecCore": named,
-    "Parameters::StringParameter": named,
+    "Parameters::StringParameter": parameter,
     "Parameters::StringRange": identified,
     "Parameters::StringSpec": named,
     "Parameters::SubCategoryComponent": identified,

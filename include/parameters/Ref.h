@@ -40,6 +40,7 @@ public:
             destroy();
         }
     }
+    bool isOne() const noexcept { return count_.load(std::memory_order_acquire) == 1; }
 
 private:
     static bool isProcessOfOneThread() noexcept {
@@ -97,6 +98,9 @@ public:
     Data& operator*() const noexcept { return *data_; }
     Data* operator->() const noexcept { return data_; }
     explicit operator bool() const noexcept { return data_ != nullptr; }
+
+    /// Whether nobody else has a share in the data, which is there.
+    bool isSole() const noexcept { return owners()->isOne(); }
 
     /// Takes over data that nobody has a share in yet.
     static Ref of(Data* data) noexcept {

@@ -89,7 +89,7 @@ bool Engine::offer(const std::string& text, Missing* missing) {
     const Ostra::Schema schema(text, ValidationExceptionFactory::shared());
     const Directory::Key key(schema.typeId());
     checkNew(key);
-    return anyKind(OfferingOrder{}, [&]<class K>() {
+    return Internal::offer(schema, [&]<class K>() {
         auto record = K::read(schema);
         if (!record) {
             return false;
@@ -105,10 +105,10 @@ bool Engine::offer(const std::string& text, Missing* missing) {
 template <class K>
 void Engine::findMissing(const typename K::Record& record, Missing& missing) const {
     if constexpr (DependentKind<K>) {
-        findMissing(record.references, record.texts[0], missing.first);
+        findMissing(record.references, record.typeId(), missing.first);
     }
     if constexpr (KindWithUnits<K>) {
-        findMissing(record.units, record.texts[0], missing.second);
+        findMissing(record.units, record.typeId(), missing.second);
     }
 }
 
@@ -133,7 +133,7 @@ void Engine::resolveSchemas() {
             faults.begin(), faults.end(), [](const auto& one, const auto& other) { return one.typeId < other.typeId; });
         throw ValidationException(first.cause.sentence);
     }
-    registry.reserveForPending();
+    registry.prepareCommit();
     forEachKind(StoreOrder{}, [&]<class K>() { registry.commit<K>(resolution.built<K>()); });
 }
 

@@ -67,11 +67,11 @@ public:
     typename K::Object read(const std::string& text) const {
         const Ostra::Schema schema(text, ValidationExceptionFactory::shared());
         checkNew(schema.typeId());
-        const auto record = K::read(schema);
+        auto record = K::read(schema);
         if (!record) {
             throw ValidationException(EngineMessages::messages("base-incorrect").with({}));
         }
-        return K::build(*record, RegistryFinder(registry_.read(), units_), nullptr);
+        return K::build(*std::move(record), RegistryFinder(registry_.read(), units_), nullptr);
     }
 
     template <class K>

@@ -5,6 +5,7 @@
 #include "engine/Kinds.h"
 #include "engine/Lazy.h"
 #include "engine/SortedOrder.h"
+#include "engine/Staged.h"
 #include "model/Access.h"
 
 #include <algorithm>
@@ -135,7 +136,7 @@ public:
         directory_.reserveOne();
         pending.push_back({std::move(record), 0});
         pending.back().entry =
-            directory_.add({pending.back().record.texts[0], static_cast<std::uint32_t>(pending.size() - 1),
+            directory_.add({pending.back().record.typeId(), static_cast<std::uint32_t>(pending.size() - 1),
                             static_cast<std::uint8_t>(kindIndex<K>), false},
                            key.hash);
     }
@@ -171,48 +172,47 @@ public:
         forEachKind(StoreOrder{}, [this]<class K>() { std::get<kindIndex<K>>(stores_).pending.shrink_to_fit(); });
     }
 
-    /// Makes room for an object for each pending record, so that commit cannot throw.
-    void reserveForPending() {
+    /// Makes room for an object for each pending record, and what is made of them already this registry's alone, so
+    /// that commit cannot throw and changes nothing that another registry has.
+    void prepareCommit() {
         forEachKind(StoreOrder{}, [this]<class K>() {
             auto& store = std::get<kindIndex<K>>(stores_);
-            if (!store.objects.empty()) {
-                store.reserveObjects(store.pending.size());
+            store.reserveObjects(store.pending.size());
+            if constexpr (LinkedKind<K>) {
+                for (auto& [record, entry] : store.pending) {
+                    if (record.makeSole()) {
+                        directory_[entry].typeId = record.typeId();
+                    }
+                }
             }
         });
     }
 
-    /// Puts the objects built for the pending records of a kind, in their order, in the records' place. Records for
-    /// which none was built stay pending.
+    /// Puts what was made of the pending records of a kind, in their order, in the records' place. Records of which
+    /// nothing was made stay pending.
     template <class K>
-    void commit(std::vector<typename K::Object>& built) noexcept {
+    void commit(std::vector<Staged<K>>& staged) noexcept {
         auto& store = std::get<kindIndex<K>>(stores_);
         if (store.pending.empty()) {
             return;
         }
-        const std::size_t before = store.objects.size();
         std::size_t left = 0;
-        std::size_t added = 0;
-        for (std::size_t place = 0; place < built.size(); ++place) {
-            Directory::Entry& entry = directory_[store.pending[place].entry];
-            if (Access::isNone(built[place])) {
+        for (std::size_t place = 0; place < staged.size(); ++place) {
+            auto& pending = store.pending[place];
+            Directory::Entry& entry = directory_[pending.entry];
+            if (staged[place].isNone()) {
                 entry.place = static_cast<std::uint32_t>(left);
                 moveDown(store.pending, place, left++);
             } else {
-                assert(entry.typeId.data() == typeIdOf(built[place]).data()); // which stays: the texts are shared
-                entry.place = static_cast<std::uint32_t>(before + added);
+                entry.place = static_cast<std::uint32_t>(store.objects.size());
                 entry.resolved = true;
-                moveDown(built, place, added++);
+                store.objects.push_back(staged[place].finish(std::move(pending.record)));
+                assert(entry.typeId.data() == typeIdOf(store.objects.back()).data()); // which stays
             }
         }
-        built.erase(built.begin() + static_cast<std::ptrdiff_t>(added), built.end());
         store.pending.erase(store.pending.begin() + static_cast<std::ptrdiff_t>(left), store.pending.end());
         if (left == 0) {
             std::vector<typename Store<K>::Pending>().swap(store.pending);
-        }
-        if (store.objects.empty()) {
-            store.objects.swap(built);
-        } else {
-            store.objects.insert(store.objects.end(), built.begin(), built.end());
         }
         store.grown();
         dependents_.take();

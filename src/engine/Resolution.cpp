@@ -20,8 +20,7 @@ const void* addressOf(const Registry& registry, const Staging* staging, const Di
     if (staging == nullptr || entry.place >= staging->of<K>().size()) {
         return nullptr;
     }
-    const auto& staged = staging->of<K>()[entry.place];
-    return Access::isNone(staged) ? nullptr : &staged;
+    return staging->of<K>()[entry.place].object();
 }
 
 using AddressOf = const void* (*)(const Registry& registry, const Staging* staging, const Directory::Entry& entry);
@@ -63,14 +62,14 @@ const Resolution::Faults& Resolution::run(Stop stop) {
 template <class K>
 void Resolution::build(Stop stop) {
     const auto& pending = registry_.store<K>().pending;
-    staging_.of<K>().assign(pending.size(), Access::none<typename K::Object>());
+    staging_.of<K>() = Staging::AllOf<K>(pending.size());
     if constexpr (KindWithPasses<K>) {
         // Within a pass in ascending order too, since whether an object of this kind is there yet can now matter.
         std::vector<std::size_t> places(pending.size());
         std::iota(places.begin(), places.end(), std::size_t{0});
         std::sort(places.begin(), places.end(), [&pending](std::size_t a, std::size_t b) {
             const auto key = [&](std::size_t place) {
-                return std::pair(K::passOf(pending[place].record), pending[place].record.texts[0]);
+                return std::pair(K::passOf(pending[place].record), pending[place].record.typeId());
             };
             return key(a) < key(b);
         });
@@ -92,10 +91,8 @@ void Resolution::build(Stop stop) {
 template <class K>
 void Resolution::build(std::size_t place) {
     const auto& record = registry_.store<K>().pending[place].record;
-    auto object = K::build(record, finder_, nullptr);
-    if (!finder_.hasUnresolved()) {
-        Access::put(std::move(object), staging_.of<K>()[place]);
-    } else {
+    staging_.of<K>()[place].make(record, finder_);
+    if (finder_.hasUnresolved()) {
         takeFaults(record);
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/Registry.h"
+#include "engine/Staged.h"
 #include "model/Finder.h"
 #include "schema/Hash.h"
 
@@ -19,26 +20,26 @@
 
 namespace Parameters::Internal {
 
-/// The objects that are being built for pending records, place by place; none where there is none (yet).
+/// What is being made of pending records, place by place.
 class Staging {
 public:
     template <class K>
-    using Objects = std::vector<typename K::Object>;
+    using AllOf = std::vector<Staged<K>>;
 
     template <class K>
-    Objects<K>& of() noexcept {
-        return std::get<kindIndex<K>>(objects_);
+    AllOf<K>& of() noexcept {
+        return std::get<kindIndex<K>>(staged_);
     }
     template <class K>
-    const Objects<K>& of() const noexcept {
-        return std::get<kindIndex<K>>(objects_);
+    const AllOf<K>& of() const noexcept {
+        return std::get<kindIndex<K>>(staged_);
     }
 
 private:
     template <class... Ks>
-    static std::tuple<Objects<Ks>...> objectsOf(KindList<Ks...>);
+    static std::tuple<AllOf<Ks>...> allOf(KindList<Ks...>);
 
-    decltype(objectsOf(StoreOrder{})) objects_;
+    decltype(allOf(StoreOrder{})) staged_;
 };
 
 /// Finds what is registered and, for resolution, what is staged.
@@ -86,13 +87,13 @@ public:
     template <class K>
     Faults check(const typename K::Record& record) {
         faults_.clear();
-        static_cast<void>(K::build(record, finder_, nullptr));
+        Staged<K>().make(record, finder_);
         takeFaults(record);
         return std::exchange(faults_, {});
     }
 
     template <class K>
-    Staging::Objects<K>& built() noexcept {
+    Staging::AllOf<K>& built() noexcept {
         return staging_.of<K>();
     }
 
@@ -122,7 +123,7 @@ void Resolution::takeFaults(const Record& record) {
     });
     for (Unresolved& cause : finder_.takeUnresolved()) {
         const std::size_t occurrence = occurrences.at(cause.named.data());
-        faults_.push_back({record.texts[0], std::move(cause), occurrence});
+        faults_.push_back({record.typeId(), std::move(cause), occurrence});
     }
 }
 

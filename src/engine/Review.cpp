@@ -34,13 +34,12 @@ struct ReadText {
 
     const std::string* key;
     const std::string* text;
-    Texts texts = {}; // the typeid first, if it could be read
+    std::string_view typeId = {}; // its record's or its own, if it could be read
+    Texts ownTypeId = {};         // of what has no record
     std::size_t kind = unknownKind;
     int pass = 0;
     bool isPending = false; // in the registry, until resolution
     bool isFaulty = false;
-
-    std::string_view typeId() const { return texts.size() > 0 ? texts[0] : std::string_view(); }
 };
 
 /// Whether a fault leaves open what a text is: an installed units library may refuse one for any reason.
@@ -135,10 +134,10 @@ void Review::read(const std::string& key, const std::string& text) {
         tellTaken(schema);
     }
     texts_.push_back({&key, &text});
-    const bool isAccepted =
-        schema.isReadable() && anyKind(OfferingOrder{}, [&]<class K>() { return readAs<K>(schema, id); });
+    const bool isAccepted = schema.isReadable() && offer(schema, [&]<class K>() { return readAs<K>(schema, id); });
     if (!isAccepted && !schema.typeId().empty()) {
-        texts_[id].texts = Texts{schema.typeId()};
+        texts_[id].ownTypeId = Texts{schema.typeId()};
+        texts_[id].typeId = texts_[id].ownTypeId[0];
     }
     if (schema.isReadable() && !isAccepted) {
         readUnit(id, taken);
@@ -173,7 +172,7 @@ bool Review::readAs(const Ostra::Schema& schema, TextId id) {
     schema.tellUnread();
     ReadText& read = texts_[id];
     read.kind = kindIndex<K>;
-    read.texts = record->texts;
+    read.typeId = record->typeId();
     if constexpr (KindWithPasses<K>) {
         read.pass = K::passOf(*record);
     }
@@ -226,7 +225,7 @@ FaultData Review::emptyFault(TextId id, const Ostra::Message& message) const {
     FaultData fault{};
     fault.code = message.code;
     fault.severity = severityOf(message);
-    fault.typeId = text.typeId();
+    fault.typeId = text.typeId;
     fault.place = {*text.key, "", 0, text.text->size()};
     return fault;
 }
@@ -269,7 +268,7 @@ FaultData Review::faultOf(TextId id, UnitFault&& unitFault) const {
     fault.code = unitFault.code;
     fault.severity = unitFault.isError ? Fault::Severity::error : Fault::Severity::warning;
     fault.message = std::move(unitFault.message);
-    fault.typeId = texts_[id].typeId();
+    fault.typeId = texts_[id].typeId;
     fault.place = placeOf(unitFault.place);
     fault.name = std::move(unitFault.name);
     fault.nearestName = std::move(unitFault.nearestName);
@@ -289,7 +288,7 @@ void Review::addFaults(TextId id, std::vector<FaultData>&& faults) {
 /// Returns the first text of that typeid.
 std::optional<TextId> Review::textOf(std::string_view typeId) {
     for (; indexed_ < texts_.size(); ++indexed_) {
-        byTypeId_.try_emplace(texts_[indexed_].typeId(), indexed_);
+        byTypeId_.try_emplace(texts_[indexed_].typeId, indexed_);
     }
     const auto found = typeId.empty() ? byTypeId_.end() : byTypeId_.find(typeId);
     return found != byTypeId_.end() ? std::optional(found->second) : std::nullopt;
@@ -324,11 +323,11 @@ void Review::resolve(Outcome outcome) {
     });
     tellMissing();
     if (outcome == Outcome::objects) {
-        registry_.reserveForPending();
+        registry_.prepareCommit();
         forEachKind(StoreOrder{}, [&]<class K>() { registry_.commit<K>(resolution.built<K>()); });
         for (const ReadText& text : texts_) {
             if (text.isPending && text.isFaulty) {
-                registry_.discardPending(text.typeId());
+                registry_.discardPending(text.typeId);
             }
         }
     }

@@ -32,6 +32,13 @@ struct Access {
             return value.data_;
         }
     }
+    /// Returns a share in all the data of a value.
+    template <class Value>
+    static auto share(const Value& value) noexcept {
+        using Data = const typename Value::Data;
+        auto share = shared(value);
+        return Ref<Data>::of(static_cast<Data*>(share.release()));
+    }
     template <class Value, class Data>
     static Value make(Ref<Data> data) noexcept {
         return Value(std::move(data), Key(0));

@@ -9,20 +9,22 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 namespace Parameters::Internal {
 
 struct BoolParameterData : ParameterCoreData {
     BoolSpec spec;
+
+    auto links() { return std::tie(group, spec); }
 };
 
-struct BoolParameterKind : DescribedKind<Kinds::BoolParameter> {
+struct BoolParameterKind : ParameterKind<BoolParameterKind, Kinds::BoolParameter, BoolParameterData> {
     using Names = KindList<GroupKind, BoolSpecKind>;
-    using Record = ParameterRecord;
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const BoolParameter& parameter);
-    static BoolParameter build(const Record& record, const Finder& finder, const BoolParameter* given);
+    static Links find(const Record& record, const Finder& finder, const BoolParameter* given);
     static std::string write(const BoolParameter& parameter);
 };
 

@@ -1,27 +1,16 @@
 #include "model/EnumerationParameter.h"
 
-#include "model/MakeRef.h"
 #include "model/Writing.h"
 #include "schema/Constants.h"
 
-#include <memory>
 #include <string>
 #include <utility>
 
 namespace Parameters {
 
-namespace {
-
-EnumerationParameter parameterOf(Internal::EnumerationParameterData data) {
-    return Internal::Access::make<EnumerationParameter>(
-        Internal::makeRef<Internal::EnumerationParameterData>(std::move(data)));
-}
-
-} // namespace
-
 EnumerationParameter::EnumerationParameter(const ParameterCore& core, const GeneralSpec& spec,
                                            const Enumeration& enumeration)
-    : EnumerationParameter(parameterOf({Internal::Access::data(core), spec, enumeration})) {}
+    : EnumerationParameter(Internal::EnumerationParameterKind::make(core, spec, enumeration)) {}
 
 ParameterCore EnumerationParameter::getCore() const noexcept { return core_; }
 
@@ -115,21 +104,22 @@ std::optional<EnumerationParameterKind::Record> EnumerationParameterKind::read(c
     const auto common = ParameterConstants::read(Ostra::Constants(schema));
     const auto spec = readSpec(schema);
     const auto enumeration = readEnumeration(schema);
-    return Record(schema.typeId(), common, spec, enumeration);
+    return recordFrom(schema, common, {common.group, spec, enumeration}, Access::none<GeneralSpec>(),
+                      Access::none<Enumeration>());
 }
 
 EnumerationParameterKind::Record EnumerationParameterKind::recordOf(const EnumerationParameter& parameter) {
     const auto& data = Access::data(parameter);
-    return Record(data, typeIdOf(data.spec), typeIdOf(data.enumeration));
+    return {Access::share(parameter), {typeIdOf(data.group), typeIdOf(data.spec), typeIdOf(data.enumeration)}};
 }
 
-EnumerationParameter EnumerationParameterKind::build(const Record& record, const Finder& finder,
-                                                     const EnumerationParameter*) {
-    auto core = buildParameterCore(record, finder);
+EnumerationParameterKind::Links EnumerationParameterKind::find(const Record& record, const Finder& finder,
+                                                               const EnumerationParameter*) {
+    const auto group = findGroup(record, finder);
     const auto [spec, enumeration] = findBoth(
         finder, [&] { return finder.require<GeneralSpecKind>(record.spec(), record.typeId()); },
-        [&] { return finder.require<EnumerationKind>(record.enumeration(), record.typeId()); });
-    return parameterOf({std::move(core), spec, enumeration});
+        [&] { return finder.require<EnumerationKind>(record.references[2], record.typeId()); });
+    return Links{group, spec, enumeration};
 }
 
 std::string EnumerationParameterKind::write(const EnumerationParameter& parameter) {

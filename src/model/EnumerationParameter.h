@@ -11,15 +11,19 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 namespace Parameters::Internal {
 
 struct EnumerationParameterData : ParameterCoreData {
     GeneralSpec spec;
     Enumeration enumeration;
+
+    auto links() { return std::tie(group, spec, enumeration); }
 };
 
-struct EnumerationParameterKind : DescribedKind<Kinds::EnumerationParameter> {
+struct EnumerationParameterKind
+    : ParameterKind<EnumerationParameterKind, Kinds::EnumerationParameter, EnumerationParameterData> {
     using Names = KindList<GroupKind, GeneralSpecKind, EnumerationKind>;
 
     static constexpr auto messages = Ostra::Messages({
@@ -34,14 +38,9 @@ struct EnumerationParameterKind : DescribedKind<Kinds::EnumerationParameter> {
          "Value property in enumeration parameter schema <schema> must specify a nonempty typeid string."},
     });
 
-    struct Record : ParameterRecord {
-        using ParameterRecord::ParameterRecord;
-        std::string_view enumeration() const { return references[2]; }
-    };
-
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const EnumerationParameter& parameter);
-    static EnumerationParameter build(const Record& record, const Finder& finder, const EnumerationParameter* given);
+    static Links find(const Record& record, const Finder& finder, const EnumerationParameter* given);
     static std::string write(const EnumerationParameter& parameter);
 };
 

@@ -6,8 +6,7 @@ IntParameter::IntParameter(const ParameterCore& core, const IntRange& range)
     : IntParameter(core, Internal::standInOf<Internal::IntSpecKind>(), range) {}
 
 IntParameter::IntParameter(const ParameterCore& core, const IntSpec& spec, const IntRange& range)
-    : IntParameter(
-          Internal::IntParameterKind::make(Internal::ParameterCoreData(Internal::Access::data(core)), spec, range)) {}
+    : IntParameter(Internal::IntParameterKind::make(core, spec, range)) {}
 
 ParameterCore IntParameter::getCore() const noexcept { return core_; }
 

@@ -15,8 +15,9 @@ struct IntParameterTraits {
 
     static constexpr bool bindsRangeFirst = true;
 
-    static IntSpec findSpec(const ParameterRecord& record, const Finder& finder, const IntSpec* given) {
-        return finder.requireOrStandIn<IntSpecKind>(record.spec(), record.typeId(), given);
+    static IntSpec findSpec(std::string_view spec, std::string_view typeId, const Finder& finder,
+                            const IntSpec* given) {
+        return finder.requireOrStandIn<IntSpecKind>(spec, typeId, given);
     }
 };
 

@@ -13,6 +13,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace Parameters::Internal {
 
@@ -49,15 +50,15 @@ struct DescribedKind {
 
 /// A kind of object: how its schemas are read, its objects built and its schemas written.
 ///
-/// Its record is what a text or an object says, with the objects that it names still typeids. The first of the record's
-/// texts is the typeid. Names lists the kinds of these objects.
+/// Its record is what a text or an object says, with the objects that it names still typeids. Names lists the kinds of
+/// these objects.
 template <class K>
 concept Kind = requires(const Ostra::Schema& schema, const typename K::Record& record, const typename K::Object& object,
                         const Finder& finder) {
     typename K::Public;
     typename K::Names;
     { K::word } -> std::convertible_to<std::string_view>;
-    { record.texts[0] } -> std::same_as<std::string_view>;
+    { record.typeId() } -> std::same_as<std::string_view>;
     { K::read(schema) } -> std::same_as<std::optional<typename K::Record>>; // empty: not this kind
     { K::recordOf(object) } -> std::same_as<typename K::Record>;
     { K::build(record, finder, &object) } -> std::same_as<typename K::Object>; // of an object made in code, or null
@@ -80,6 +81,16 @@ concept KindWithStandIn = requires(std::string_view typeId) {
 template <class K>
 concept KindWithPasses = requires(const typename K::Record& record) {
     { K::passOf(record) } -> std::same_as<int>;
+};
+
+/// A kind whose objects are made when they are read: resolution finds what they name, and puts it into them.
+template <class K>
+concept LinkedKind = requires(typename K::Record record, const Finder& finder, const typename K::Object& object,
+                              typename K::Links links) {
+    { K::find(record, finder, &object) } -> std::same_as<typename K::Links>;
+    record.makeSole();
+    { K::link(std::move(record), std::move(links)) }
+    noexcept->std::same_as<typename K::Object>;
 };
 
 /// A kind whose records name units beside other objects.
@@ -115,7 +126,7 @@ constexpr bool isKind() {
     static_assert(
         requires { typename K::Record; }, "This kind lacks its Record.");
     static_assert(
-        requires(const typename K::Record& record) { record.texts[0]; }, "This kind's Record lacks texts.");
+        requires(const typename K::Record& record) { record.typeId(); }, "This kind's Record lacks typeId().");
     static_assert(
         requires(const Ostra::Schema& schema) { K::read(schema); }, "This kind lacks read(schema).");
     static_assert(

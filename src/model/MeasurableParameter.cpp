@@ -3,8 +3,7 @@
 namespace Parameters {
 
 MeasurableParameter::MeasurableParameter(const ParameterCore& core, const MeasurableSpec& spec, const FloatRange& range)
-    : MeasurableParameter(Internal::MeasurableParameterKind::make(
-          Internal::ParameterCoreData(Internal::Access::data(core)), spec, range)) {}
+    : MeasurableParameter(Internal::MeasurableParameterKind::make(core, spec, range)) {}
 
 ParameterCore MeasurableParameter::getCore() const noexcept { return core_; }
 

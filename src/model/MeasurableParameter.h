@@ -15,8 +15,9 @@ struct MeasurableParameterTraits {
 
     static constexpr bool bindsRangeFirst = false;
 
-    static MeasurableSpec findSpec(const ParameterRecord& record, const Finder& finder, const MeasurableSpec*) {
-        return finder.require<MeasurableSpecKind>(record.spec(), record.typeId());
+    static MeasurableSpec findSpec(std::string_view spec, std::string_view typeId, const Finder& finder,
+                                   const MeasurableSpec*) {
+        return finder.require<MeasurableSpecKind>(spec, typeId);
     }
 };
 

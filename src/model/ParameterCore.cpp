@@ -13,8 +13,8 @@ ParameterCore::ParameterCore(const std::string& typeId, const std::string& name,
 
 ParameterCore::ParameterCore(const std::string& typeId, const std::string& name, const Taxon& group,
                              const std::string& description, const std::string& sampleText, bool readOnly)
-    : data_(Internal::makeRef<Internal::ParameterCoreData>(Internal::ParameterCoreData{
-          .texts = {typeId, name, description, sampleText}, .group = group, .readOnly = readOnly})) {}
+    : data_(Internal::makeRefWith<Internal::ParameterCoreData>({typeId, name, description, sampleText}, group,
+                                                               Internal::TrailingStrings<4>(), readOnly)) {}
 
 std::string ParameterCore::getTypeId() const { return std::string(typeId()); }
 
@@ -50,12 +50,6 @@ ParameterConstants ParameterConstants::read(const Ostra::Constants& constants) {
     result.group = constants.optional<Ostra::TypedValue>("group", GroupKind::base.full());
     result.readOnly = constants.optional<Ostra::Boolean>("readOnly", false);
     return result;
-}
-
-ParameterCoreData buildParameterCore(const ParameterRecord& record, const Finder& finder) {
-    return {.texts = record.texts,
-            .group = finder.requireOrStandIn<GroupKind>(record.group(), record.typeId()),
-            .readOnly = record.readOnly};
 }
 
 void writeParameterConstants(Ostra::SchemaWriter& writer, const ParameterCoreData& core) {

@@ -3,31 +3,35 @@
 #include "model/Access.h"
 #include "model/Finder.h"
 #include "model/Kind.h"
+#include "model/Links.h"
+#include "model/MakeRef.h"
 #include "model/Taxon.h"
 #include "model/Texts.h"
+#include "model/TrailingStrings.h"
 #include "schema/Constants.h"
 #include "schema/SchemaWriter.h"
 
 #include <parameters/ParameterCore.h>
 #include <parameters/Taxon.h>
 
-#include <memory>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace Parameters::Internal {
 
 /// The data of a core, from which those of parameters derive: a parameter holds them as its core.
 struct ParameterCoreData {
-    Texts texts;                               // typeid, name, description, sampleText
-    Texts::Place namePlace = texts.placeOf(1); // lists are sorted by name: it is at hand, beside the texts
+    using Strings = TrailingStrings<4>::Views; // typeid, name, description, sampleText
+
     Taxon group;
+    TrailingStrings<4> strings;
     bool readOnly;
 
-    std::string_view typeId() const { return texts[0]; }
-    std::string_view name() const { return texts[namePlace]; }
-    std::string_view description() const { return texts[2]; }
-    std::string_view sampleText() const { return texts[3]; }
+    std::string_view typeId() const { return strings[0]; }
+    std::string_view name() const { return strings[1]; }
+    std::string_view description() const { return strings[2]; }
+    std::string_view sampleText() const { return strings[3]; }
 };
 
 /// The constants that all parameter schemas share, as the text has them.
@@ -41,39 +45,85 @@ struct ParameterConstants {
     static ParameterConstants read(const Ostra::Constants& constants);
 };
 
-/// The part of a parameter's record that all parameters share.
+/// The record of a parameter: its data and the typeids of what it names. It is made by its constructor alone: g++ 12
+/// destroys the first part of an aggregate twice when making the second one throws.
+template <class Data>
 struct ParameterRecord {
-    Texts texts;      // typeid, name, description, sampleText
-    Texts references; // typeids: group, spec, then what the kind adds
-    bool readOnly;
+    Ref<const Data> data; // of a schema text, without what is named
+    Texts references;     // group, spec, then what the kind adds
 
-    /// Of a schema text.
-    ParameterRecord(std::string_view typeId, const ParameterConstants& constants, std::string_view spec,
-                    std::optional<std::string_view> added = {})
-        : texts{typeId, constants.name, constants.description, constants.sampleText},
-          references(referencesOf(constants.group, spec, added)), readOnly(constants.readOnly) {}
-    /// Of an object.
-    ParameterRecord(const ParameterCoreData& core, std::string_view spec, std::optional<std::string_view> added = {})
-        : texts(core.texts), references(referencesOf(typeIdOf(core.group), spec, added)), readOnly(core.readOnly) {}
+    ParameterRecord(Ref<const Data> itsData, Texts named) : data(std::move(itsData)), references(std::move(named)) {}
 
-    std::string_view typeId() const { return texts[0]; }
+    std::string_view typeId() const { return data->typeId(); }
     std::string_view group() const { return references[0]; }
     std::string_view spec() const { return references[1]; }
-
-protected:
     /// What the kind names beside group and spec, if it does.
     std::optional<std::string_view> added() const {
         return references.size() > 2 ? std::optional(references[2]) : std::nullopt;
     }
 
-private:
-    static Texts referencesOf(std::string_view group, std::string_view spec, std::optional<std::string_view> added) {
+    /// Makes the data this record's alone; returns whether it was not, so that it lies elsewhere now.
+    bool makeSole() {
+        if (data.isSole()) {
+            return false;
+        }
+        data = makeRefWith<Data>(data->strings.views(), *data);
+        return true;
+    }
+};
+
+/// The kind of a parameter. It is made when its schema is read; what it names is put into it when that is found.
+///
+/// Self has reading and writing, and finds what a record names.
+template <class Self, class P, class D>
+struct ParameterKind : DescribedKind<P> {
+    using Object = typename P::Value;
+    using Data = D;
+    using Links = LinksOf<Data>;
+    using Record = ParameterRecord<Data>;
+
+    /// Makes a parameter of a core, what the kind adds of its own, and what it names.
+    template <class... Parts>
+    static Object make(const ParameterCore& core, const Parts&... parts) {
+        const ParameterCoreData& data = Access::data(core);
+        return Access::make<Object>(makeRefWith<Data>(data.strings.views(), data, parts...));
+    }
+
+    static Object build(Record record, const Finder& finder, const Object* given) {
+        Links links = Self::find(record, finder, given);
+        record.makeSole();
+        return link(std::move(record), std::move(links));
+    }
+
+    /// Returns the parameter of a record, whose data is its alone, with what it names.
+    static Object link(Record&& record, Links&& links) noexcept {
+        links.moveInto(const_cast<Data&>(*record.data)); // which nobody else sees
+        return Access::make<Object>(std::move(record.data));
+    }
+
+protected:
+    /// Returns the record of a schema; parts is what the kind adds to a core.
+    template <class... Parts>
+    static Record recordFrom(const Ostra::Schema& schema, const ParameterConstants& constants, Texts references,
+                             Parts&&... parts) {
+        return {makeRefWith<Data>({schema.typeId(), constants.name, constants.description, constants.sampleText},
+                                  ParameterCoreData{Access::none<Taxon>(), {}, constants.readOnly},
+                                  std::forward<Parts>(parts)...),
+                std::move(references)};
+    }
+
+    /// Returns what all parameters name: group, spec, and what the kind adds.
+    static Texts referencesOf(std::string_view group, std::string_view spec,
+                              std::optional<std::string_view> added = {}) {
         return added ? Texts{group, spec, *added} : Texts{group, spec};
     }
 };
 
-/// Returns the core of the record with the group that it names.
-ParameterCoreData buildParameterCore(const ParameterRecord& record, const Finder& finder);
+/// Returns the group that a record names.
+template <class Record>
+Taxon findGroup(const Record& record, const Finder& finder) {
+    return finder.requireOrStandIn<GroupKind>(record.group(), record.typeId());
+}
 
 /// Writes the constants that all parameters share, those that differ from their defaults.
 void writeParameterConstants(Ostra::SchemaWriter& writer, const ParameterCoreData& core);

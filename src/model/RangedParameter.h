@@ -3,17 +3,16 @@
 #include "model/Access.h"
 #include "model/Finder.h"
 #include "model/Kind.h"
-#include "model/MakeRef.h"
 #include "model/ParameterCore.h"
 #include "model/RangeConstant.h"
 #include "model/Writing.h"
 #include "schema/Constants.h"
 #include "schema/Schema.h"
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 namespace Parameters::Internal {
@@ -23,36 +22,33 @@ template <class Spec, class Range>
 struct RangedParameterData : ParameterCoreData {
     Spec spec;
     Range range;
+
+    auto links() { return std::tie(group, spec, range); }
 };
 
-/// The record of a parameter that has a range.
-template <class Range>
-struct RangedParameterRecord : ParameterRecord {
-    Range ownRange; // none when a registered range is named
-
-    template <class... Parts> // of a ParameterRecord before what it adds: the range that is named
-    explicit RangedParameterRecord(const RangeReference<Range>& range, Parts&&... parts)
-        : ParameterRecord(std::forward<Parts>(parts)..., range.named), ownRange(range.own) {}
-
-    /// The range that is named, if one is.
-    std::optional<std::string_view> range() const { return added(); }
-};
-
-/// The kind of a parameter that has a range. Where its spec has no built-in object, it must be named.
+/// The kind of a parameter that has a range. Where its spec has no built-in object, it must be named. The range of its
+/// own that it may have in place of a registered one is made when it is read.
 ///
 /// Traits has the kind's entry in the public list, the kinds of its spec and its range, how the spec is found, and
 /// whether binding looks for the range first.
 template <class Traits>
-class RangedParameterKind : public DescribedKind<typename Traits::Public> {
+class RangedParameterKind
+    : public ParameterKind<RangedParameterKind<Traits>, typename Traits::Public,
+                           RangedParameterData<typename Traits::SpecKind::Object, typename Traits::RangeKind::Object>> {
+    using Base =
+        ParameterKind<RangedParameterKind<Traits>, typename Traits::Public,
+                      RangedParameterData<typename Traits::SpecKind::Object, typename Traits::RangeKind::Object>>;
+
 public:
-    using Object = typename Traits::Public::Value;
     using SpecKind = typename Traits::SpecKind;
     using RangeKind = typename Traits::RangeKind;
     using Spec = typename SpecKind::Object;
     using Range = typename RangeKind::Object;
     using Names = KindList<GroupKind, SpecKind, RangeKind>;
-    using Record = RangedParameterRecord<Range>;
-    using DescribedKind<typename Traits::Public>::base;
+    using Base::base;
+    using typename Base::Links;
+    using typename Base::Object;
+    using typename Base::Record;
 
     static std::optional<Record> read(const Ostra::Schema& schema) {
         if (!schema.inherits(base)) {
@@ -61,26 +57,29 @@ public:
         const Ostra::Constants constants(schema);
         const auto common = ParameterConstants::read(constants);
         const auto spec = readSpec(constants);
-        return Record(RangeKind::readConstant(schema, constants), schema.typeId(), common, spec);
+        const auto range = RangeKind::readConstant(schema, constants);
+        return Base::recordFrom(schema, common, Base::referencesOf(common.group, spec, range.named),
+                                Access::none<Spec>(), range.own);
     }
 
     static Record recordOf(const Object& parameter) {
         const auto& data = Access::data(parameter);
-        return Record(RangeKind::referenceTo(data.range), data, typeIdOf(data.spec));
+        const auto range = RangeKind::referenceTo(data.range);
+        return {Access::share(parameter), Base::referencesOf(typeIdOf(data.group), typeIdOf(data.spec), range.named)};
     }
 
-    static Object build(const Record& record, const Finder& finder, const Object* given) {
-        auto core = buildParameterCore(record, finder);
+    static Links find(const Record& record, const Finder& finder, const Object* given) {
+        const auto group = findGroup(record, finder);
         const auto findSpec = [&] {
-            return Traits::findSpec(record, finder, given != nullptr ? &Access::data(*given).spec : nullptr);
+            return Traits::findSpec(record.spec(), record.typeId(), finder,
+                                    given != nullptr ? &Access::data(*given).spec : nullptr);
         };
         const auto findRange = [&] { return rangeOf(record, finder); };
         if constexpr (Traits::bindsRangeFirst) {
             const auto [spec, range] = findBoth(finder, findSpec, findRange);
-            return make(std::move(core), spec, range);
+            return Links{group, spec, range};
         } else {
-            const auto spec = findSpec();
-            return make(std::move(core), spec, findRange());
+            return Links{group, findSpec(), findRange()};
         }
     }
 
@@ -93,11 +92,6 @@ public:
         return std::move(writer).finish();
     }
 
-    static Object make(ParameterCoreData&& core, const Spec& spec, const Range& range) {
-        using Data = RangedParameterData<Spec, Range>;
-        return Access::make<Object>(makeRef<Data>(Data{std::move(core), spec, range}));
-    }
-
 private:
     static std::string_view readSpec(const Ostra::Constants& constants) {
         if constexpr (KindWithStandIn<SpecKind>) {
@@ -108,13 +102,14 @@ private:
     }
 
     static Range rangeOf(const Record& record, const Finder& finder) {
-        if constexpr (requires { RangeKind::check(record.ownRange); }) {
-            if (finder.binds() && !Access::isNone(record.ownRange)) {
-                RangeKind::check(record.ownRange); // whether it is the parameter's or, made in code, another's
+        const Range& own = record.data->range;
+        if constexpr (requires { RangeKind::check(own); }) {
+            if (finder.binds() && !Access::isNone(own)) {
+                RangeKind::check(own); // whether it is the parameter's or, made in code, another's
             }
         }
-        const auto named = record.range();
-        return named ? finder.require<RangeKind>(*named, record.typeId()) : record.ownRange;
+        const auto named = record.added();
+        return named ? finder.require<RangeKind>(*named, record.typeId()) : own;
     }
 };
 

@@ -1,26 +1,15 @@
 #include "model/ReferenceParameter.h"
 
 #include "model/Category.h"
-#include "model/MakeRef.h"
 #include "model/Writing.h"
 #include "schema/Constants.h"
 
 #include <parameters/ValidationException.h>
 
-#include <memory>
 #include <string>
 #include <utility>
 
 namespace Parameters {
-
-namespace {
-
-ReferenceParameter parameterOf(Internal::ReferenceParameterData data) {
-    return Internal::Access::make<ReferenceParameter>(
-        Internal::makeRef<Internal::ReferenceParameterData>(std::move(data)));
-}
-
-} // namespace
 
 ReferenceParameter::ReferenceParameter(const ParameterCore& core, const Category& category, bool ranged)
     : ReferenceParameter(
@@ -28,7 +17,7 @@ ReferenceParameter::ReferenceParameter(const ParameterCore& core, const Category
           ranged) {}
 
 ReferenceParameter::ReferenceParameter(const ParameterCore& core, const ReferenceSpec& spec, bool ranged)
-    : ReferenceParameter(parameterOf({Internal::Access::data(core), ranged, spec})) {}
+    : ReferenceParameter(Internal::ReferenceParameterKind::make(core, ranged, spec)) {}
 
 ReferenceParameter::ReferenceParameter(const ParameterCore& core, bool ranged)
     : ReferenceParameter(core, Internal::standInOf<Internal::ReferenceSpecKind>(), ranged) {}
@@ -104,7 +93,7 @@ SpecReference readSpec(const Ostra::Schema& schema, const Ostra::Constants& cons
 }
 
 ReferenceSpec buildFamilyType(const ReferenceParameterKind::Record& record, const Finder& finder) {
-    const auto named = record.category();
+    const auto named = record.added();
     if (!named) {
         throw ValidationException(ReferenceParameterKind::messages("given-category-missing").with({}));
     }
@@ -123,7 +112,8 @@ std::optional<ReferenceParameterKind::Record> ReferenceParameterKind::read(const
     const Ostra::Constants constants(schema);
     const auto common = ParameterConstants::read(constants);
     const auto [spec, category] = readSpec(schema, constants);
-    return Record(ranged, schema.typeId(), common, spec, category);
+    return recordFrom(schema, common, referencesOf(common.group, spec, category), ranged,
+                      Access::none<ReferenceSpec>());
 }
 
 ReferenceParameterKind::Record ReferenceParameterKind::recordOf(const ReferenceParameter& parameter) {
@@ -133,16 +123,15 @@ ReferenceParameterKind::Record ReferenceParameterKind::recordOf(const ReferenceP
     if (category && isFamilyType(typeIdOf(data.spec))) { // another spec brings its own category
         named = typeIdOf(*category);
     }
-    return Record(data.ranged, data, typeIdOf(data.spec), named);
+    return {Access::share(parameter), referencesOf(typeIdOf(data.group), typeIdOf(data.spec), named)};
 }
 
-ReferenceParameter ReferenceParameterKind::build(const Record& record, const Finder& finder,
-                                                 const ReferenceParameter*) {
-    auto core = buildParameterCore(record, finder);
-    const auto spec = isFamilyType(record.spec())
-                          ? buildFamilyType(record, finder)
-                          : finder.requireOrUsualStandIn<ReferenceSpecKind>(record.spec(), record.typeId());
-    return parameterOf({std::move(core), record.ranged, spec});
+ReferenceParameterKind::Links ReferenceParameterKind::find(const Record& record, const Finder& finder,
+                                                           const ReferenceParameter*) {
+    const auto group = findGroup(record, finder);
+    return Links{group, isFamilyType(record.spec())
+                            ? buildFamilyType(record, finder)
+                            : finder.requireOrUsualStandIn<ReferenceSpecKind>(record.spec(), record.typeId())};
 }
 
 std::string ReferenceParameterKind::write(const ReferenceParameter& parameter) {

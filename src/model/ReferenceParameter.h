@@ -10,16 +10,19 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
+#include <tuple>
 
 namespace Parameters::Internal {
 
 struct ReferenceParameterData : ParameterCoreData {
     bool ranged; // before the spec, where the core leaves room
     ReferenceSpec spec;
+
+    auto links() { return std::tie(group, spec); }
 };
 
-struct ReferenceParameterKind : DescribedKind<Kinds::ReferenceParameter> {
+struct ReferenceParameterKind
+    : ParameterKind<ReferenceParameterKind, Kinds::ReferenceParameter, ReferenceParameterData> {
     using Names = KindList<GroupKind, ReferenceSpecKind, CategoryKind>;
 
     static constexpr auto messages = Ostra::Messages({
@@ -35,22 +38,12 @@ struct ReferenceParameterKind : DescribedKind<Kinds::ReferenceParameter> {
         {"given-category-missing", "Family Type parameter must specify a category."},
     });
 
-    struct Record : ParameterRecord {
-        bool ranged;
-
-        template <class... Parts> // of a ParameterRecord; what it adds is the category of a family type
-        explicit Record(bool isRanged, Parts&&... parts)
-            : ParameterRecord(std::forward<Parts>(parts)...), ranged(isRanged) {}
-
-        std::optional<std::string_view> category() const { return added(); }
-    };
-
     static constexpr Ostra::Identifier plainBase{Public::info.bases()[0]};
     static constexpr Ostra::Identifier rangedBase{Public::info.bases()[1]};
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const ReferenceParameter& parameter);
-    static ReferenceParameter build(const Record& record, const Finder& finder, const ReferenceParameter* given);
+    static Links find(const Record& record, const Finder& finder, const ReferenceParameter* given);
     static std::string write(const ReferenceParameter& parameter);
 };
 

@@ -35,8 +35,7 @@ struct SpecConstants {
     static SpecConstants read(const Ostra::Constants& constants);
 };
 
-/// The part of a spec's record that all specs share. It is made by constructors alone: g++ 12 destroys the first part
-/// of an aggregate twice when making the second one throws.
+/// The part of a spec's record that all specs share. It is made by constructors alone, as that of a parameter is.
 struct SpecRecord {
     Texts texts;      // typeid, name
     Texts references; // typeids: discipline, then what the kind adds

@@ -6,8 +6,7 @@ StringParameter::StringParameter(const ParameterCore& core, const StringRange& r
     : StringParameter(core, Internal::standInOf<Internal::StringSpecKind>(), range) {}
 
 StringParameter::StringParameter(const ParameterCore& core, const StringSpec& spec, const StringRange& range)
-    : StringParameter(Internal::StringParameterKind::make(Internal::ParameterCoreData(Internal::Access::data(core)),
-                                                          spec, range)) {}
+    : StringParameter(Internal::StringParameterKind::make(core, spec, range)) {}
 
 ParameterCore StringParameter::getCore() const noexcept { return core_; }
 

@@ -15,8 +15,9 @@ struct StringParameterTraits {
 
     static constexpr bool bindsRangeFirst = true;
 
-    static StringSpec findSpec(const ParameterRecord& record, const Finder& finder, const StringSpec*) {
-        return finder.requireOrUsualStandIn<StringSpecKind>(record.spec(), record.typeId());
+    static StringSpec findSpec(std::string_view spec, std::string_view typeId, const Finder& finder,
+                               const StringSpec*) {
+        return finder.requireOrUsualStandIn<StringSpecKind>(spec, typeId);
     }
 };
 

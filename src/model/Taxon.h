@@ -30,16 +30,14 @@ std::string writeTaxon(const TaxonData& taxon, const Ostra::Identifier& base);
 template <class P>
 struct TaxonKind : DescribedKind<P> {
     using Names = KindList<>;
-    struct Record {
-        Texts texts; // typeid, name
-    };
+    using Record = TaxonData;
     using DescribedKind<P>::base;
 
     static std::optional<Record> read(const Ostra::Schema& schema) {
         auto texts = readTaxon(schema, base);
         return texts ? std::optional(Record{*std::move(texts)}) : std::nullopt;
     }
-    static Record recordOf(const Taxon& taxon) { return {Access::data(taxon).texts}; }
+    static Record recordOf(const Taxon& taxon) { return Access::data(taxon); }
     static Taxon build(const Record& record, const Finder&, const Taxon*) { return makeTaxon(record.texts); }
     static std::string write(const Taxon& taxon) { return writeTaxon(Access::data(taxon), base); }
 

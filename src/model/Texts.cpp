@@ -9,19 +9,28 @@
 
 namespace Parameters::Internal {
 
-Texts::Texts(std::span<const std::string_view> strings) {
-    constexpr std::size_t limit = std::numeric_limits<std::uint32_t>::max();
-    if (strings.size() > limit) {
-        throw std::length_error(messages("texts-too-many").with({}));
-    }
-    // With what stands before them, so that there is a place for each.
-    std::size_t length = sizeof(Block) + strings.size() * sizeof(std::uint32_t);
+namespace {
+
+constexpr std::size_t limit = std::numeric_limits<std::uint32_t>::max();
+
+} // namespace
+
+std::size_t Texts::lengthWith(std::span<const std::string_view> strings, std::size_t before) {
+    std::size_t length = before;
     for (const std::string_view string : strings) {
         if (length > limit || string.size() > limit - length) {
             throw std::length_error(messages("texts-too-long").with({}));
         }
         length += string.size();
     }
+    return length;
+}
+
+Texts::Texts(std::span<const std::string_view> strings) {
+    if (strings.size() > limit) {
+        throw std::length_error(messages("texts-too-many").with({}));
+    }
+    const std::size_t length = lengthWith(strings, sizeof(Block) + strings.size() * sizeof(std::uint32_t));
     void* memory = ::operator new(length);
     block_ = new (memory) Block{{1}, static_cast<std::uint32_t>(strings.size())};
     auto* end = reinterpret_cast<std::uint32_t*>(block_ + 1);

@@ -39,17 +39,6 @@ public:
         return {characters() + begin, ends()[index] - begin};
     }
 
-    /// Where a string is in the block, for who keeps it: the head of the block is then not read to find the string.
-    struct Place {
-        std::uint32_t begin;
-        std::uint32_t size;
-    };
-    Place placeOf(std::size_t index) const noexcept {
-        const std::string_view string = (*this)[index];
-        return {static_cast<std::uint32_t>(string.data() - bytes()), static_cast<std::uint32_t>(string.size())};
-    }
-    std::string_view operator[](Place place) const noexcept { return {bytes() + place.begin, place.size}; }
-
     /// Returns the strings from one on.
     StringsView from(std::size_t first) const noexcept {
         return first == size()
@@ -59,6 +48,10 @@ public:
     StringsView::iterator begin() const noexcept { return from(0).begin(); }
     StringsView::iterator end() const noexcept { return from(0).end(); }
 
+    /// Returns how many bytes strings take that lie behind so many others of their block, with those.
+    /// @throws std::length_error when that is more than 4 GiB, so that there is a place for each.
+    static std::size_t lengthWith(std::span<const std::string_view> strings, std::size_t before);
+
 private:
     // In memory it is followed by the ends of the strings, then by their bytes.
     struct Block {
@@ -66,7 +59,6 @@ private:
         std::uint32_t count;
     };
 
-    const char* bytes() const noexcept { return reinterpret_cast<const char*>(block_); }
     const std::uint32_t* ends() const noexcept { return reinterpret_cast<const std::uint32_t*>(block_ + 1); }
     const char* characters() const noexcept { return reinterpret_cast<const char*>(ends() + block_->count); }
     void retain() const noexcept {

@@ -1,7 +1,9 @@
 #include "support/Picture.h"
 #include "support/RowNames.h"
+#include "support/Samples.h"
 #include "support/SchemaTexts.h"
 
+#include <parameters/Kinds.h>
 #include <parameters/ParametersEngine.h>
 
 #include <gtest/gtest.h>
@@ -252,6 +254,53 @@ TEST(MovedFromEngine, TakesANewValueByCopy) {
     const ParametersEngine moved(std::move(engine));
     engine = moved;
     EXPECT_EQ(pictureOf(engine), pictureOf(loaded()));
+}
+
+/// Returns all that is answered of the object of that typeid.
+std::string objectIn(const ParametersEngine& engine, const std::string& typeId) {
+    std::string result;
+    Parameters::forEachKind([&](auto kind) {
+        if (const auto object = kind.find(engine, typeId)) {
+            result = Support::describe(*object);
+        }
+    });
+    return result;
+}
+
+// What is pending may be made already and shared; only what it names is missing.
+TEST(Copies, ResolveWhatWasPendingWithWhatEachHasForIt) {
+    for (const Support::Shape& shape : Support::everyShape()) {
+        for (const Support::Reference& changed : shape.form.references) {
+            if (!changed.kind || !changed.base.empty()) {
+                continue; // units have a test of their own; what must be of one base differs in nothing here
+            }
+            const std::string text = shape.text("x", "3", [&](const Support::Reference& reference) {
+                return reference.id == changed.id ? std::string("named") : Support::nameTheLeast(reference);
+            });
+            ParametersEngine one;
+            Support::stock(one, shape);
+            one.registerSchema(text);
+            ParametersEngine other(one);
+            Parameters::forEachKind([&](auto kind) {
+                if (kind.info == changed.kind) {
+                    Support::addSample<decltype(kind)>(one, "named", "1");
+                    Support::addSample<decltype(kind)>(other, "named", "2");
+                }
+            });
+            ParametersEngine alone = other;
+            one.resolveSchemas();
+            const std::string first = objectIn(one, "x");
+            other.resolveSchemas();
+            EXPECT_EQ(objectIn(one, "x"), first) << shape.name << " " << changed.id;
+            if (changed.id != std::string("parent")) { // which is kept by its typeid alone
+                EXPECT_NE(objectIn(other, "x"), first) << shape.name << " " << changed.id;
+            }
+            one = ParametersEngine();
+            EXPECT_TRUE(other.isRegistered("x"));
+            alone.resolveSchemas();
+            EXPECT_EQ(objectIn(alone, "x"), objectIn(other, "x")) << shape.name << " " << changed.id;
+        }
+    }
 }
 
 TEST(MovedFromEngine, TakesANewValueByMove) {

@@ -1,5 +1,7 @@
 #include "engine/Registry.h"
 
+#include "engine/Resolution.h"
+
 #include "model/Access.h"
 #include "model/Taxon.h"
 
@@ -24,13 +26,17 @@ void addPending(Registry& registry, std::string_view typeId) {
 /// Puts objects in the place of the pending groups that are chosen; the others stay pending.
 template <class Choose>
 void commit(Registry& registry, Choose chosen) {
-    std::vector<Taxon> built;
-    for (const auto& pending : registry.store<GroupKind>().pending) {
-        const bool isBuilt = chosen(pending.record.texts[0]);
-        built.push_back(isBuilt ? makeTaxon(pending.record.texts) : Access::none<Taxon>());
+    const Units::UnitsEngine units;
+    const RegistryFinder finder(registry, units);
+    std::vector<Staged<GroupKind>> staged(registry.store<GroupKind>().pending.size());
+    for (std::size_t place = 0; place < staged.size(); ++place) {
+        const auto& record = registry.store<GroupKind>().pending[place].record;
+        if (chosen(record.typeId())) {
+            staged[place].make(record, finder);
+        }
     }
-    registry.reserveForPending();
-    registry.commit<GroupKind>(built);
+    registry.prepareCommit();
+    registry.commit<GroupKind>(staged);
 }
 
 /// Checks that a typeid leads to its object or its pending record.
@@ -42,7 +48,7 @@ void expectState(const Registry& registry, const std::string& typeId, bool isRes
     if (isResolved) {
         EXPECT_EQ(store.objects.at(entry->place).getTypeId(), typeId);
     } else {
-        EXPECT_EQ(store.pending.at(entry->place).record.texts[0], typeId);
+        EXPECT_EQ(store.pending.at(entry->place).record.typeId(), typeId);
     }
 }
 

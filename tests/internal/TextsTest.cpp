@@ -59,15 +59,6 @@ TEST(Texts, KeepStringsInTheirOrder) {
     EXPECT_EQ(stringsOf(texts), (Strings{"second", "first", "second"}));
 }
 
-TEST(Texts, AreFoundByTheirPlaces) {
-    const Texts texts{"second", "", "first"};
-    for (std::size_t index = 0; index < texts.size(); ++index) {
-        const std::string_view found = texts[texts.placeOf(index)];
-        EXPECT_EQ(found, texts[index]);
-        EXPECT_EQ(found.data(), texts[index].data());
-    }
-}
-
 TEST(Texts, KeepEmptyStrings) {
     EXPECT_EQ(stringsOf(Texts{""}), Strings{""});
     EXPECT_EQ(stringsOf(Texts{"", "a", "", ""}), (Strings{"", "a", "", ""}));
