@@ -29,7 +29,7 @@ Value symbolOf(const Units::Unit& unit) {
 /// Returns a property with a value for each of several things.
 Property listOf(std::string_view name, const auto& things, const auto& valueOf, bool isOwn = true) {
     Property list{name, {}, isOwn};
-    std::ranges::transform(things, std::back_inserter(list.values), valueOf);
+    std::transform(things.begin(), things.end(), std::back_inserter(list.values), valueOf);
     return list;
 }
 
@@ -63,7 +63,7 @@ Property limitsOf(const StringRange& range) {
 template <class Range>
 bool isInline(const Range& range) {
     const auto bases = Kinds::Of<Range>::info.bases();
-    return std::ranges::find(bases, range.typeId()) != bases.end();
+    return std::find(bases.begin(), bases.end(), range.typeId()) != bases.end();
 }
 
 void addRange(Object& object, const auto& range) {

@@ -55,9 +55,9 @@ std::string originalOf(const std::string& path) {
                                  std::regex::icase);
     constexpr std::size_t longest = 1000; // it takes stack for each character
     const std::string name = lower(System::textOf(System::pathOf(path).filename()));
+    constexpr std::array signs{"copy", "bak", "back", "orig", "old", " ("};
     const auto isIn = [&](const char* sign) { return name.find(sign) != std::string::npos; };
-    const bool isCopy =
-        path.size() <= longest && std::ranges::any_of(std::array{"copy", "bak", "back", "orig", "old", " ("}, isIn);
+    const bool isCopy = path.size() <= longest && std::any_of(signs.begin(), signs.end(), isIn);
     std::smatch parts;
     return isCopy && std::regex_match(path, parts, copy) ? parts.str(1) + parts.str(3) + parts.str(9) : std::string();
 }
@@ -227,12 +227,13 @@ void Input::findBelow(const fs::path& top) {
     if (found.empty()) {
         throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(System::textOf(top))));
     }
-    std::ranges::sort(found, [](const std::string& one, const std::string& other) {
+    std::sort(found.begin(), found.end(), [](const std::string& one, const std::string& other) {
         // As paths are compared, name by name, at a fraction of the cost.
         const auto rank = [](char byte) { return byte == '/' ? 0 : 1 + static_cast<unsigned char>(byte); };
-        return std::ranges::lexicographical_compare(one, other, {}, rank, rank);
+        return std::lexicographical_compare(one.begin(), one.end(), other.begin(), other.end(),
+                                            [&](char left, char right) { return rank(left) < rank(right); });
     });
-    std::ranges::move(found, std::back_inserter(files_));
+    std::move(found.begin(), found.end(), std::back_inserter(files_));
 }
 
 void Input::read(const std::string& file) {

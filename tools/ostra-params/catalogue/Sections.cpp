@@ -5,7 +5,6 @@
 #include <parameters/Kinds.h>
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 namespace Tool {
@@ -28,7 +27,7 @@ std::vector<Section> makeSections() {
 std::string normal(std::string_view word) {
     std::string result = lower(word);
     const auto isBlank = [](char character) { return character == ' ' || character == '_'; };
-    std::ranges::replace_if(result, isBlank, '-');
+    std::replace_if(result.begin(), result.end(), isBlank, '-');
     return result;
 }
 
@@ -54,15 +53,17 @@ const Section* sectionOfBase(std::string_view inherited) {
 }
 
 const Section* findSection(std::string_view Section::*name, std::string_view wanted) {
-    const auto found = std::ranges::find(sections(), wanted, name);
+    const auto found = std::find_if(sections().begin(), sections().end(),
+                                    [&](const Section& section) { return section.*name == wanted; });
     return found == sections().end() ? nullptr : &*found;
 }
 
 bool isMeant(const Section& section, std::string_view word) {
     const std::string wanted = normal(word);
-    return std::ranges::any_of(std::array{section.id, section.label, section.plural}, [&](std::string_view name) {
+    const auto isName = [&](std::string_view name) {
         return wanted == normal(name) || wanted == normal(name.substr(name.rfind(' ') + 1));
-    });
+    };
+    return isName(section.id) || isName(section.label) || isName(section.plural);
 }
 
 } // namespace Tool

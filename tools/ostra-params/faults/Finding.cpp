@@ -39,7 +39,7 @@ std::vector<Finding> ownFindings(const Input& input) {
                                 .hint = "save the file in UTF-8."});
         }
     }
-    std::ranges::stable_sort(findings, {}, &Finding::source);
+    std::stable_sort(findings.begin(), findings.end(), isReadBefore);
     return findings;
 }
 
@@ -94,8 +94,8 @@ std::vector<Finding> findingsOf(const Input& input, const Headings& headings, co
 
 void addTo(std::vector<Finding>& findings, std::vector<Finding> more) {
     const auto middle = static_cast<std::ptrdiff_t>(findings.size());
-    std::ranges::move(more, std::back_inserter(findings));
-    std::ranges::inplace_merge(findings, findings.begin() + middle, {}, &Finding::source);
+    std::move(more.begin(), more.end(), std::back_inserter(findings));
+    std::inplace_merge(findings.begin(), findings.begin() + middle, findings.end(), isReadBefore);
 }
 
 } // namespace Tool

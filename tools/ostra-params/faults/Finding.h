@@ -29,6 +29,9 @@ struct Finding {
     std::string hint = {}; ///< What may help to mend it; often empty.
 };
 
+/// Tells the order of reading.
+inline bool isReadBefore(const Finding& one, const Finding& other) { return one.source < other.source; }
+
 /// The code of texts that are no UTF-8.
 constexpr const char* encodingInvalid = "encoding-invalid";
 

@@ -5,7 +5,6 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <iterator>
 #include <map>
 #include <optional>
@@ -199,7 +198,9 @@ private:
 std::vector<std::string> hintsFor(const Input& input, const Headings& headings, const std::vector<Fault>& faults) {
     Hints hints(input, headings, faults);
     std::vector<std::string> texts;
-    std::ranges::transform(faults, std::back_inserter(texts), [&](const Fault& fault) { return hints.hintFor(fault); });
+    for (const Fault& fault : faults) {
+        texts.push_back(hints.hintFor(fault));
+    }
     return texts;
 }
 

@@ -42,7 +42,7 @@ bool isRegex(const std::string& text) {
 bool hasVersion(std::string_view typeId) {
     const std::size_t hyphen = typeId.find_last_not_of("0123456789.");
     return hyphen != std::string_view::npos && typeId[hyphen] == '-' &&
-           std::ranges::count(typeId.substr(hyphen), '.') == 2;
+           std::count(typeId.begin() + static_cast<std::ptrdiff_t>(hyphen), typeId.end(), '.') == 2;
 }
 
 /// Looks at one object after the other.
@@ -63,7 +63,7 @@ public:
                 add("object-unused", typeId, fmt::format("Nothing names {} {}.", label, typeId));
             }
         }
-        std::ranges::stable_sort(findings_, {}, &Finding::source);
+        std::stable_sort(findings_.begin(), findings_.end(), isReadBefore);
         return std::move(findings_);
     }
 

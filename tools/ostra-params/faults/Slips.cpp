@@ -32,7 +32,8 @@ const std::vector<Slip> slips{
 };
 
 bool beginsWithOneOf(std::string_view text, const std::vector<std::string_view>& beginnings) {
-    return std::ranges::any_of(beginnings, [&](std::string_view each) { return text.starts_with(each); });
+    return std::any_of(beginnings.begin(), beginnings.end(),
+                       [&](std::string_view each) { return text.starts_with(each); });
 }
 
 bool isLetter(char character) { return std::isalpha(static_cast<unsigned char>(character)) != 0; }

@@ -73,7 +73,7 @@ bool isOfDevice(const std::string& name) {
     const std::string stem = lower(name.substr(0, name.find('.')));
     const bool isOfPort = stem.size() == 4 && (stem.starts_with("com") || stem.starts_with("lpt")) &&
                           std::isdigit(static_cast<unsigned char>(stem.back())) != 0;
-    return isOfPort || std::ranges::find(devices, stem) != devices.end();
+    return isOfPort || std::find(devices.begin(), devices.end(), stem) != devices.end();
 }
 
 /// Names the files of one folder by texts: readable, the same on every system, and another one for each text wherever

@@ -35,8 +35,8 @@ std::string labelOf(const Graph::Node& node) {
 } // namespace
 
 std::string toDot(Graph graph) {
-    std::ranges::sort(graph.nodes);
-    std::ranges::sort(graph.edges);
+    std::sort(graph.nodes.begin(), graph.nodes.end());
+    std::sort(graph.edges.begin(), graph.edges.end());
     std::string dot = "digraph dependencies {\n"
                       "    rankdir=LR\n"
                       "    node [shape=box, style=rounded, fontname=\"Helvetica\", fontsize=11]\n"

@@ -12,13 +12,13 @@ struct Graph {
         std::string typeId;
         std::string name;
         std::string kind;
-        auto operator<=>(const Node&) const = default;
+        std::strong_ordering operator<=>(const Node&) const = default;
     };
     struct Edge {
         std::string from;
         std::string to;
         std::string label;
-        auto operator<=>(const Edge&) const = default;
+        std::strong_ordering operator<=>(const Edge&) const = default;
     };
     std::vector<Node> nodes;
     std::vector<Edge> edges;

@@ -89,13 +89,14 @@ constexpr std::array capitals{
 } // namespace
 
 char32_t smallOf(char32_t character) {
-    const auto found = std::ranges::lower_bound(capitals, character, {}, &Capitals::last);
+    const auto found = std::partition_point(capitals.begin(), capitals.end(),
+                                            [&](const Capitals& some) { return some.last < character; });
     return found != capitals.end() && found->contain(character) ? shifted(character, found->distance) : character;
 }
 
 bool isSmall(char32_t character) {
-    return std::ranges::any_of(capitals,
-                               [&](const Capitals& some) { return some.contain(shifted(character, -some.distance)); });
+    return std::any_of(capitals.begin(), capitals.end(),
+                       [&](const Capitals& some) { return some.contain(shifted(character, -some.distance)); });
 }
 
 } // namespace Tool

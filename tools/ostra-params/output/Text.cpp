@@ -28,7 +28,7 @@ bool isControl(unsigned character) {
 }
 
 std::size_t widthOf(std::string_view text) {
-    return static_cast<std::size_t>(std::ranges::count_if(text, isFirstOfCharacter));
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), isFirstOfCharacter));
 }
 
 } // namespace
@@ -143,7 +143,10 @@ std::string thereIsNo(std::string_view kind, std::string_view name, const std::v
 std::vector<std::string> aligned(const std::vector<std::vector<std::string>>& rows) {
     std::vector<std::string> lines(rows.size());
     for (std::size_t column = 0; !rows.empty() && column < rows.front().size(); ++column) {
-        const std::size_t width = widthOf(*std::ranges::max_element(lines, {}, widthOf));
+        std::size_t width = 0;
+        for (const std::string& line : lines) {
+            width = std::max(width, widthOf(line));
+        }
         for (std::size_t row = 0; row < rows.size(); ++row) {
             lines[row] += std::string(width - widthOf(lines[row]), ' ') + (column == 0 ? "" : "  ") + rows[row][column];
         }

@@ -64,7 +64,7 @@ bool run(const std::string& program, const std::vector<std::string>& arguments) 
     std::vector<std::string> words{program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers(words.size() + 1); // the last one null
-    std::ranges::transform(words, pointers.begin(), [](std::string& word) { return word.data(); });
+    std::transform(words.begin(), words.end(), pointers.begin(), [](std::string& word) { return word.data(); });
     pid_t process = 0;
     int status = 0;
     return ::posix_spawnp(&process, pointers.front(), nullptr, nullptr, pointers.data(), environ) == 0 &&

@@ -9,7 +9,6 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <iterator>
 #include <memory>
 #include <set>
 
@@ -44,8 +43,10 @@ Exit codes:
 
 std::string refuseUnknownCode(const std::string& code) {
     std::vector<std::string_view> known;
-    std::ranges::transform(rules(), std::back_inserter(known), &Rule::code);
-    return std::ranges::find(known, code) == known.end() ? thereIsNo("code", code, known) : std::string();
+    for (const Rule& rule : rules()) {
+        known.push_back(rule.code);
+    }
+    return std::find(known.begin(), known.end(), code) == known.end() ? thereIsNo("code", code, known) : std::string();
 }
 
 /// Returns what to look for beside faults: what is asked for or, as long as nothing alone is asked for, the default.
@@ -82,7 +83,8 @@ ExitCode check(const Options& options) {
         print(findingsAsText(findings, options.isAll) +
               (options.isQuiet ? std::string() : summaryAsText(catalogue, findings)));
     }
-    const bool isBad = options.isStrict ? !findings.empty() : std::ranges::count(findings, true, &Finding::isError) > 0;
+    const bool isBad = std::any_of(findings.begin(), findings.end(),
+                                   [&](const Finding& finding) { return finding.isError || options.isStrict; });
     return isBad ? Bad : Good;
 }
 

@@ -158,7 +158,8 @@ std::string summaryAsText(Loader& catalogue, const std::vector<Finding>& finding
         fmt::format_to(std::back_inserter(text), line, section.plural, counts[indexOf(section)]);
     }
     fmt::format_to(std::back_inserter(text), line, "total", std::reduce(counts.begin(), counts.end()));
-    const auto errors = static_cast<std::size_t>(std::ranges::count(findings, true, &Finding::isError));
+    const auto errors =
+        static_cast<std::size_t>(std::count_if(findings.begin(), findings.end(), std::mem_fn(&Finding::isError)));
     const std::size_t warnings = findings.size() - errors;
     return text + fmt::format("{} in {}: {}{}\n", counted(catalogue.schemas(), "schema"),
                               counted(catalogue.files(), "file"), counted(errors, "fault"),

@@ -54,14 +54,18 @@ const std::map<char, const char*> words{{'+', "added"}, {'-', "removed"}, {'~', 
 void addSide(std::vector<PropertyChange>& changes, std::vector<std::string> PropertyChange::*side,
              const Object& object) {
     const auto valuesOf = [&](std::string_view name) -> std::vector<std::string>& {
-        const auto found = std::ranges::find(changes, name, &PropertyChange::name);
+        const auto found = std::find_if(changes.begin(), changes.end(),
+                                        [&](const PropertyChange& change) { return change.name == name; });
         return (found == changes.end() ? changes.emplace_back(PropertyChange{name}) : *found).*side;
     };
     valuesOf("kind") = {std::string(object.section->label)};
     valuesOf("name") = {object.name};
     for (const Property& property : object.properties) {
         if (property.isOwn) {
-            std::ranges::transform(property.values, std::back_inserter(valuesOf(property.name)), &Value::identity);
+            std::vector<std::string>& values = valuesOf(property.name);
+            for (const Value& value : property.values) {
+                values.push_back(value.identity());
+            }
         }
     }
 }
@@ -92,7 +96,7 @@ std::vector<Change> compare(const Catalogue& before, const Catalogue& after) {
             changed.push_back({'~', &object, std::move(properties)});
         }
     }
-    std::ranges::move(changed, std::back_inserter(changes));
+    std::move(changed.begin(), changed.end(), std::back_inserter(changes));
     return changes;
 }
 
@@ -113,7 +117,9 @@ std::string asText(const std::vector<Change>& changes) {
             text += fmt::format("    {}: {} -> {}\n", name, printable(textOf(before)), printable(textOf(after)));
         }
     }
-    const auto count = [&](char sign) { return std::ranges::count(changes, sign, &Change::sign); };
+    const auto count = [&](char sign) {
+        return std::count_if(changes.begin(), changes.end(), [&](const Change& change) { return change.sign == sign; });
+    };
     return text + fmt::format("{} added, {} removed, {} changed\n", count('+'), count('-'), count('~'));
 }
 

@@ -32,7 +32,7 @@ std::vector<const Object*> select(const Catalogue& catalogue, const Options& opt
     std::vector<const Object*> selected;
     for (const Object& object : catalogue.objects()) {
         const auto isOf = [&](const std::string& word) { return isMeant(*object.section, word); };
-        const bool isOfKind = options.kinds.empty() || std::ranges::any_of(options.kinds, isOf);
+        const bool isOfKind = options.kinds.empty() || std::any_of(options.kinds.begin(), options.kinds.end(), isOf);
         if (isOfKind && (options.name.empty() || pattern.matches(object.name))) {
             selected.push_back(&object);
         }

@@ -44,8 +44,9 @@ struct Set {
     bool operator()(char32_t character) const {
         const char32_t small = smallOf(character);
         const bool isIn =
-            std::ranges::any_of(ranges, [&](auto range) { return range.first <= small && small <= range.second; }) ||
-            std::ranges::any_of(classes, [&](const Class& one) { return isOf(one, character); });
+            std::any_of(ranges.begin(), ranges.end(),
+                        [&](auto range) { return range.first <= small && small <= range.second; }) ||
+            std::any_of(classes.begin(), classes.end(), [&](const Class& one) { return isOf(one, character); });
         return isIn != isInverted;
     }
 };
@@ -91,8 +92,8 @@ private:
 
     void addMember(Set& set) {
         if (const auto name = nextNamed(U':')) {
-            std::ranges::copy_if(classes, std::back_inserter(set.classes),
-                                 [&](const Class& one) { return one.name == *name; });
+            std::copy_if(classes.begin(), classes.end(), std::back_inserter(set.classes),
+                         [&](const Class& one) { return one.name == *name; });
             return;
         }
         const char32_t first = nextLimit();
