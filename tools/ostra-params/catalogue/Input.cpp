@@ -1,5 +1,6 @@
 #include "catalogue/Input.h"
 
+#include "catalogue/FileBuffer.h"
 #include "output/Json.h"
 #include "output/Text.h"
 #include "system/System.h"
@@ -12,8 +13,6 @@
 #include <charconv>
 #include <chrono>
 #include <cstdio>
-#include <fstream>
-#include <iostream>
 #include <istream>
 #include <iterator>
 #include <regex>
@@ -239,16 +238,18 @@ void Input::findBelow(const fs::path& top) {
 void Input::read(const std::string& file) {
     errno = 0;
     const fs::path path = System::pathOf(file);
-    std::ifstream stream(path, std::ios::binary);
-    if (stream && holdsLines(path)) {
+    const System::File opened = System::open(path);
+    FileBuffer buffer(opened.get());
+    std::istream stream(&buffer);
+    if (opened && holdsLines(path)) {
         readLines(stream, file);
-    } else if (stream) {
+    } else if (opened) {
         std::string text = readAll(stream);
         if (!stream.bad()) {
             add(file, 1, std::move(text));
         }
     }
-    if (stream.bad() || !stream.is_open()) {
+    if (!opened || stream.bad()) {
         std::error_code error = lastError();
         if (error == std::errc::is_a_directory) { // which could not be searched, for a reason of its own
             std::ignore = fs::directory_iterator(path, error);
@@ -259,8 +260,10 @@ void Input::read(const std::string& file) {
 
 void Input::readStandardInput(const std::string& file) {
     errno = 0;
-    std::string text = readAll(std::cin);
-    if (std::cin.bad() || std::ferror(stdin) != 0) {
+    FileBuffer buffer(stdin);
+    std::istream stream(&buffer);
+    std::string text = readAll(stream);
+    if (stream.bad()) {
         failToRead(file, lastError());
     }
     if (isOfLines(text)) {

@@ -41,6 +41,8 @@ std::string textOf(const fs::path& path) { return path.string(); }
 
 bool canDraw() { return ::isatty(STDERR_FILENO) == 1; }
 
+File open(const fs::path& path) { return {std::fopen(path.c_str(), "rb"), std::fclose}; }
+
 fs::path makeFileBeside(const fs::path& target) {
     std::string name = patternBeside(target);
     const int descriptor = ::mkstemp(name.data());

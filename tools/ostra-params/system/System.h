@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -23,6 +25,12 @@ inline std::string messageOf(const std::error_code& failure) { return failure.de
 
 /// Returns whether standard error is a terminal on which a line can be drawn again.
 bool canDraw();
+
+/// A file that is open; none if it could not be opened.
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+/// Opens a file to be read, byte by byte as it is; errno says why it failed.
+File open(const std::filesystem::path& path);
 
 /// Makes an empty file beside another one that it shall replace, with that one's permissions or, if there is none,
 /// those of any new file. Returns its path.

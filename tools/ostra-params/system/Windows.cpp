@@ -115,6 +115,8 @@ bool canDraw() {
            ::SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
 
+File open(const fs::path& path) { return {::_wfopen(path.c_str(), L"rb"), std::fclose}; }
+
 fs::path makeFileBeside(const fs::path& target) {
     return makeBeside(target, [](const wchar_t* path) {
         const HANDLE file = ::CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
