@@ -1,6 +1,7 @@
 #pragma once
 
 #include "schema/AllocationWatch.h"
+#include "support/LeakyVectors.h"
 #include "support/RowNames.h"
 #include "support/Tally.h"
 
@@ -73,14 +74,20 @@ public:
     }
 
     void fail() const {
+        const bool leaksAreOurs = !vectorsLeak();
         long request = 0;
         const long blocks = Ostra::AllocationWatch::liveBlocksInProcess();
         while (failOne(request)) {
-            EXPECT_EQ(Ostra::AllocationWatch::liveBlocksInProcess(), blocks) << "request " << request << " leaks";
+            if (leaksAreOurs) {
+                EXPECT_EQ(Ostra::AllocationWatch::liveBlocksInProcess(), blocks) << "request " << request << " leaks";
+            }
             ++request;
         }
         EXPECT_GT(request, 0) << "The operation asks for no memory at all.";
         operations.add(1);
+        if (!leaksAreOurs && Ostra::AllocationWatch::liveBlocksInProcess() != blocks) {
+            GTEST_SKIP() << "vectors of this standard library leak when copying an element throws";
+        }
     }
 
 private:
