@@ -1,7 +1,6 @@
-# Linux on another processor (OSTRA_PROCESSOR), with Debian's cross compilers.
-set(triple ${OSTRA_PROCESSOR}-linux-gnu)
+# Linux on another processor, with Debian's cross compiler for the triple.
 set(CMAKE_SYSTEM_NAME Linux)
-set(CMAKE_SYSTEM_PROCESSOR ${OSTRA_PROCESSOR})
+string(REGEX REPLACE "-.*" "" CMAKE_SYSTEM_PROCESSOR ${triple})
 set(CMAKE_CXX_COMPILER ${triple}-g++)
 set(CMAKE_FIND_ROOT_PATH /usr/${triple})
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
