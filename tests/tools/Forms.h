@@ -10,6 +10,14 @@
 #include <utility>
 #include <vector>
 
+namespace Tool::Language {
+
+inline void PrintTo(const Form& form, std::ostream* stream) { // NOLINT(readability-identifier-naming)
+    *stream << form.id;
+}
+
+} // namespace Tool::Language
+
 /// Schemas made of nothing but the description of the language.
 namespace Forms {
 

@@ -53,6 +53,19 @@ INSTANTIATE_TEST_SUITE_P(
         Misuse{"MisspeltKind",
                {"list", "--kind", "group,boolean paramter", "empty"},
                "--kind: there is no kind boolean paramter; did you mean Boolean parameter?\n"},
+        Misuse{"NewOfNoKind", {"new", "pump", "x"}, "KIND: there is no kind pump\n"},
+        Misuse{"NewOfMisspeltKind",
+               {"new", "string-paramter", "x"},
+               "KIND: there is no kind string-paramter; did you mean string-parameter?\n"},
+        Misuse{"NewWithoutTypeId", {"new", "group"}, "TYPEID is required\n"},
+        Misuse{"NewOfEmptyTypeId", {"new", "group", ""}, "TYPEID: must not be empty\n"},
+        Misuse{"NewOfBuiltInTypeId",
+               {"new", "group", "norvex.parameter:group-1.3.0"},
+               "TYPEID: norvex.parameter:group-1.3.0 contains a built-in identifier\n"},
+        Misuse{"NewOfBrokenTypeId", {"new", "group", "a\xFFz"}, "TYPEID: a\\xFFz is no UTF-8\n"},
+        Misuse{"NewWithoutFile", {"new", "group", "x", "-o", ""}, "--output: must not be empty\n"},
+        Misuse{"NewInNoFolder", {"new", "group", "x", "-o", "no/x.json"}, "Cannot write no/x.json: No such file or"},
+        Misuse{"JsonSchemaInNoFolder", {"json-schema", "-o", "no/x.json"}, "Cannot write no/x.json: No such file or"},
         Misuse{"EmptyPath", {"check", ""}, "ostra-params: PATH: must not be empty\n"},
         Misuse{"EmptyTypeId", {"show", "", "empty"}, "ostra-params: TYPEID: must not be empty\n"},
         Misuse{"EmptyOutput", {"report", "empty", "-o", ""}, "ostra-params: --output: must not be empty\n"},
@@ -126,14 +139,14 @@ TEST_P(FullDevice, IsSaid) {
     EXPECT_EQ(outcome.err, "ostra-params: Cannot write the result.\n");
 }
 
-INSTANTIATE_TEST_SUITE_P(Tool, FullDevice,
-                         testing::Values(Printing{"Check", {"check", "g.json"}}, Printing{"List", {"list"}},
-                                         Printing{"Show", {"show", "g"}}, Printing{"Deps", {"deps", "g"}},
-                                         Printing{"Export", {"export", "g.json", "-o", "-"}},
-                                         Printing{"Diff", {"diff", "g.json", "g.json"}},
-                                         Printing{"Report", {"report", "g.json", "-o", "-"}},
-                                         Printing{"Help", {"--help"}}, Printing{"Version", {"--version"}}),
-                         Support::nameOfRow);
+INSTANTIATE_TEST_SUITE_P(
+    Tool, FullDevice,
+    testing::Values(Printing{"Check", {"check", "g.json"}}, Printing{"List", {"list"}}, Printing{"Show", {"show", "g"}},
+                    Printing{"Deps", {"deps", "g"}}, Printing{"Export", {"export", "g.json", "-o", "-"}},
+                    Printing{"Diff", {"diff", "g.json", "g.json"}}, Printing{"Report", {"report", "g.json", "-o", "-"}},
+                    Printing{"New", {"new", "group", "x"}}, Printing{"JsonSchema", {"json-schema"}},
+                    Printing{"Help", {"--help"}}, Printing{"Version", {"--version"}}),
+    Support::nameOfRow);
 
 TEST(Tool, ExitsAsItWouldWhenItsComplaintCannotBeWritten) {
     const Folder folder;

@@ -476,8 +476,14 @@ TEST_P(Help, NamesTheOptionsThatAreInTheManPageAndTheCompletion) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Tool, Help, testing::Values("check", "list", "show", "deps", "export", "diff", "report"),
-                         [](const auto& test) { return std::string(test.param); });
+INSTANTIATE_TEST_SUITE_P(Tool, Help,
+                         testing::Values("check", "list", "show", "deps", "export", "diff", "report", "new",
+                                         "json-schema"),
+                         [](const auto& test) {
+                             std::string name = test.param;
+                             std::erase(name, '-');
+                             return name;
+                         });
 
 TEST(Completion, OffersVerbsOptionsAndValues) {
     const std::string completion = OSTRA_SOURCE_DIR "/tools/ostra-params/shell/ostra-params.bash";
@@ -498,6 +504,7 @@ TEST(Completion, OffersVerbsOptionsAndValues) {
     EXPECT_EQ(complete("check --only regex", "3"), "regex-refused\n");
     EXPECT_EQ(complete("list --kind bool-", "3"), "bool-spec bool-parameter\n");
     EXPECT_EQ(complete("list --kind unit,dom", "3"), "unit,domain\n");
+    EXPECT_EQ(complete("new string-", "2"), "string-range string-set string-regex string-spec string-parameter\n");
     std::string kinds;
     for (const Tool::Section& section : Tool::sections()) {
         kinds += (kinds.empty() ? "" : " ") + std::string(section.id);

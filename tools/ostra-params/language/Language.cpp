@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <type_traits>
 
 namespace Tool::Language {
 
@@ -93,9 +94,11 @@ constexpr std::array parameter =
 
 template <class Spec, class Range>
 constexpr std::array rangedParameter =
-    join(parameter<Spec>,
-         std::array{naming<Range>("range", !required,
-                                  "Which values there may be, in the storage unit where there is one.", Type::range)});
+    join(parameter<Spec>, std::array{naming<Range>("range", !required,
+                                                   std::is_same_v<Range, Kinds::FloatRange>
+                                                       ? "Which values there may be, in the storage unit."
+                                                       : "Which values there may be.",
+                                                   Type::range)});
 
 /// Returns parameters' constants with a spec of another type, which comes last.
 constexpr auto withSpec(Type type, auto constants) {

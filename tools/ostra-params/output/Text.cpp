@@ -140,6 +140,17 @@ std::string thereIsNo(std::string_view kind, std::string_view name, const std::v
     return fmt::format("there is no {} {}{}{}", kind, printable(name), question.empty() ? "" : "; ", question);
 }
 
+std::string listed(const std::vector<std::string_view>& names) {
+    constexpr std::size_t width = 50;
+    std::string lines;
+    for (const std::string_view name : names) {
+        const std::size_t taken = lines.size() - (lines.rfind('\n') + 1) + 1; // with a comma
+        lines += lines.empty() ? "" : taken + name.size() > width ? ",\n" : ", ";
+        lines += name;
+    }
+    return lines;
+}
+
 std::vector<std::string> aligned(const std::vector<std::vector<std::string>>& rows) {
     std::vector<std::string> lines(rows.size());
     for (std::size_t column = 0; !rows.empty() && column < rows.front().size(); ++column) {

@@ -49,6 +49,9 @@ std::string didYouMean(std::string_view text, const std::vector<std::string_view
 /// Returns that there is none of a kind of things by a name, and the question that offers those which there are.
 std::string thereIsNo(std::string_view kind, std::string_view name, const std::vector<std::string_view>& candidates);
 
+/// Returns names with commas between them, in lines for the help of an option.
+std::string listed(const std::vector<std::string_view>& names);
+
 /// Returns a line for each row of cells, with two blanks between columns that are as wide as they must be: in
 /// characters, wide ones and marks not told apart.
 std::vector<std::string> aligned(const std::vector<std::vector<std::string>>& rows);

@@ -10,6 +10,8 @@ _ostra_params() {
         [export]="--output"
         [diff]="--json"
         [report]="--output"
+        [new]="--output"
+        [json-schema]="--output"
     )
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
@@ -28,6 +30,11 @@ _ostra_params() {
         help=$("${COMP_WORDS[0]}" list --help 2>/dev/null) # which knows all kinds
         [[ $help =~ "all of them:"(.*)"--name" ]] && kinds=${BASH_REMATCH[1]//,/ }
         mapfile -t COMPREPLY < <(compgen -P "${current%"$last"}" -W "$kinds" -- "$last")
+    elif [[ $verb == new && $current != -* ]] && ((COMP_CWORD == 2)); then
+        local help
+        help=$("${COMP_WORDS[0]}" new --help 2>/dev/null)
+        [[ $help =~ "KIND (required)"(.*)"TYPEID (required)" ]]
+        mapfile -t COMPREPLY < <(compgen -W "${BASH_REMATCH[1]//,/ }" -- "$current")
     elif [[ $previous == --name ]]; then
         return
     elif [[ $current == -* ]]; then

@@ -45,14 +45,12 @@ void addRequired(CLI::App& verb, const std::string& name, std::string& value, co
 std::string refuseEmpty(const std::string& argument) { return argument.empty() ? "must not be empty" : ""; }
 
 std::string kindIds() {
-    constexpr std::size_t width = 50;
-    std::string ids;
+    std::vector<std::string_view> ids;
+    ids.reserve(sections().size());
     for (const Section& section : sections()) {
-        const std::size_t taken = ids.size() - (ids.rfind('\n') + 1) + 1; // with a comma
-        ids += ids.empty() ? "" : taken + section.id.size() > width ? ",\n" : ", ";
-        ids += section.id;
+        ids.push_back(section.id);
     }
-    return ids;
+    return listed(ids);
 }
 
 ExitCode warnOfFaults(const Catalogue& catalogue) {

@@ -34,6 +34,8 @@ Action addDeps(CLI::App& program);
 Action addExport(CLI::App& program);
 Action addDiff(CLI::App& program);
 Action addReport(CLI::App& program);
+Action addNew(CLI::App& program);
+Action addJsonSchema(CLI::App& program);
 /// @}
 
 /// Adds the paths of a catalogue to a verb: required, or the working folder when none is given.
