@@ -203,6 +203,26 @@ TEST(Threads, ChangeTheOriginalWhileOthersReadAndDropCopies) {
     EXPECT_EQ(copies[0].getAllDisciplines().size(), 40U);
 }
 
+// What is pending is shared by copies until they resolve it, each with what it has itself.
+TEST(Threads, ResolveInCopiesWhatWasPendingInOne) {
+    ParametersEngine engine;
+    for (int i = 0; i < 50; ++i) {
+        engine.registerSchema(boolParameterText("p" + std::to_string(i), "g", "s"));
+    }
+    std::vector<ParametersEngine> copies(threadCount, engine);
+    engine = ParametersEngine();
+    inThreads([&](int thread) {
+        ParametersEngine& copy = copies[static_cast<std::size_t>(thread)];
+        const std::string name = "Group of " + std::to_string(thread);
+        copy.registerSchemas({{"g", groupText("g", name)}, {"s", boolSpecText("s", "norvex.spec:discipline-1.0.0")}});
+        for (const BoolParameter& parameter : copy.allBoolParameters()) {
+            EXPECT_EQ(parameter.getCore().getGroup().getName(), name);
+        }
+        EXPECT_EQ(copy.allBoolParameters().size(), 50U);
+        return 52;
+    });
+}
+
 TEST(Threads, ShareObjectsThatWereHandedOut) {
     const ParametersEngine engine = loaded();
     const BoolParameter parameter = engine.getBoolParameter("p1");
