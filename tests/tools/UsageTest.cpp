@@ -132,6 +132,7 @@ INSTANTIATE_TEST_SUITE_P(Tool, FullDevice,
                                          Printing{"Export", {"export", "g.json", "-o", "-"}},
                                          Printing{"Diff", {"diff", "g.json", "g.json"}},
                                          Printing{"Report", {"report", "g.json", "-o", "-"}},
+                                         Printing{"Format", {"fmt", "--check", "g.json"}},
                                          Printing{"Help", {"--help"}}, Printing{"Version", {"--version"}}),
                          Support::nameOfRow);
 

@@ -476,7 +476,7 @@ TEST_P(Help, NamesTheOptionsThatAreInTheManPageAndTheCompletion) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Tool, Help, testing::Values("check", "list", "show", "deps", "export", "diff", "report"),
+INSTANTIATE_TEST_SUITE_P(Tool, Help, testing::Values("check", "list", "show", "deps", "export", "diff", "report", "fmt"),
                          [](const auto& test) { return std::string(test.param); });
 
 TEST(Completion, OffersVerbsOptionsAndValues) {

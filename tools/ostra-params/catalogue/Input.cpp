@@ -30,8 +30,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
 [[noreturn]] void failToRead(const std::string& path, const std::error_code& reason) {
     throw InputError(fmt::format("Cannot read {}: {}.", printable(nameOf(path)), System::messageOf(reason)));
 }
@@ -159,6 +157,18 @@ bool isOfLines(const std::string& text) {
 }
 
 } // namespace
+
+bool holdsLines(const std::string& file) { return holdsLines(System::pathOf(file)); }
+
+std::string bytesOf(const std::string& file) {
+    errno = 0;
+    std::ifstream stream(System::pathOf(file), std::ios::binary);
+    std::string bytes = readAll(stream);
+    if (stream.bad() || !stream.is_open()) {
+        failToRead(file, lastError());
+    }
+    return bytes;
+}
 
 Input::Input(const std::vector<std::string>& paths) {
     mayRepeat_ = paths.size() > 1;

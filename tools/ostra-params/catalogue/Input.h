@@ -23,6 +23,16 @@ struct InputError : std::runtime_error {
 /// What names the standard input among paths.
 constexpr std::string_view standardInput = "-";
 
+/// What may stand before the text of a file, and is no part of it.
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+/// Returns whether a file has a schema in each line, by its name.
+bool holdsLines(const std::string& file);
+
+/// Returns what a file holds.
+/// @throws InputError if it cannot be read
+std::string bytesOf(const std::string& file);
+
 /// The schema texts of files, folders and standard input, in the order of the paths and of the names in a folder; a
 /// copy that was made of a file comes after all that are none.
 class Input {

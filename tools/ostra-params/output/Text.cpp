@@ -27,11 +27,11 @@ bool isControl(unsigned character) {
            (character >= 0x202A && character <= 0x202E) || (character >= 0x2066 && character <= 0x2069);
 }
 
+} // namespace
+
 std::size_t widthOf(std::string_view text) {
     return static_cast<std::size_t>(std::ranges::count_if(text, isFirstOfCharacter));
 }
-
-} // namespace
 
 std::size_t findInvalid(std::string_view text) {
     std::size_t offset = 0;

@@ -15,6 +15,9 @@ constexpr std::string_view blanks = " \t\r\n";
 /// Returns whether a byte of a UTF-8 text is the first one of a character.
 constexpr bool isFirstOfCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; }
 
+/// Returns how many characters a text has, wide ones and marks not told apart.
+std::size_t widthOf(std::string_view text);
+
 /// Returns the offset of the first byte that is no UTF-8, or npos.
 std::size_t findInvalid(std::string_view text);
 

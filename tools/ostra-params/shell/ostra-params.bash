@@ -10,6 +10,7 @@ _ostra_params() {
         [export]="--output"
         [diff]="--json"
         [report]="--output"
+        [fmt]="--check --diff"
     )
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then

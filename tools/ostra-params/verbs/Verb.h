@@ -33,6 +33,7 @@ Action addShow(CLI::App& program);
 Action addDeps(CLI::App& program);
 Action addExport(CLI::App& program);
 Action addDiff(CLI::App& program);
+Action addFormat(CLI::App& program);
 Action addReport(CLI::App& program);
 /// @}
 
