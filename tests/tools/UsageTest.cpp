@@ -132,8 +132,8 @@ INSTANTIATE_TEST_SUITE_P(Tool, FullDevice,
                                          Printing{"Export", {"export", "g.json", "-o", "-"}},
                                          Printing{"Diff", {"diff", "g.json", "g.json"}},
                                          Printing{"Report", {"report", "g.json", "-o", "-"}},
-                                         Printing{"Format", {"fmt", "--check", "g.json"}},
-                                         Printing{"Help", {"--help"}}, Printing{"Version", {"--version"}}),
+                                         Printing{"Format", {"fmt", "--check", "g.json"}}, Printing{"Help", {"--help"}},
+                                         Printing{"Version", {"--version"}}),
                          Support::nameOfRow);
 
 TEST(Tool, ExitsAsItWouldWhenItsComplaintCannotBeWritten) {

@@ -466,17 +466,18 @@ TEST_P(Help, NamesTheOptionsThatAreInTheManPageAndTheCompletion) {
     EXPECT_THAT(outcome.out, HasSubstr(std::string("Usage: ostra-params ") + GetParam() + " "));
     const std::string manual = sectionOf(".1", std::string("\n.SS ") + GetParam() + "\n", "\n.S");
     const std::string completion = sectionOf(".bash", std::string("[") + GetParam() + "]=", "\n");
-    const std::regex option("--[a-z]+");
+    const std::regex option("--[a-z-]+");
     for (std::sregex_iterator match(outcome.out.begin(), outcome.out.end(), option), end; match != end; ++match) {
         const std::string name = match->str().substr(2);
         if (name != "help") {
-            EXPECT_THAT(manual, HasSubstr("\\-\\-" + name));
+            EXPECT_THAT(manual, HasSubstr("\\-\\-" + std::regex_replace(name, std::regex("-"), "\\-")));
             EXPECT_THAT(completion, HasSubstr("--" + name));
         }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Tool, Help, testing::Values("check", "list", "show", "deps", "export", "diff", "report", "fmt"),
+INSTANTIATE_TEST_SUITE_P(Tool, Help,
+                         testing::Values("check", "list", "show", "deps", "export", "diff", "report", "fmt", "rename"),
                          [](const auto& test) { return std::string(test.param); });
 
 TEST(Completion, OffersVerbsOptionsAndValues) {

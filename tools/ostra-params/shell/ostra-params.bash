@@ -11,6 +11,7 @@ _ostra_params() {
         [diff]="--json"
         [report]="--output"
         [fmt]="--check --diff"
+        [rename]="--dry-run --diff"
     )
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
