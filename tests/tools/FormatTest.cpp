@@ -156,6 +156,18 @@ TEST(Format, TakesAMillionBrackets) {
     EXPECT_EQ(Tool::Layout().ofLine(*laidOut), text);
 }
 
+TEST(Format, TellsLikeSchemasApart) { // which were taken for one, as what has no id was left out of account
+    Tool::Layout layout;
+    const std::string before =
+        R"({"inherits":["norvex.unit:unit-1.0.0"],"constants":[{},{"id":"symbol"},{"id":"name"}]})";
+    const std::string after =
+        R"({"inherits":["norvex.unit:unit-1.0.0"],"constants":[{"id":"name"},{"id":"symbol"},{}]})";
+    EXPECT_EQ(layout.ofLine(before), after);
+    EXPECT_EQ(
+        layout.ofLine(R"({"inherits":["norvex.unit:unit-1.0.0"],"constants":[{"id":"symbol"},{"id":"name"},{}]})"),
+        after);
+}
+
 TEST(Format, RefusesWhatIsNoJson) {
     for (const std::string& text : {std::string(), std::string("{"), std::string("{} {}"), std::string("{}\0", 3)}) {
         EXPECT_EQ(Tool::Layout().ofFile(text), std::nullopt) << text;

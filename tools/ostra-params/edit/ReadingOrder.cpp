@@ -6,45 +6,47 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
-#include <unordered_map>
+#include <unordered_set>
 
 namespace Tool {
 
 std::vector<std::size_t> ReadingOrder::ranksOf(std::string_view base, std::string_view table,
                                                const std::vector<std::string_view>& ids) {
-    std::unordered_map<std::string, std::size_t> ranks; // of what is written once, then of what is read
+    std::unordered_set<std::string> names;
     std::string definitions;
     for (const std::string_view id : ids) {
         const std::string name = unquoted(id);
-        if (ranks.try_emplace(name, ids.size()).second && !name.empty()) { // which would be a fault of its own
+        if (!name.empty() && names.insert(name).second) { // what is empty or repeated would be a fault of its own
             definitions += fmt::format(R"({}{{"id":{}}})", definitions.empty() ? "" : ",", id);
         }
     }
-    const std::string question = fmt::format(R"({{"typeid":"x","inherits":[{}],"{}":[{}]}})", base, table, definitions);
-    const auto [answer, isNew] = asked_.try_emplace(question);
+    const Ranks& known = ask(fmt::format(R"({{"typeid":"x","inherits":[{}],"{}":[{}]}})", base, table, definitions));
+    std::vector<std::size_t> ranks;
+    for (const std::string_view id : ids) {
+        const auto found = known.find(unquoted(id));
+        ranks.push_back(found == known.end() ? known.size() : found->second);
+    }
+    return ranks;
+}
+
+const ReadingOrder::Ranks& ReadingOrder::ask(const std::string& question) {
+    const auto [answer, isNew] = answers_.try_emplace(question);
+    Ranks& ranks = answer->second;
     if (!isNew) {
-        return answer->second;
+        return ranks;
     }
     // Definitions without values are faults in the order of reading, and only of those that are read by name: the
     // values of an enumeration lack something else.
-    std::size_t rank = 0;
     for (const Parameters::Fault& fault : Parameters::ParametersEngine().findFaults({{"x", question}})) {
-        if (!fault.code().ends_with("value-missing")) {
-            continue;
-        }
-        const std::string_view element =
-            std::string_view(question).substr(fault.place().begin, fault.place().end - fault.place().begin);
-        const auto syntax = Syntax::read(element);
-        const auto id = syntax ? syntax->stringOf(syntax->find(Syntax::root, "id")) : std::nullopt;
-        if (const auto found = id ? ranks.find(*id) : ranks.end(); found != ranks.end()) {
-            found->second = rank++;
+        const Parameters::Fault::Place& place = fault.place();
+        if (fault.code().ends_with("value-missing")) {
+            const auto syntax = Syntax::read(std::string_view(question).substr(place.begin, place.end - place.begin));
+            if (const auto id = syntax ? syntax->stringOf(syntax->find(Syntax::root, "id")) : std::nullopt) {
+                ranks.emplace(*id, ranks.size());
+            }
         }
     }
-    for (const std::string_view id : ids) {
-        answer->second.push_back(ranks.at(unquoted(id)));
-    }
-    return answer->second;
+    return ranks;
 }
 
 } // namespace Tool

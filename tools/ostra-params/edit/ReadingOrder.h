@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstddef>
-#include <map>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace Tool {
@@ -18,7 +18,11 @@ public:
                                      const std::vector<std::string_view>& ids);
 
 private:
-    std::map<std::string, std::vector<std::size_t>> asked_; // by what was asked
+    using Ranks = std::unordered_map<std::string, std::size_t>;
+
+    const Ranks& ask(const std::string& question);
+
+    std::unordered_map<std::string, Ranks> answers_; // by the schema that was asked about
 };
 
 } // namespace Tool
