@@ -477,7 +477,8 @@ TEST_P(Help, NamesTheOptionsThatAreInTheManPageAndTheCompletion) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Tool, Help,
-                         testing::Values("check", "list", "show", "deps", "export", "diff", "report", "fmt", "rename"),
+                         testing::Values("check", "list", "show", "deps", "export", "diff", "report", "fmt", "rename",
+                                         "fix"),
                          [](const auto& test) { return std::string(test.param); });
 
 TEST(Completion, OffersVerbsOptionsAndValues) {

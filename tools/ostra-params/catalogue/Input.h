@@ -58,6 +58,9 @@ public:
     const std::map<std::string, std::string>& texts() const { return texts_; }
     static std::size_t numberOf(const std::string& key);
 
+    /// Puts another text into the place of one, as if that had been read, and returns the former one.
+    std::string replace(std::size_t number, std::string text);
+
 private:
     void find(const std::string& name);
     void findBelow(const std::filesystem::path& top);

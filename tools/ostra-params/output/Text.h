@@ -46,6 +46,12 @@ std::string percentEncoded(std::string_view text, std::string_view plain);
 /// Returns a number with its noun, in the plural where it must be.
 std::string counted(std::size_t count, std::string_view noun);
 
+/// Returns the candidates that may be meant by a text, those equally near to it; none when none is near.
+std::vector<std::string_view> nearest(std::string_view text, const std::vector<std::string_view>& candidates);
+
+/// Returns a question that offers some texts; empty when there are none.
+std::string didYouMean(const std::vector<std::string_view>& near);
+
 /// Returns a question that offers the candidates nearest to a text; empty when none is near.
 std::string didYouMean(std::string_view text, const std::vector<std::string_view>& candidates);
 

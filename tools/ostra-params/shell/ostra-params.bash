@@ -12,6 +12,7 @@ _ostra_params() {
         [report]="--output"
         [fmt]="--check --diff"
         [rename]="--dry-run --diff"
+        [fix]="--dry-run"
     )
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then

@@ -35,6 +35,7 @@ Action addExport(CLI::App& program);
 Action addDiff(CLI::App& program);
 Action addFormat(CLI::App& program);
 Action addRename(CLI::App& program);
+Action addFix(CLI::App& program);
 Action addReport(CLI::App& program);
 /// @}
 
