@@ -23,8 +23,9 @@ Exit codes:
   2  wrong usage, an input that cannot be read, or an output that cannot be
      written)";
 
-constexpr std::array verbs{Tool::addCheck, Tool::addList,   Tool::addShow,   Tool::addDeps, Tool::addExport,
-                           Tool::addDiff,  Tool::addFormat, Tool::addRename, Tool::addFix,  Tool::addReport};
+constexpr std::array verbs{Tool::addCheck,  Tool::addList,       Tool::addShow,   Tool::addDeps,
+                           Tool::addExport, Tool::addDiff,       Tool::addFormat, Tool::addRename,
+                           Tool::addFix,    Tool::addCompletion, Tool::addReport};
 
 /// Returns what to say of a verb that there is not; the library that reads the arguments takes it for a missing one.
 std::string noVerb(const CLI::App& program, const std::vector<std::string>& arguments) {

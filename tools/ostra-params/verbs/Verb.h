@@ -36,6 +36,7 @@ Action addDiff(CLI::App& program);
 Action addFormat(CLI::App& program);
 Action addRename(CLI::App& program);
 Action addFix(CLI::App& program);
+Action addCompletion(CLI::App& program);
 Action addReport(CLI::App& program);
 /// @}
 
