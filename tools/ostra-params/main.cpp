@@ -19,7 +19,8 @@ constexpr const char* footer = R"("ostra-params VERB --help" tells of a verb and
 
 Exit codes:
   0  done
-  1  the catalogue has faults (check and others), or the catalogues differ (diff)
+  1  the catalogue has faults (check and others), the catalogues differ (diff),
+     or a file is not laid out (fmt)
   2  wrong usage, an input that cannot be read, or an output that cannot be
      written)";
 
