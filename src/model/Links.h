@@ -40,7 +40,8 @@ private:
     static void moveTo(From& from, To&& to) noexcept {
         [&]<std::size_t... places>(std::index_sequence<places...>) {
             (Access::put(std::move(std::get<places>(from)), std::get<places>(to)), ...);
-        }(std::index_sequence_for<Handles...>{});
+        }
+        (std::index_sequence_for<Handles...>{});
     }
 
     std::tuple<Handles...> handles_;

@@ -25,7 +25,9 @@ inline bool isSame(std::string_view one, std::string_view other) noexcept {
     const std::size_t size = other.size(); // which is often known when this is compiled
     const char* const a = one.data();
     const char* const b = other.data();
-    const auto differ = [a, b]<class Word>(Word, std::size_t at) { return wordAt<Word>(a + at) ^ wordAt<Word>(b + at); };
+    const auto differ = [a, b]<class Word>(Word, std::size_t at) {
+        return wordAt<Word>(a + at) ^ wordAt<Word>(b + at);
+    };
     // The last word overlaps the one before, rather than depend on the number of bytes that are left.
     if (size >= 8) {
         for (std::size_t at = 0; at < size - 8; at += 8) {

@@ -144,8 +144,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Printing{"Check", {"check", "g.json"}}, Printing{"List", {"list"}}, Printing{"Show", {"show", "g"}},
                     Printing{"Deps", {"deps", "g"}}, Printing{"Export", {"export", "g.json", "-o", "-"}},
                     Printing{"Diff", {"diff", "g.json", "g.json"}}, Printing{"Report", {"report", "g.json", "-o", "-"}},
-                    Printing{"New", {"new", "group", "x"}}, Printing{"JsonSchema", {"json-schema"}},
-                    Printing{"Help", {"--help"}}, Printing{"Version", {"--version"}}),
+                    Printing{"Format", {"fmt", "--check", "g.json"}}, Printing{"New", {"new", "group", "x"}},
+                    Printing{"JsonSchema", {"json-schema"}}, Printing{"Help", {"--help"}},
+                    Printing{"Version", {"--version"}}),
     Support::nameOfRow);
 
 TEST(Tool, ExitsAsItWouldWhenItsComplaintCannotBeWritten) {

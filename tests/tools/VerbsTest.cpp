@@ -1,4 +1,3 @@
-#include "catalogue/Sections.h"
 #include "support/RowNames.h"
 #include "tools/Tool.h"
 
@@ -450,9 +449,8 @@ TEST(Tool, ReadsOneSchemaOfManyLinesFromStandardInput) {
     EXPECT_EQ(outcome.out, "<stdin>:1:1: Enumeration schema a must specify at least one value.\n");
 }
 
-/// Returns a part of what helps in the shell; fails when it is not there.
-std::string sectionOf(const std::string& extension, const std::string& beginning, const std::string& end) {
-    const std::string text = contentOf(OSTRA_SOURCE_DIR "/tools/ostra-params/shell/ostra-params" + extension);
+/// Returns a part of a text; fails when it is not there.
+std::string sectionOf(const std::string& text, const std::string& beginning, const std::string& end) {
     const std::size_t begin = text.find(beginning);
     EXPECT_NE(begin, std::string::npos) << beginning;
     return begin == std::string::npos ? "" : text.substr(begin, text.find(end, begin + beginning.size()) - begin);
@@ -460,56 +458,28 @@ std::string sectionOf(const std::string& extension, const std::string& beginning
 
 class Help : public testing::TestWithParam<const char*> {};
 
-TEST_P(Help, NamesTheOptionsThatAreInTheManPageAndTheCompletion) {
+TEST_P(Help, NamesTheOptionsThatAreInTheManPage) {
     const Outcome outcome = Folder().run({GetParam(), "--help"});
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_THAT(outcome.out, HasSubstr(std::string("Usage: ostra-params ") + GetParam() + " "));
-    const std::string manual = sectionOf(".1", std::string("\n.SS ") + GetParam() + "\n", "\n.S");
-    const std::string completion = sectionOf(".bash", std::string("[") + GetParam() + "]=", "\n");
-    const std::regex option("--[a-z]+");
+    const std::string manual = sectionOf(contentOf(OSTRA_SOURCE_DIR "/tools/ostra-params/shell/ostra-params.1"),
+                                         std::string("\n.SS ") + GetParam() + "\n", "\n.S");
+    const std::regex option("--[a-z-]+");
     for (std::sregex_iterator match(outcome.out.begin(), outcome.out.end(), option), end; match != end; ++match) {
         const std::string name = match->str().substr(2);
         if (name != "help") {
-            EXPECT_THAT(manual, HasSubstr("\\-\\-" + name));
-            EXPECT_THAT(completion, HasSubstr("--" + name));
+            EXPECT_THAT(manual, HasSubstr("\\-\\-" + std::regex_replace(name, std::regex("-"), "\\-")));
         }
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Tool, Help,
-                         testing::Values("check", "list", "show", "deps", "export", "diff", "report", "new",
-                                         "json-schema"),
+                         testing::Values("check", "list", "show", "deps", "export", "diff", "report", "fmt", "rename",
+                                         "fix", "new", "json-schema"),
                          [](const auto& test) {
                              std::string name = test.param;
                              std::erase(name, '-');
                              return name;
                          });
-
-TEST(Completion, OffersVerbsOptionsAndValues) {
-    const std::string completion = OSTRA_SOURCE_DIR "/tools/ostra-params/shell/ostra-params.bash";
-    const auto complete = [&](const std::string& words, const std::string& last) {
-        const Folder folder;
-        const std::string script = "source '" + completion + "'; COMP_WORDS=('" + pathOfTool() + "' " + words +
-                                   "); COMP_CWORD=" + last + "; _ostra_params; echo \"${COMPREPLY[*]}\" > '" +
-                                   (folder.path() / "reply").string() + "'";
-        folder.write("script", script);
-        EXPECT_EQ(std::system(("bash '" + (folder.path() / "script").string() + "'").c_str()), 0);
-        return folder.read("reply");
-    };
-    EXPECT_EQ(complete("ch", "1"), "check\n");
-    EXPECT_EQ(complete("check --f", "2"), "--format\n");
-    EXPECT_EQ(complete("check --format s", "3"), "sarif\n");
-    EXPECT_EQ(complete("check --severity ''", "3"), "error warning\n");
-    EXPECT_EQ(complete("check --lint obj", "3"), "object-unused\n");
-    EXPECT_EQ(complete("check --only regex", "3"), "regex-refused\n");
-    EXPECT_EQ(complete("list --kind bool-", "3"), "bool-spec bool-parameter\n");
-    EXPECT_EQ(complete("list --kind unit,dom", "3"), "unit,domain\n");
-    EXPECT_EQ(complete("new string-", "2"), "string-range string-set string-regex string-spec string-parameter\n");
-    std::string kinds;
-    for (const Tool::Section& section : Tool::sections()) {
-        kinds += (kinds.empty() ? "" : " ") + std::string(section.id);
-    }
-    EXPECT_EQ(complete("list --kind ''", "3"), kinds + "\n");
-}
 
 } // namespace

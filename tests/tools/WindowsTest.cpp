@@ -119,7 +119,7 @@ TEST_F(OnWindows, WritesTheSameFiles) {
     }
     const auto count = [&](const char* beginning) {
         const std::vector<std::string> files = folder.files();
-        return std::ranges::count_if(files, [&](const auto& name) { return name.starts_with(beginning); });
+        return std::count_if(files.begin(), files.end(), [&](const auto& name) { return name.starts_with(beginning); });
     };
     EXPECT_GT(count("here/"), 50);
     EXPECT_EQ(count("there/"), count("here/"));
@@ -148,7 +148,7 @@ TEST_F(OnWindows, WritesUrisOfDrives) {
     folder.write("a b.json", "]");
     const std::string file = "Z:" + (folder.path() / "a b.json").string();
     std::string windowsFile = file;
-    std::ranges::replace(windowsFile, '/', '\\');
+    std::replace(windowsFile.begin(), windowsFile.end(), '/', '\\');
     for (const std::string& name : {file, windowsFile}) {
         EXPECT_THAT(run({"check", "--format", "sarif", name}).out,
                     HasSubstr("\"uri\": \"file:///Z:" + (folder.path() / "a%20b.json").string() + "\""));

@@ -19,12 +19,14 @@ constexpr const char* footer = R"("ostra-params VERB --help" tells of a verb and
 
 Exit codes:
   0  done
-  1  the catalogue has faults (check and others), or the catalogues differ (diff)
+  1  the catalogue has faults (check and others), the catalogues differ (diff),
+     or a file is not laid out (fmt)
   2  wrong usage, an input that cannot be read, or an output that cannot be
      written)";
 
-constexpr std::array verbs{Tool::addCheck, Tool::addList,   Tool::addShow, Tool::addDeps,      Tool::addExport,
-                           Tool::addDiff,  Tool::addReport, Tool::addNew,  Tool::addJsonSchema};
+constexpr std::array verbs{Tool::addCheck, Tool::addList,       Tool::addShow,      Tool::addDeps,   Tool::addExport,
+                           Tool::addDiff,  Tool::addReport,     Tool::addNew,       Tool::addFormat, Tool::addRename,
+                           Tool::addFix,   Tool::addJsonSchema, Tool::addCompletion};
 
 /// Returns what to say of a verb that there is not; the library that reads the arguments takes it for a missing one.
 std::string noVerb(const CLI::App& program, const std::vector<std::string>& arguments) {

@@ -29,8 +29,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
 [[noreturn]] void failToRead(const std::string& path, const std::error_code& reason) {
     throw InputError(fmt::format("Cannot read {}: {}.", printable(nameOf(path)), System::messageOf(reason)));
 }
@@ -147,6 +145,8 @@ std::string readAll(std::istream& stream) {
     return text;
 }
 
+std::string keyOf(std::size_t number) { return fmt::format("{:010}", number); }
+
 /// A text that is no value as a whole is taken for lines when its first line looks like an object of its own.
 bool isOfLines(const std::string& text) {
     const std::size_t begin = text.find_first_not_of(blanks);
@@ -158,6 +158,18 @@ bool isOfLines(const std::string& text) {
 }
 
 } // namespace
+
+bool holdsLines(const std::string& file) { return holdsLines(System::pathOf(file)); }
+
+std::string bytesOf(const std::string& file) {
+    errno = 0;
+    std::ifstream stream(System::pathOf(file), std::ios::binary);
+    std::string bytes = readAll(stream);
+    if (stream.bad() || !stream.is_open()) {
+        failToRead(file, lastError());
+    }
+    return bytes;
+}
 
 Input::Input(const std::vector<std::string>& paths) {
     mayRepeat_ = paths.size() > 1;
@@ -180,6 +192,10 @@ std::size_t Input::numberOf(const std::string& key) {
     std::size_t number = 0;
     std::from_chars(key.data(), key.data() + key.size(), number);
     return number;
+}
+
+std::string Input::replace(std::size_t number, std::string text) {
+    return std::exchange(texts_.at(keyOf(number)), std::move(text));
 }
 
 void Input::find(const std::string& name) {
@@ -288,7 +304,7 @@ void Input::add(const std::string& file, std::size_t line, std::string text) {
         text.erase(0, byteOrderMark.size());
     }
     read_ += text.size();
-    const auto added = texts_.emplace_hint(texts_.end(), fmt::format("{:010}", sources_.size()), std::move(text));
+    const auto added = texts_.emplace_hint(texts_.end(), keyOf(sources_.size()), std::move(text));
     sources_.push_back({&file, line, &added->second});
 }
 

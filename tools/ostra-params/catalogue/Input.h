@@ -23,6 +23,16 @@ struct InputError : std::runtime_error {
 /// What names the standard input among paths.
 constexpr std::string_view standardInput = "-";
 
+/// What may stand before the text of a file, and is no part of it.
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+/// Returns whether a file has a schema in each line, by its name.
+bool holdsLines(const std::string& file);
+
+/// Returns what a file holds.
+/// @throws InputError if it cannot be read
+std::string bytesOf(const std::string& file);
+
 /// The schema texts of files, folders and standard input, in the order of the paths and of the names in a folder; a
 /// copy that was made of a file comes after all that are none.
 class Input {
@@ -47,6 +57,9 @@ public:
     /// Returns the texts; the key of each tells its number among the sources.
     const std::map<std::string, std::string>& texts() const { return texts_; }
     static std::size_t numberOf(const std::string& key);
+
+    /// Puts another text into the place of one, as if that had been read, and returns the former one.
+    std::string replace(std::size_t number, std::string text);
 
 private:
     void find(const std::string& name);

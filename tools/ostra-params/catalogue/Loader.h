@@ -27,6 +27,7 @@ public:
 
     Parameters::ParametersEngine& engine() { return engine_; }
     const Parameters::ParametersEngine& engine() const { return engine_; }
+    const Input& input() const { return input_; }
     const Headings& headings() const { return headings_; }
     const Source& source(std::size_t number) const { return input_.sources()[number]; }
 

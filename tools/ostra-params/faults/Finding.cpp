@@ -47,7 +47,7 @@ std::vector<Finding> ownFindings(const Input& input) {
 
 std::vector<Finding> findingsOf(const Input& input, const Headings& headings, const std::vector<Fault>& faults) {
     std::vector<Finding> findings;
-    std::vector<std::string> hints = hintsFor(input, headings, faults);
+    std::vector<Hint> hints = hintsFor(input, headings, faults);
     Positions positions;
     Positions others; // which lie in other texts
     const auto place = [&](Positions& in, const Fault::Place& where) {
@@ -71,7 +71,7 @@ std::vector<Finding> findingsOf(const Input& input, const Headings& headings, co
                         .name = fault.name(),
                         .expected = std::string(fault.expectedKind()),
                         .nearest = fault.nearestName(),
-                        .hint = std::move(hints[i])};
+                        .hint = std::move(hints[i].text)};
         if (fault.otherPlace()) {
             finding.other = place(others, *fault.otherPlace());
         }

@@ -8,6 +8,7 @@
 #include <iterator>
 #include <map>
 #include <optional>
+#include <set>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -32,26 +33,44 @@ bool isOneOf(std::string_view code, std::string_view codes) {
     return codes.find(fmt::format(" {} ", code)) != codes.npos;
 }
 
-/// A known name that is meant: one nearly the same or, of a name without a version, the same with one.
-std::string meant(std::string_view name, const std::vector<std::string_view>& known) {
-    std::string question = didYouMean(name, known);
-    for (const std::string_view each : known) {
-        if (question.empty() && each.size() > name.size() && each[name.size()] == '-' && each.starts_with(name)) {
-            question = fmt::format("did you mean {}?", each);
-        }
+/// A question that offers the known names that may be meant by one; certain when there is one alone.
+Hint offer(std::string_view misspelt, const std::vector<std::string_view>& near) {
+    Hint hint{near.empty() ? std::string() : didYouMean(near)};
+    if (near.size() == 1) {
+        hint.misspelt = misspelt;
+        hint.meant = near.front();
     }
-    return question;
+    return hint;
 }
 
-std::string forMisspelt(const Fault& fault) {
+/// Offers a known name: one nearly the same or, of a name without a version, the same with one.
+Hint meant(std::string_view name, const std::vector<std::string_view>& known) {
+    const std::vector<std::string_view> near = nearest(name, known);
+    if (!near.empty()) {
+        return offer(name, near);
+    }
+    std::set<std::string_view> versions;
+    std::string_view first;
+    for (const std::string_view each : known) {
+        if (each.size() > name.size() && each[name.size()] == '-' && each.starts_with(name)) {
+            first = versions.empty() ? each : first;
+            versions.insert(each);
+        }
+    }
+    Hint hint = versions.empty() ? Hint() : offer(name, {first});
+    return versions.size() > 1 ? Hint{hint.text} : hint;
+}
+
+Hint forMisspelt(const Fault& fault) {
     if (!fault.isError()) {
-        return fmt::format("did you mean {}?", fault.nearestName());
+        return offer(fault.name(), {fault.nearestName()});
     }
     // What is not defined may be so in an array that is misspelt itself.
-    const std::string question =
-        didYouMean(fault.nearestName(), {fault.name(), "typedValue", "constants", "properties"});
-    return fmt::format("there is {}: {}", fault.nearestName(),
-                       question.empty() ? fmt::format("did you mean {}?", fault.name()) : question);
+    Hint hint = offer(fault.nearestName(),
+                      nearest(fault.nearestName(), {fault.name(), "typedValue", "constants", "properties"}));
+    const std::string question = hint.text.empty() ? fmt::format("did you mean {}?", fault.name()) : hint.text;
+    hint.text = fmt::format("there is {}: {}", fault.nearestName(), question);
+    return hint;
 }
 
 /// Says what may help to mend each fault.
@@ -75,44 +94,44 @@ public:
         }
     }
 
-    std::string hintFor(const Fault& fault) {
+    Hint hintFor(const Fault& fault) {
         const std::size_t number = Input::numberOf(fault.place().text);
         const std::string& text = *input_.sources()[number].text;
         if (fault.code() == "json-syntax") {
-            return std::string(slipAt(text, fault.place().begin));
+            return {std::string(slipAt(text, fault.place().begin))};
         }
         if (!fault.nearestName().empty()) {
             return forMisspelt(fault);
         }
         if (fault.code() == "constant-undefined" && properties_.contains(fault.place().text + fault.name())) {
-            return fmt::format("{} stands among the properties.", fault.name());
+            return {fmt::format("{} stands among the properties.", fault.name())};
         }
         if (fault.code() == "typeid-missing") {
-            return text[text.find_first_not_of(blanks)] == '[' ? "a text is one schema, no list of them."
-                   : headings_.of(number).base.empty()         ? "this is no schema; it need not be here."
-                                                               : "";
+            return {text[text.find_first_not_of(blanks)] == '[' ? "a text is one schema, no list of them."
+                    : headings_.of(number).base.empty()         ? "this is no schema; it need not be here."
+                                                                : ""};
         }
         if (fault.code() == "base-unrecognized") {
             return forBase(headings_.of(number).base);
         }
         if (fault.code() == "typeid-taken") {
-            return fault.otherPlace()
-                       ? fmt::format("it is that of {}.", placeOf(Input::numberOf(fault.otherPlace()->text)))
-                       : "it contains a built-in identifier.";
+            return {fault.otherPlace()
+                        ? fmt::format("it is that of {}.", placeOf(Input::numberOf(fault.otherPlace()->text)))
+                        : "it contains a built-in identifier."};
         }
         if (isOneOf(fault.code(), missing)) {
             return forMissing(fault);
         }
         if (isOneOf(fault.code(), nameless) && !fault.name().empty()) {
-            return fmt::format("this is about {}.", fault.name());
+            return {fmt::format("this is about {}.", fault.name())};
         }
         return {};
     }
 
 private:
-    std::string forBase(const std::string& base) const {
+    Hint forBase(const std::string& base) const {
         if (headings_.find(base)) {
-            return "only built-in bases can be inherited, and this is another schema.";
+            return {"only built-in bases can be inherited, and this is another schema."};
         }
         std::vector<std::string_view> bases;
         for (const Section& section : sections()) {
@@ -121,15 +140,15 @@ private:
         return meant(base, bases);
     }
 
-    std::string forMissing(const Fault& fault) {
+    Hint forMissing(const Fault& fault) {
         if (std::string circle = circleOf(fault); !circle.empty()) {
-            return circle;
+            return {circle};
         }
         const auto number = fault.otherPlace() ? std::optional(Input::numberOf(fault.otherPlace()->text))
                                                : headings_.find(fault.name());
         const bool isFaulty = number && (fault.root() || !headings_.isSound(*number));
         if (isFaulty) { // perhaps too faulty for the library
-            return fmt::format("it is in {}, and faulty.", placeOf(*number));
+            return {fmt::format("it is in {}, and faulty.", placeOf(*number))};
         }
         const Section* expected = findSection(&Section::label, fault.expectedKind());
         const Section* actual = sectionOfBase(fault.otherPlace() ? headings_.of(*number).base : fault.name());
@@ -137,12 +156,12 @@ private:
             return {};
         }
         if (actual == nullptr || actual == expected) {
-            return fault.otherPlace() ? std::string() : similarTo(fault.name(), *expected);
+            return fault.otherPlace() ? Hint() : similarTo(fault.name(), *expected);
         }
-        return fault.otherPlace() ? fmt::format("{} is of the kind {}, and the kind {} is expected.", placeOf(*number),
-                                                actual->label, expected->label)
-                                  : fmt::format("this is the base of the kind {}, and the kind {} is expected.",
-                                                actual->label, expected->label);
+        return {fault.otherPlace() ? fmt::format("{} is of the kind {}, and the kind {} is expected.", placeOf(*number),
+                                                 actual->label, expected->label)
+                                   : fmt::format("this is the base of the kind {}, and the kind {} is expected.",
+                                                 actual->label, expected->label)};
     }
 
     std::string circleOf(const Fault& fault) const {
@@ -166,7 +185,7 @@ private:
         return {};
     }
 
-    std::string similarTo(const std::string& typeId, const Section& section) {
+    Hint similarTo(const std::string& typeId, const Section& section) {
         constexpr std::size_t mostSearches = 200; // each goes through all typeids of a section
         const auto [similar, isNew] = similar_.try_emplace({&section, typeId});
         if (!isNew || similar_.size() > mostSearches) {
@@ -189,19 +208,19 @@ private:
     const Headings& headings_;
     std::unordered_map<std::string, const Fault*> naming_; // what names a faulty schema, by its typeid
     std::unordered_set<std::string> properties_;           // which nothing reads, behind the keys of their texts
-    std::map<const Section*, std::vector<std::string_view>> typeIds_;       // of each section that was asked for
-    std::map<std::pair<const Section*, std::string>, std::string> similar_; // what was found, as many may miss the same
+    std::map<const Section*, std::vector<std::string_view>> typeIds_; // of each section that was asked for
+    std::map<std::pair<const Section*, std::string>, Hint> similar_;  // what was found, as many may miss the same
 };
 
 } // namespace
 
-std::vector<std::string> hintsFor(const Input& input, const Headings& headings, const std::vector<Fault>& faults) {
+std::vector<Hint> hintsFor(const Input& input, const Headings& headings, const std::vector<Fault>& faults) {
     Hints hints(input, headings, faults);
-    std::vector<std::string> texts;
+    std::vector<Hint> all;
     for (const Fault& fault : faults) {
-        texts.push_back(hints.hintFor(fault));
+        all.push_back(hints.hintFor(fault));
     }
-    return texts;
+    return all;
 }
 
 } // namespace Tool

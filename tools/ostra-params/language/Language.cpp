@@ -256,6 +256,15 @@ const Form* findForm(std::string_view id) {
     return own != nullptr ? own : find([](const Form& form) { return form.section->id; });
 }
 
+const Form* findFormOfBase(std::string_view base) {
+    const auto found = std::find_if(forms().begin(), forms().end(), [base](const Form& form) {
+        const std::string_view prefix = prefixOf(form.base);
+        const bool hasVersion = prefix != form.base;
+        return hasVersion ? base.find(prefix) != base.npos : base == form.base;
+    });
+    return found == forms().end() ? nullptr : &*found;
+}
+
 std::string_view prefixOf(std::string_view base) {
     const std::size_t version = base.rfind('-');
     return version == base.npos ? base : base.substr(0, base.find('.', version) + 1);

@@ -57,6 +57,9 @@ const std::vector<Form>& forms();
 /// Returns the form of an id; for the id of a kind with several, the first of them; nullptr if there is none.
 const Form* findForm(std::string_view id);
 
+/// Returns the form of schemas that inherit a base, of whatever minor version; nullptr if there is none.
+const Form* findFormOfBase(std::string_view base);
+
 /// Returns a base up to the dot after its major version, which is what it counts by; all of it where it has no version.
 std::string_view prefixOf(std::string_view base);
 

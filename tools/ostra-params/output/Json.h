@@ -12,9 +12,6 @@ using Json = nlohmann::ordered_json;
 /// Returns a JSON text of lines for people and programs. Bytes that are no UTF-8 become replacement characters.
 std::string toText(const Json& json);
 
-/// Returns a JSON text as people keep schemas: what is short is on one line, and each definition begins one.
-std::string laidOut(const Json& json);
-
 /// Returns a JSON text of one line that may stand within an HTML element: it holds no markup, whatever it says.
 std::string toTextInHtml(const Json& json);
 

@@ -27,11 +27,11 @@ bool isControl(unsigned character) {
            (character >= 0x202A && character <= 0x202E) || (character >= 0x2066 && character <= 0x2069);
 }
 
+} // namespace
+
 std::size_t widthOf(std::string_view text) {
     return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), isFirstOfCharacter));
 }
-
-} // namespace
 
 std::size_t findInvalid(std::string_view text) {
     std::size_t offset = 0;
@@ -130,9 +130,16 @@ std::string counted(std::size_t count, std::string_view noun) {
     return fmt::format("{} {}{}", count, noun, count == 1 ? "" : "s");
 }
 
-std::string didYouMean(std::string_view text, const std::vector<std::string_view>& candidates) {
-    const std::vector<std::string_view> near = Ostra::nearest(text, candidates);
+std::vector<std::string_view> nearest(std::string_view text, const std::vector<std::string_view>& candidates) {
+    return Ostra::nearest(text, candidates);
+}
+
+std::string didYouMean(const std::vector<std::string_view>& near) {
     return near.empty() ? std::string() : fmt::format("did you mean {}?", fmt::join(near, " or "));
+}
+
+std::string didYouMean(std::string_view text, const std::vector<std::string_view>& candidates) {
+    return didYouMean(nearest(text, candidates));
 }
 
 std::string thereIsNo(std::string_view kind, std::string_view name, const std::vector<std::string_view>& candidates) {

@@ -15,6 +15,9 @@ constexpr std::string_view blanks = " \t\r\n";
 /// Returns whether a byte of a UTF-8 text is the first one of a character.
 constexpr bool isFirstOfCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; }
 
+/// Returns how many characters a text has, wide ones and marks not told apart.
+std::size_t widthOf(std::string_view text);
+
 /// Returns the offset of the first byte that is no UTF-8, or npos.
 std::size_t findInvalid(std::string_view text);
 
@@ -42,6 +45,12 @@ std::string percentEncoded(std::string_view text, std::string_view plain);
 
 /// Returns a number with its noun, in the plural where it must be.
 std::string counted(std::size_t count, std::string_view noun);
+
+/// Returns the candidates that may be meant by a text, those equally near to it; none when none is near.
+std::vector<std::string_view> nearest(std::string_view text, const std::vector<std::string_view>& candidates);
+
+/// Returns a question that offers some texts; empty when there are none.
+std::string didYouMean(const std::vector<std::string_view>& near);
 
 /// Returns a question that offers the candidates nearest to a text; empty when none is near.
 std::string didYouMean(std::string_view text, const std::vector<std::string_view>& candidates);

@@ -1,5 +1,6 @@
 #include "language/JsonSchema.h"
 
+#include "edit/Layout.h"
 #include "output/OutputFile.h"
 #include "verbs/Verb.h"
 
@@ -19,7 +20,7 @@ Action addJsonSchema(CLI::App& program) {
     verb->footer("It is of draft 7, and holds for a file with one schema. Installing brings it, too:\n"
                  "share/ostra-parameters/schema.json.");
     return [output] {
-        writeTo(*output, laidOut(Language::jsonSchema()));
+        writeTo(*output, Layout::ofJson(Language::jsonSchema()));
         return Good;
     };
 }

@@ -1,3 +1,4 @@
+#include "edit/Layout.h"
 #include "language/Values.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
@@ -81,7 +82,8 @@ Action addNew(CLI::App& program) {
         ->type_name("FILE");
     verb->footer(details);
     return [options] {
-        writeTo(options->output, laidOut(schemaOf(*Language::findForm(options->kind), options->typeId, &valueOf)));
+        writeTo(options->output,
+                Layout::ofJson(schemaOf(*Language::findForm(options->kind), options->typeId, &valueOf)));
         return Good;
     };
 }

@@ -37,6 +37,12 @@ void addPaths(CLI::App& verb, std::vector<std::string>& paths, bool isRequired) 
         ->type_name("");
 }
 
+void mustBeFiles(const std::vector<std::string>& paths) {
+    if (std::find(paths.begin(), paths.end(), standardInput) != paths.end()) {
+        throw InputError("Standard input cannot be changed in place.");
+    }
+}
+
 void addRequired(CLI::App& verb, const std::string& name, std::string& value, const std::string& help,
                  const std::string& type) {
     verb.add_option(name, value, help)->required()->check(refuseEmpty)->type_name(type);

@@ -33,6 +33,10 @@ Action addShow(CLI::App& program);
 Action addDeps(CLI::App& program);
 Action addExport(CLI::App& program);
 Action addDiff(CLI::App& program);
+Action addFormat(CLI::App& program);
+Action addRename(CLI::App& program);
+Action addFix(CLI::App& program);
+Action addCompletion(CLI::App& program);
 Action addReport(CLI::App& program);
 Action addNew(CLI::App& program);
 Action addJsonSchema(CLI::App& program);
@@ -40,6 +44,10 @@ Action addJsonSchema(CLI::App& program);
 
 /// Adds the paths of a catalogue to a verb: required, or the working folder when none is given.
 void addPaths(CLI::App& verb, std::vector<std::string>& paths, bool isRequired);
+
+/// Refuses standard input among the paths of what is changed in place.
+/// @throws InputError
+void mustBeFiles(const std::vector<std::string>& paths);
 
 /// Adds an argument that must be given, and not be empty, to a verb.
 void addRequired(CLI::App& verb, const std::string& name, std::string& value, const std::string& help,
