@@ -163,9 +163,11 @@ bool holdsLines(const std::string& file) { return holdsLines(System::pathOf(file
 
 std::string bytesOf(const std::string& file) {
     errno = 0;
-    std::ifstream stream(System::pathOf(file), std::ios::binary);
-    std::string bytes = readAll(stream);
-    if (stream.bad() || !stream.is_open()) {
+    const System::File opened = System::open(System::pathOf(file));
+    FileBuffer buffer(opened.get());
+    std::istream stream(&buffer);
+    std::string bytes = opened ? readAll(stream) : "";
+    if (!opened || stream.bad()) {
         failToRead(file, lastError());
     }
     return bytes;

@@ -223,7 +223,7 @@ void orderSchema(Syntax& syntax, std::size_t schema) {
     const std::size_t inherits = syntax.find(schema, "inherits");
     const std::string_view base = stringAt(syntax, inherits == none ? none : syntax[inherits].first);
     const Language::Form* const form = Language::findFormOfBase(unquoted(base));
-    const auto known = form != nullptr ? *form : Language::Grammar{};
+    const auto known = form != nullptr ? Language::Grammar(*form) : Language::Grammar{};
     for (const std::size_t member : syntax.childrenOf(schema)) {
         const bool isOfConstants = syntax.isNamed(member, "constants");
         if ((isOfConstants || syntax.isNamed(member, "properties")) && syntax[member].type == Syntax::Type::array) {
