@@ -117,6 +117,7 @@ INSTANTIATE_TEST_SUITE_P(Tool, NewSchema, testing::ValuesIn(Tool::Language::form
 TEST(JsonSchema, IsTheSameInAFile) {
     const Folder folder;
     const Outcome outcome = folder.run({"json-schema"});
+    EXPECT_THAT(outcome.out, testing::StartsWith("{\n  \"$schema\": ")); // in the order of JSON schemas
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_EQ(folder.run({"json-schema", "--output", "schema.json"}).out, "");
     EXPECT_EQ(folder.read("schema.json"), outcome.out);

@@ -257,7 +257,10 @@ std::optional<std::string> laidOut(std::string_view text, bool isLine) {
 
 std::optional<std::string> ofFile(std::string_view text) { return laidOut(text, false); }
 
-std::string ofJson(const Json& json) { return ofFile(std::string_view(toText(json))).value(); }
+std::string ofJson(const Json& json) {
+    const std::string text = toText(json);
+    return Writer(Syntax::read(text).value(), false).text();
+}
 
 std::optional<std::string> ofLine(std::string_view text) { return laidOut(text, true); }
 

@@ -14,7 +14,7 @@ namespace Tool::Layout {
 /// Nothing is returned when it is no JSON.
 std::optional<std::string> ofFile(std::string_view text);
 
-/// Returns JSON as a file has it.
+/// Returns JSON as a file has it, but in its own order.
 std::string ofJson(const Json& json);
 
 /// Returns a text as one line of a file, without blanks. Nothing is returned when it is no JSON.
