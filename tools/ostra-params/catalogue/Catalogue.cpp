@@ -4,7 +4,12 @@
 
 namespace Tool {
 
-Catalogue::Catalogue(const std::vector<std::string>& paths) : Loader(paths), objects_(describeAll(engine())) {
+Catalogue::Catalogue(const std::vector<std::string>& paths) : Loader(paths) { describe(); }
+
+Catalogue::Catalogue(const std::vector<KnownFile>& files) : Loader(files) { describe(); }
+
+void Catalogue::describe() {
+    objects_ = describeAll(engine());
     mustHaveAll(objects_);
     for (const Object& object : objects_) {
         index_.emplace(object.typeId, &object);

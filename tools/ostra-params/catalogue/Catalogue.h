@@ -23,6 +23,7 @@ public:
     /// Reads it as Loader does.
     /// @throws Loss if a sound schema is not among the objects.
     explicit Catalogue(const std::vector<std::string>& paths);
+    explicit Catalogue(const std::vector<KnownFile>& files);
 
     /// Returns the objects by section, then by typeid.
     const std::vector<Object>& objects() const { return objects_; }
@@ -40,6 +41,8 @@ public:
     const Source& sourceOf(const Object& object) const { return source(*headings().find(object.typeId)); }
 
 private:
+    void describe();
+
     std::vector<Object> objects_;
     std::unordered_map<std::string_view, const Object*> index_;
 };

@@ -90,6 +90,82 @@ private:
     fs::path canonicalFolder_ = "/";
 };
 
+/// Finds the files of paths.
+class Search {
+public:
+    explicit Search(const std::vector<std::string>& paths) : mayRepeat_(paths.size() > 1) {
+        for (const std::string& path : paths) {
+            find(path);
+        }
+        if (mayRepeat_) {
+            Once once;
+            std::erase_if(files_, [&](const std::string& file) { return !once.isNew(System::pathOf(file)); });
+        }
+        putCopiesLast(files_);
+    }
+
+    std::deque<std::string> take() { return std::move(files_); }
+
+private:
+    void find(const std::string& name);
+    void findBelow(const fs::path& top);
+
+    bool mayRepeat_;
+    std::deque<std::string> files_;
+};
+
+void Search::find(const std::string& name) {
+    const fs::path path = System::pathOf(name);
+    std::error_code error;
+    const fs::file_status status = name == standardInput ? fs::file_status() : fs::status(path, error);
+    if (error) {
+        failToRead(name, error);
+    }
+    if (fs::is_directory(status)) {
+        findBelow(path);
+    } else if (name == standardInput || isSchemaFile(path)) {
+        files_.push_back(System::textOf(path));
+    } else {
+        throw InputError(fmt::format("{} is neither a folder nor a .json or .ndjson file.", printable(name)));
+    }
+}
+
+void Search::findBelow(const fs::path& top) {
+    std::vector<std::string> found;
+    std::vector<fs::path> folders{top};
+    while (!folders.empty()) {
+        const fs::path folder = std::move(folders.back());
+        folders.pop_back();
+        std::error_code error;
+        for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+            const fs::path& path = entry->path();
+            std::error_code unknown; // as of a link that leads nowhere
+            const bool isFolder = entry->is_directory(unknown);
+            mayRepeat_ = mayRepeat_ || entry->is_symlink(unknown);
+            if (path.filename().native().front() == '.' || (isFolder && entry->is_symlink(unknown))) {
+                continue;
+            }
+            if (isFolder) {
+                folders.push_back(path);
+            } else if (isSchemaFile(path)) {
+                found.push_back(System::textOf(path));
+            }
+        }
+        if (error) {
+            found.push_back(System::textOf(folder)); // to be refused when it is its turn to be read
+        }
+    }
+    if (found.empty()) {
+        throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(System::textOf(top))));
+    }
+    std::ranges::sort(found, [](const std::string& one, const std::string& other) {
+        // As paths are compared, name by name, at a fraction of the cost.
+        const auto rank = [](char byte) { return byte == '/' ? 0 : 1 + static_cast<unsigned char>(byte); };
+        return std::ranges::lexicographical_compare(one, other, {}, rank, rank);
+    });
+    std::ranges::move(found, std::back_inserter(files_));
+}
+
 /// Shows on a terminal's standard error how much of the files is read, once that takes more than a second.
 class Progress {
 public:
@@ -173,20 +249,25 @@ std::string bytesOf(const std::string& file) {
     return bytes;
 }
 
-Input::Input(const std::vector<std::string>& paths) {
-    mayRepeat_ = paths.size() > 1;
-    for (const std::string& path : paths) {
-        find(path);
-    }
-    if (mayRepeat_) {
-        Once once;
-        std::erase_if(files_, [&](const std::string& file) { return !once.isNew(System::pathOf(file)); });
-    }
-    putCopiesLast(files_);
+std::deque<std::string> filesOf(const std::vector<std::string>& paths) { return Search(paths).take(); }
+
+Input::Input(const std::vector<std::string>& paths) : files_(filesOf(paths)) {
     Progress progress(files_);
     for (const std::string& file : files_) {
         file == standardInput ? readStandardInput(file) : read(file);
         progress.advance(read_);
+    }
+}
+
+Input::Input(const std::vector<KnownFile>& files) {
+    for (const auto& [name, bytes] : files) {
+        files_.push_back(name);
+        if (holdsLines(name)) {
+            std::istringstream lines(*bytes);
+            readLines(lines, files_.back());
+        } else {
+            add(files_.back(), 1, *bytes);
+        }
     }
 }
 
@@ -198,59 +279,6 @@ std::size_t Input::numberOf(const std::string& key) {
 
 std::string Input::replace(std::size_t number, std::string text) {
     return std::exchange(texts_.at(keyOf(number)), std::move(text));
-}
-
-void Input::find(const std::string& name) {
-    const fs::path path = System::pathOf(name);
-    std::error_code error;
-    const fs::file_status status = name == standardInput ? fs::file_status() : fs::status(path, error);
-    if (error) {
-        failToRead(name, error);
-    }
-    if (fs::is_directory(status)) {
-        findBelow(path);
-    } else if (name == standardInput || isSchemaFile(path)) {
-        files_.push_back(System::textOf(path));
-    } else {
-        throw InputError(fmt::format("{} is neither a folder nor a .json or .ndjson file.", printable(name)));
-    }
-}
-
-void Input::findBelow(const fs::path& top) {
-    std::vector<std::string> found;
-    std::vector<fs::path> folders{top};
-    while (!folders.empty()) {
-        const fs::path folder = std::move(folders.back());
-        folders.pop_back();
-        std::error_code error;
-        for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-            const fs::path& path = entry->path();
-            std::error_code unknown; // as of a link that leads nowhere
-            const bool isFolder = entry->is_directory(unknown);
-            mayRepeat_ = mayRepeat_ || entry->is_symlink(unknown);
-            if (path.filename().native().front() == '.' || (isFolder && entry->is_symlink(unknown))) {
-                continue;
-            }
-            if (isFolder) {
-                folders.push_back(path);
-            } else if (isSchemaFile(path)) {
-                found.push_back(System::textOf(path));
-            }
-        }
-        if (error) {
-            found.push_back(System::textOf(folder)); // to be refused when it is its turn to be read
-        }
-    }
-    if (found.empty()) {
-        throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(System::textOf(top))));
-    }
-    std::sort(found.begin(), found.end(), [](const std::string& one, const std::string& other) {
-        // As paths are compared, name by name, at a fraction of the cost.
-        const auto rank = [](char byte) { return byte == '/' ? 0 : 1 + static_cast<unsigned char>(byte); };
-        return std::lexicographical_compare(one.begin(), one.end(), other.begin(), other.end(),
-                                            [&](char left, char right) { return rank(left) < rank(right); });
-    });
-    std::move(found.begin(), found.end(), std::back_inserter(files_));
 }
 
 void Input::read(const std::string& file) {

@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
-#include <filesystem>
 #include <iosfwd>
 #include <map>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -33,6 +33,16 @@ bool holdsLines(const std::string& file);
 /// @throws InputError if it cannot be read
 std::string bytesOf(const std::string& file);
 
+/// A file whose bytes are known already, such as those of an editor.
+struct KnownFile {
+    std::string name;
+    std::shared_ptr<const std::string> bytes;
+};
+
+/// Returns the files that an Input of these paths reads, in this order.
+/// @throws InputError as that does.
+std::deque<std::string> filesOf(const std::vector<std::string>& paths);
+
 /// The schema texts of files, folders and standard input, in the order of the paths and of the names in a folder; a
 /// copy that was made of a file comes after all that are none.
 class Input {
@@ -40,6 +50,8 @@ public:
     /// Reads them, without the byte order marks at their starts. A file that is named twice counts once.
     /// @throws InputError if a path is not there or no schema file, or a folder holds none.
     explicit Input(const std::vector<std::string>& paths);
+    /// Takes what is in files that are known, in their order.
+    explicit Input(const std::vector<KnownFile>& files);
     Input(const Input&) = delete;
     Input& operator=(const Input&) = delete;
 
@@ -62,14 +74,11 @@ public:
     std::string replace(std::size_t number, std::string text);
 
 private:
-    void find(const std::string& name);
-    void findBelow(const std::filesystem::path& top);
     void read(const std::string& file);
     void readLines(std::istream& stream, const std::string& file);
     void readStandardInput(const std::string& file);
     void add(const std::string& file, std::size_t line, std::string text);
 
-    bool mayRepeat_ = false;
     std::deque<std::string> files_; // never moved, as places point to them
     std::map<std::string, std::string> texts_;
     std::vector<Source> sources_;

@@ -10,7 +10,11 @@
 
 namespace Tool {
 
-Loader::Loader(const std::vector<std::string>& paths) : input_(paths), isFaulty_(input_.sources().size()) {
+Loader::Loader(const std::vector<std::string>& paths) : input_(paths), isFaulty_(input_.sources().size()) { load(); }
+
+Loader::Loader(const std::vector<KnownFile>& files) : input_(files), isFaulty_(input_.sources().size()) { load(); }
+
+void Loader::load() {
     const std::vector<Parameters::Fault> faults = engine_.registerSoundSchemas(input_.texts());
     for (const Parameters::Fault& fault : faults) {
         if (fault.isError()) {

@@ -24,6 +24,7 @@ public:
     /// Reads files, folders and standard input.
     /// @throws InputError as Input does.
     explicit Loader(const std::vector<std::string>& paths);
+    explicit Loader(const std::vector<KnownFile>& files);
 
     Parameters::ParametersEngine& engine() { return engine_; }
     const Parameters::ParametersEngine& engine() const { return engine_; }
@@ -48,6 +49,8 @@ protected:
     void mustHaveAll(const std::vector<Object>& objects) const;
 
 private:
+    void load();
+
     Input input_;
     Parameters::ParametersEngine engine_;
     std::vector<bool> isFaulty_; // by the number of the schema

@@ -71,7 +71,9 @@ std::vector<Finding> findingsOf(const Input& input, const Headings& headings, co
                         .name = fault.name(),
                         .expected = std::string(fault.expectedKind()),
                         .nearest = fault.nearestName(),
-                        .hint = std::move(hints[i].text)};
+                        .hint = std::move(hints[i].text),
+                        .misspelt = std::move(hints[i].misspelt),
+                        .meant = std::move(hints[i].meant)};
         if (fault.otherPlace()) {
             finding.other = place(others, *fault.otherPlace());
         }

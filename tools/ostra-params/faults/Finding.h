@@ -26,7 +26,9 @@ struct Finding {
     std::optional<Place> other = {};
     std::optional<Place> root = {}; ///< Of what is but a consequence.
     std::optional<std::size_t> rootSource = {};
-    std::string hint = {}; ///< What may help to mend it; often empty.
+    std::string hint = {};     ///< What may help to mend it; often empty.
+    std::string misspelt = {}; ///< As in the hint, if that offers one text alone.
+    std::string meant = {};
 };
 
 /// Tells the order of reading.
