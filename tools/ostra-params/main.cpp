@@ -26,7 +26,7 @@ Exit codes:
 
 constexpr std::array verbs{Tool::addCheck, Tool::addList,       Tool::addShow,      Tool::addDeps,   Tool::addExport,
                            Tool::addDiff,  Tool::addReport,     Tool::addNew,       Tool::addFormat, Tool::addRename,
-                           Tool::addFix,   Tool::addJsonSchema, Tool::addCompletion};
+                           Tool::addFix,   Tool::addJsonSchema, Tool::addCompletion, Tool::addLsp};
 
 /// Returns what to say of a verb that there is not; the library that reads the arguments takes it for a missing one.
 std::string noVerb(const CLI::App& program, const std::vector<std::string>& arguments) {

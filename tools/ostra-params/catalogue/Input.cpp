@@ -158,12 +158,13 @@ void Search::findBelow(const fs::path& top) {
     if (found.empty()) {
         throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(System::textOf(top))));
     }
-    std::ranges::sort(found, [](const std::string& one, const std::string& other) {
+    std::sort(found.begin(), found.end(), [](const std::string& one, const std::string& other) {
         // As paths are compared, name by name, at a fraction of the cost.
         const auto rank = [](char byte) { return byte == '/' ? 0 : 1 + static_cast<unsigned char>(byte); };
-        return std::ranges::lexicographical_compare(one, other, {}, rank, rank);
+        return std::lexicographical_compare(one.begin(), one.end(), other.begin(), other.end(),
+                                            [&](char left, char right) { return rank(left) < rank(right); });
     });
-    std::ranges::move(found, std::back_inserter(files_));
+    std::move(found.begin(), found.end(), std::back_inserter(files_));
 }
 
 /// Shows on a terminal's standard error how much of the files is read, once that takes more than a second.

@@ -43,6 +43,14 @@ bool canDraw() { return ::isatty(STDERR_FILENO) == 1; }
 
 File open(const fs::path& path) { return {std::fopen(path.c_str(), "rb"), std::fclose}; }
 
+std::size_t readInput(char* buffer, std::size_t size) {
+    ssize_t count = 0;
+    do {
+        count = ::read(STDIN_FILENO, buffer, size);
+    } while (count < 0 && errno == EINTR);
+    return count < 0 ? 0 : static_cast<std::size_t>(count);
+}
+
 fs::path makeFileBeside(const fs::path& target) {
     std::string name = patternBeside(target);
     const int descriptor = ::mkstemp(name.data());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -31,6 +32,10 @@ using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
 /// Opens a file to be read, byte by byte as it is; errno says why it failed.
 File open(const std::filesystem::path& path);
+
+/// Reads up to so many bytes of standard input, at least one, as soon as they are there; none at its end. The streams
+/// of the standard library, which wait until much is there, must not be used beside it.
+std::size_t readInput(char* buffer, std::size_t size);
 
 /// Makes an empty file beside another one that it shall replace, with that one's permissions or, if there is none,
 /// those of any new file. Returns its path.

@@ -10,6 +10,7 @@
 #include <io.h>
 #include <shellapi.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -116,6 +117,12 @@ bool canDraw() {
 }
 
 File open(const fs::path& path) { return {::_wfopen(path.c_str(), L"rb"), std::fclose}; }
+
+std::size_t readInput(char* buffer, std::size_t size) {
+    DWORD count = 0;
+    const auto most = static_cast<DWORD>(std::min<std::size_t>(size, 1U << 20U));
+    return ::ReadFile(::GetStdHandle(STD_INPUT_HANDLE), buffer, most, &count, nullptr) != 0 ? count : 0;
+}
 
 fs::path makeFileBeside(const fs::path& target) {
     return makeBeside(target, [](const wchar_t* path) {

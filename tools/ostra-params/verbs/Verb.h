@@ -40,6 +40,7 @@ Action addCompletion(CLI::App& program);
 Action addReport(CLI::App& program);
 Action addNew(CLI::App& program);
 Action addJsonSchema(CLI::App& program);
+Action addLsp(CLI::App& program);
 /// @}
 
 /// Adds the paths of a catalogue to a verb: required, or the working folder when none is given.

@@ -1,0 +1,256 @@
+#include "catalogue/Input.h"
+#include "catalogue/Sections.h"
+#include "edit/Edit.h"
+#include "edit/Layout.h"
+#include "language/Values.h"
+#include "output/Text.h"
+#include "server/Diagnostics.h"
+#include "server/Features.h"
+#include "server/SchemaText.h"
+#include "server/Uri.h"
+#include "server/WorkspaceEdit.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <set>
+
+namespace Tool::Lsp {
+
+namespace {
+
+constexpr std::string_view quickFix = "quickfix";
+constexpr std::string_view fixAll = "source.fixAll.ostra-params";
+
+/// Returns the action that an edit is.
+Json action(const std::string& title, std::string_view kind, const WorkspaceEdit& edit) {
+    return {{"title", title}, {"kind", kind}, {"edit", edit.json()}};
+}
+
+/// Spells what is misspelt as it is meant, if it is known how.
+void respell(WorkspaceEdit& edit, const Problem& problem) {
+    const Finding& finding = problem.finding;
+    if (finding.meant.empty()) {
+        return;
+    }
+    const File& file = *problem.spot.file;
+    for (const Part& part : partsOf(file.name, *file.text)) {
+        if (problem.spot.begin < part.begin || problem.spot.begin > part.begin + part.text.size()) {
+            continue;
+        }
+        for (const Edit& each :
+             respellingsIn(part.text, problem.spot.begin - part.begin, finding.misspelt, finding.meant)) {
+            edit.replace(file, part.begin + each.begin, part.begin + each.end, each.text);
+        }
+    }
+}
+
+/// Returns what stands between the beginning of a line and an offset, as blanks; nothing when it is not blank.
+std::string indentationAt(std::string_view text, std::size_t offset) {
+    const std::size_t line = text.find_last_of("\r\n", offset) + 1; // npos + 1 is 0
+    const std::string_view before = text.substr(line, offset - line);
+    const bool isBlank = line > 0 && before.find_first_not_of(" \t") == before.npos;
+    return fmt::format("{}{}", isBlank ? "\n" : " ", isBlank ? before : std::string_view());
+}
+
+/// Adds definitions to the constants of a schema.
+void addConstants(WorkspaceEdit& edit, const File& file, const SchemaText& schema,
+                  const std::vector<const Language::Definition*>& definitions) {
+    const Outline& outline = schema.outline();
+    const std::size_t table = outline.find(outline.root(), "constants");
+    const bool isThere = table != Outline::none && schema[table].type == Outline::Type::array;
+    const std::size_t last = isThere && !schema[table].children.empty() ? schema[table].children.back() : Outline::none;
+    const std::size_t sibling = isThere ? last : schema[outline.root()].children.back();
+    const std::size_t siblingBegin = sibling == Outline::none    ? 0
+                                     : schema[sibling].hasName() ? schema[sibling].nameBegin
+                                                                 : schema[sibling].begin;
+    const std::string between = sibling == Outline::none ? " " : indentationAt(schema.text(), siblingBegin);
+    const std::string separator = fmt::format(",{}", between);
+    std::string text;
+    for (const Language::Definition* each : definitions) {
+        const Json definition = Language::withValue(*each, Language::placeholderOf(*each));
+        text += fmt::format("{}{}", text.empty() ? "" : isThere ? separator : ", ", definition.dump());
+    }
+    const std::size_t offset = sibling == Outline::none ? schema[table].begin + 1 : schema[sibling].end;
+    if (!isThere) {
+        text = fmt::format("\"constants\": [{}]", text);
+    }
+    text = sibling == Outline::none ? text : separator + text;
+    edit.replace(file, schema.begin() + offset, schema.begin() + offset, text);
+}
+
+/// Returns the constants that a schema must have and has not; the library tells but the first of them.
+std::vector<const Language::Definition*> missingIn(const SchemaText& schema, const Language::Form& form) {
+    const Outline& outline = schema.outline();
+    std::set<std::string, std::less<>> there;
+    const std::size_t table = outline.find(outline.root(), "constants");
+    for (const std::size_t each : table == Outline::none ? std::vector<std::size_t>() : schema[table].children) {
+        there.insert(outline.stringOf(outline.find(each, "id")));
+    }
+    std::vector<const Language::Definition*> missing;
+    for (const Language::Definition& each : form.constants) {
+        if (each.isRequired && !there.contains(each.id)) {
+            missing.push_back(&each);
+        }
+    }
+    return missing;
+}
+
+/// Makes a schema of what is named and missing: a line of the file or a file beside it.
+void create(WorkspaceEdit& edit, const Session& session, const File& file, const Language::Form& form,
+            const std::string& typeId) {
+    const Json schema = Language::schemaOf(form, typeId, [](const Language::Definition& definition) {
+        return definition.isRequired ? std::optional(Language::placeholderOf(definition)) : std::nullopt;
+    });
+    const std::string& text = *file.text;
+    if (holdsLines(file.name)) {
+        edit.replace(file, text.size(), text.size(),
+                     fmt::format("{}{}\n", text.ends_with('\n') ? "" : "\n", schema.dump()));
+        return;
+    }
+    const Json::json_pointer operations("/workspace/workspaceEdit/resourceOperations");
+    const Json offered = session.capabilities.value(operations, Json::array());
+    const std::string folder = Workspace::folderOf(file.name);
+    if (!folder.empty() && std::find(offered.begin(), offered.end(), "create") != offered.end()) {
+        edit.create(uriOf(folder + "/" + percentEncoded(typeId, "-_.") + ".json"),
+                    Layout().ofFile(schema.dump()).value_or(schema.dump()));
+    }
+}
+
+/// Collects the actions for faults.
+class Actions {
+public:
+    Actions(Session& session, const File& file, const Json& only)
+        : session_(session), knowledge_(session.current()), file_(file), only_(only) {}
+
+    void addFor(const Problem& problem) {
+        const Finding& finding = problem.finding;
+        WorkspaceEdit edit(session_);
+        respell(edit, problem);
+        if (!edit.isEmpty()) {
+            add(fmt::format("Write {} in place of {}", printable(finding.meant), printable(finding.misspelt)), quickFix,
+                edit, &problem);
+            addForAll(finding.code);
+        } else if (finding.code == "constant-undefined") {
+            addMissing(problem);
+        } else if (!finding.other && (finding.code == "dependency-missing" || finding.code == "unit-missing")) {
+            addCreation(problem);
+        }
+    }
+
+    /// Adds one action for all that is plainly misspelt in the file.
+    void addForFile(const std::vector<Problem>& problems) {
+        WorkspaceEdit edit(session_);
+        for (const Problem& problem : problems) {
+            respell(edit, problem);
+        }
+        add("Mend all that is plainly misspelt in this file", fixAll, edit);
+    }
+
+    Json take() { return std::move(actions_); }
+
+private:
+    bool isWanted(std::string_view kind) const {
+        return !only_.is_array() || std::any_of(only_.begin(), only_.end(), [&](const Json& wanted) {
+            const std::string name = wanted.is_string() ? wanted.get<std::string>() : std::string();
+            return kind == name || name.empty() || kind.starts_with(name + ".");
+        });
+    }
+
+    void add(const std::string& title, std::string_view kind, const WorkspaceEdit& edit,
+             const Problem* problem = nullptr) {
+        if (edit.isEmpty() || !isWanted(kind)) {
+            return;
+        }
+        Json made = action(title, kind, edit);
+        if (problem != nullptr) {
+            made["diagnostics"] = diagnosticsOf(session_, file_, {*problem});
+            made["isPreferred"] = true;
+        }
+        actions_.push_back(std::move(made));
+    }
+
+    void addForAll(const std::string& code) {
+        WorkspaceEdit edit(session_);
+        std::size_t count = 0;
+        for (const auto& [name, problems] : knowledge_.problems()) {
+            for (const Problem& problem : problems) {
+                if (problem.finding.code == code && !problem.finding.meant.empty()) {
+                    respell(edit, problem);
+                    ++count;
+                }
+            }
+        }
+        if (count > 1 && std::find(told_.begin(), told_.end(), code) == told_.end()) {
+            told_.push_back(code);
+            add(fmt::format("Mend all {} of these ({})", count, code), quickFix, edit);
+        }
+    }
+
+    void addMissing(const Problem& problem) {
+        const std::optional<SchemaText> schema = schemaAt(file_, problem.spot.begin);
+        const Language::Form* const form = schema ? schema->form() : nullptr;
+        if (form == nullptr) {
+            return;
+        }
+        const std::vector<const Language::Definition*> all = missingIn(*schema, *form);
+        const auto own = std::find_if(
+            all.begin(), all.end(), [&](const Language::Definition* each) { return each->id == problem.finding.name; });
+        if (own == all.end()) {
+            return;
+        }
+        WorkspaceEdit edit(session_);
+        addConstants(edit, file_, *schema, {*own});
+        add(fmt::format("Add the constant {}", (*own)->id), quickFix, edit, &problem);
+        if (all.size() > 1 && own == all.begin()) {
+            WorkspaceEdit every(session_);
+            addConstants(every, file_, *schema, all);
+            add(fmt::format("Add all {} constants that are missing", all.size()), quickFix, every);
+        }
+    }
+
+    void addCreation(const Problem& problem) {
+        const Finding& finding = problem.finding;
+        const Section* const section = findSection(&Section::label, finding.expected);
+        const Language::Form* const form = section == nullptr ? nullptr : Language::findForm(section->id);
+        if (form != nullptr && !knowledge_.catalogue().engine().isTaken(finding.name)) {
+            WorkspaceEdit edit(session_);
+            create(edit, session_, file_, *form, finding.name);
+            add(fmt::format("Create the {} {}", form->label, printable(finding.name)), quickFix, edit, &problem);
+        }
+    }
+
+    Session& session_;
+    const Knowledge& knowledge_;
+    const File& file_;
+    const Json& only_;
+    std::vector<std::string> told_; // codes of which all are offered to be mended
+    Json actions_ = Json::array();
+};
+
+} // namespace
+
+Json codeAction(Session& session, const Json& params) {
+    const File file = session.fileIn(params);
+    const Lines lines(*file.text, session.encoding);
+    const auto offsetOf = [&](const char* end) {
+        const Json& position = params.at("range").at(end);
+        return lines.offsetOf({countOf(position.at("line")), countOf(position.at("character"))});
+    };
+    const std::size_t begin = offsetOf("start");
+    const std::size_t end = offsetOf("end");
+    const Json only = params.contains("context") ? params.at("context").value("only", Json()) : Json();
+    Actions actions(session, file, only);
+    const auto& problems = session.current().problems();
+    if (const auto mine = problems.find(file.name); mine != problems.end()) {
+        for (const Problem& problem : mine->second) {
+            if (problem.spot.begin <= end && problem.spot.end >= begin) {
+                actions.addFor(problem);
+            }
+        }
+        actions.addForFile(mine->second);
+    }
+    return actions.take();
+}
+
+} // namespace Tool::Lsp

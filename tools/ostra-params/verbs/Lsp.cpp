@@ -1,0 +1,45 @@
+#include "output/OutputFile.h"
+#include "server/Server.h"
+#include "system/System.h"
+#include "verbs/Verb.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdio>
+#include <memory>
+#include <string_view>
+
+namespace Tool {
+
+namespace {
+
+constexpr const char* details = R"(Speaks the Language Server Protocol 3.17 over standard input and output: for
+editors, which start it themselves. All files in the folders that the editor
+names are one catalogue.
+
+Exit codes:
+  0  the editor has shut the server down
+  1  the editor is gone without doing so
+  2  wrong usage, or an output that cannot be written)";
+
+ExitCode serve() {
+    const bool isGood = Lsp::serve(System::readInput, [](std::string_view text) {
+        print(text);
+        if (std::fflush(stdout) != 0) {
+            throw OutputError("Cannot write the result.");
+        }
+    });
+    return isGood ? Good : Bad;
+}
+
+} // namespace
+
+Action addLsp(CLI::App& program) {
+    CLI::App* verb = program.add_subcommand("lsp", "Help editors: a language server on standard input and output");
+    const auto isStdio = std::make_shared<bool>();
+    verb->add_flag("--stdio", *isStdio, "What some editors add, and is done anyway");
+    verb->footer(details);
+    return [isStdio] { return serve(); };
+}
+
+} // namespace Tool
