@@ -24,8 +24,8 @@ Exit codes:
   2  wrong usage, an input that cannot be read, or an output that cannot be
      written)";
 
-constexpr std::array verbs{Tool::addCheck, Tool::addList,       Tool::addShow,      Tool::addDeps,   Tool::addExport,
-                           Tool::addDiff,  Tool::addReport,     Tool::addNew,       Tool::addFormat, Tool::addRename,
+constexpr std::array verbs{Tool::addCheck, Tool::addList,       Tool::addShow,       Tool::addDeps,   Tool::addExport,
+                           Tool::addDiff,  Tool::addReport,     Tool::addNew,        Tool::addFormat, Tool::addRename,
                            Tool::addFix,   Tool::addJsonSchema, Tool::addCompletion, Tool::addLsp};
 
 /// Returns what to say of a verb that there is not; the library that reads the arguments takes it for a missing one.

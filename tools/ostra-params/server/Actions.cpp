@@ -112,8 +112,7 @@ void create(WorkspaceEdit& edit, const Session& session, const File& file, const
     const Json offered = session.capabilities.value(operations, Json::array());
     const std::string folder = Workspace::folderOf(file.name);
     if (!folder.empty() && std::find(offered.begin(), offered.end(), "create") != offered.end()) {
-        edit.create(uriOf(folder + "/" + percentEncoded(typeId, "-_.") + ".json"),
-                    Layout().ofFile(schema.dump()).value_or(schema.dump()));
+        edit.create(uriOf(folder + "/" + percentEncoded(typeId, "-_.") + ".json"), Layout::ofJson(schema));
     }
 }
 

@@ -9,9 +9,8 @@ namespace {
 /// Returns a file as fmt lays it out; lines that are no JSON stay.
 /// @throws Refusal if all of it is none
 std::string laidOut(const File& file) {
-    Layout layout;
     if (!holdsLines(file.name)) {
-        std::optional<std::string> text = layout.ofFile(*file.text);
+        std::optional<std::string> text = Layout::ofFile(*file.text);
         if (!text) {
             throw Refusal(ErrorCode::requestFailed, "What is no JSON cannot be laid out.");
         }
@@ -19,7 +18,7 @@ std::string laidOut(const File& file) {
     }
     std::string text;
     for (const Part& part : partsOf(file.name, *file.text)) {
-        text += layout.ofLine(part.text).value_or(std::string(part.text)) + "\n";
+        text += Layout::ofLine(part.text).value_or(std::string(part.text)) + "\n";
     }
     return text;
 }
