@@ -104,6 +104,8 @@ constexpr bool isBuiltBefore() {
     constexpr bool isItself = std::is_same_v<K, Named> && KindWithPasses<K>;
     static_assert(isItself || placeIn<Named>(ResolutionOrder{}) < placeIn<K>(ResolutionOrder{}),
                   "The second kind is named by the first, and must stand before it in the resolution order.");
+    static_assert(!LinkedKind<Named>,
+                  "What is named must be whole while what names it is resolved: no linked kind is.");
     return true;
 }
 

@@ -14,9 +14,7 @@ template <class... Handles>
 class Links {
 public:
     Links() noexcept : handles_(Access::none<Handles>()...) {}
-    explicit Links(Handles... handles) noexcept requires(sizeof...(Handles) > 0) : Links() {
-        take(std::tie(handles...));
-    }
+    explicit Links(Handles... handles) noexcept : Links() { take(std::tie(handles...)); }
     Links(Links&& other) noexcept : Links() { take(other.handles_); }
     Links& operator=(Links&& other) noexcept {
         take(other.handles_);

@@ -223,11 +223,11 @@ void orderSchema(Syntax& syntax, std::size_t schema) {
     const std::size_t inherits = syntax.find(schema, "inherits");
     const std::string_view base = stringAt(syntax, inherits == none ? none : syntax[inherits].first);
     const Language::Form* const form = Language::findFormOfBase(unquoted(base));
-    const auto known = form != nullptr ? Language::Grammar(*form) : Language::Grammar{};
     for (const std::size_t member : syntax.childrenOf(schema)) {
-        const bool isOfConstants = syntax.isNamed(member, "constants");
-        if ((isOfConstants || syntax.isNamed(member, "properties")) && syntax[member].type == Syntax::Type::array) {
-            orderDefinitions(syntax, member, isOfConstants ? known.constants : known.properties);
+        for (const std::string_view table : {"constants", "properties"}) {
+            if (syntax.isNamed(member, table) && syntax[member].type == Syntax::Type::array) {
+                orderDefinitions(syntax, member, Language::definitionsOf(form, table));
+            }
         }
     }
 }

@@ -265,6 +265,13 @@ const Form* findFormOfBase(std::string_view base) {
     return found == forms().end() ? nullptr : &*found;
 }
 
+std::span<const Definition> definitionsOf(const Form* form, std::string_view table) {
+    if (form == nullptr) {
+        return {};
+    }
+    return table == "constants" ? form->constants : form->properties;
+}
+
 std::string_view prefixOf(std::string_view base) {
     const std::size_t version = base.rfind('-');
     return version == base.npos ? base : base.substr(0, base.find('.', version) + 1);

@@ -60,6 +60,9 @@ const Form* findForm(std::string_view id);
 /// Returns the form of schemas that inherit a base, of whatever minor version; nullptr if there is none.
 const Form* findFormOfBase(std::string_view base);
 
+/// Returns the definitions that a form has in a table, "constants" or "properties"; none where there is no form.
+std::span<const Definition> definitionsOf(const Form* form, std::string_view table);
+
 /// Returns a base up to the dot after its major version, which is what it counts by; all of it where it has no version.
 std::string_view prefixOf(std::string_view base);
 

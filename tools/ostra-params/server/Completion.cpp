@@ -200,7 +200,7 @@ private:
     const Language::Form* formOfRange() const {
         const std::size_t typedValue = parentOf(container_);
         const bool isLimits = nameOf(container_) == "value" && nameOf(typedValue) == "typedValue";
-        return isLimits ? formOf(outline_.stringOf(outline_.find(typedValue, "typeid"))) : nullptr;
+        return isLimits ? Language::findFormOfBase(outline_.stringOf(outline_.find(typedValue, "typeid"))) : nullptr;
     }
 
     void offerValues() {
@@ -265,8 +265,7 @@ private:
             }
         }
         std::vector<const Language::Definition*> definitions;
-        for (const Language::Definition& each :
-             form == nullptr ? std::span<const Language::Definition>() : definitionsOf(*form, nameOf(table))) {
+        for (const Language::Definition& each : Language::definitionsOf(form, nameOf(table))) {
             if (!there.contains(std::string(each.id))) {
                 definitions.push_back(&each);
             }

@@ -59,7 +59,7 @@ std::string meaningAt(const SchemaText& schema, std::size_t node) {
     const Outline& outline = schema.outline();
     const std::size_t parent = schema[node].parent;
     if (parent != Outline::none && schema[parent].parent == outline.root() && outline.nameOf(parent) == "inherits") {
-        const Language::Form* const form = formOf(outline.stringOf(node));
+        const Language::Form* const form = Language::findFormOfBase(outline.stringOf(node));
         return form == nullptr ? std::string() : fmt::format("**{}**\n\n{}", form->label, form->meaning);
     }
     const bool isId = outline.nameOf(node) == "id" && schema[node].type == Outline::Type::string;

@@ -2,20 +2,6 @@
 
 namespace Tool::Lsp {
 
-const Language::Form* formOf(std::string_view base) {
-    for (const Language::Form& form : Language::forms()) {
-        const std::string_view prefix = Language::prefixOf(form.base);
-        if (prefix == form.base ? base == prefix : base.find(prefix) != base.npos) {
-            return &form;
-        }
-    }
-    return nullptr;
-}
-
-std::span<const Language::Definition> definitionsOf(const Language::Form& form, std::string_view table) {
-    return table == "constants" ? form.constants : form.properties;
-}
-
 std::string SchemaText::base() const {
     const std::size_t bases = outline_.find(outline_.root(), "inherits");
     return bases == Outline::none || outline_[bases].children.empty()
@@ -23,7 +9,7 @@ std::string SchemaText::base() const {
                : outline_.stringOf(outline_[bases].children.front());
 }
 
-const Language::Form* SchemaText::form() const { return formOf(base()); }
+const Language::Form* SchemaText::form() const { return Language::findFormOfBase(base()); }
 
 std::size_t SchemaText::tableOf(std::size_t node) const {
     while (node != Outline::none && node != outline_.root()) {
@@ -55,7 +41,7 @@ const Language::Definition* SchemaText::meaningOf(std::size_t node) const {
         return nullptr;
     }
     const std::string id = outline_.stringOf(outline_.find(definition, "id"));
-    for (const Language::Definition& each : definitionsOf(*known, outline_.nameOf(tableOf(node)))) {
+    for (const Language::Definition& each : Language::definitionsOf(known, outline_.nameOf(tableOf(node)))) {
         if (each.id == id || each.id.empty()) { // a choice has any
             return &each;
         }

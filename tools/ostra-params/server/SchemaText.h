@@ -47,12 +47,6 @@ private:
     Outline outline_;
 };
 
-/// Returns the form of what inherits a base in whatever minor version; nullptr if there is none.
-const Language::Form* formOf(std::string_view base);
-
-/// Returns the definitions that a form has in a table, "constants" or "properties".
-std::span<const Language::Definition> definitionsOf(const Language::Form& form, std::string_view table);
-
 /// Returns the schema around an offset in a file; nothing when there is none.
 std::optional<SchemaText> schemaAt(const File& file, std::size_t offset);
 
