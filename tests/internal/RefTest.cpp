@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <string>
 #include <thread>
 #include <type_traits>
 #include <utility>
@@ -106,6 +107,22 @@ TEST(Ref, IsCountedInSeveralThreads) {
         EXPECT_EQ(Counted::alive, 1);
     }
     EXPECT_EQ(Counted::alive, 0);
+}
+
+// The thread sanitizer sees when one thread frees what another may still read.
+TEST(Ref, IsLetGoByTheLastThreadThatReadIt) {
+    for (int round = 0; round < 100; ++round) {
+        std::vector<std::thread> threads;
+        for (auto shared = makeRef(std::string("until both are through")); threads.size() < 2;) {
+            threads.emplace_back([own = shared]() mutable {
+                EXPECT_EQ(*own, "until both are through");
+                own = {};
+            });
+        }
+        for (std::thread& thread : threads) {
+            thread.join();
+        }
+    }
 }
 
 } // namespace

@@ -215,4 +215,21 @@ TEST(Texts, AreCopiedAndDroppedInSeveralThreads) {
     EXPECT_EQ(stringsOf(texts), (Strings{"shared", "by all"}));
 }
 
+// The thread sanitizer sees when one thread frees what another may still read.
+TEST(Texts, AreFreedByTheLastThreadThatReadThem) {
+    for (int round = 0; round < 100; ++round) {
+        std::vector<std::thread> threads;
+        threads.reserve(2);
+        for (Texts texts{"shared", "until both are through"}; threads.size() < 2;) {
+            threads.emplace_back([own = texts]() mutable {
+                EXPECT_EQ(own[0], "shared");
+                own = Texts();
+            });
+        }
+        for (std::thread& thread : threads) {
+            thread.join();
+        }
+    }
+}
+
 } // namespace

@@ -1,10 +1,13 @@
 #include "schema/Hash.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
+#include <iostream>
 #include <set>
 #include <string>
 #include <string_view>
@@ -87,5 +90,21 @@ TEST(Hash, SpreadsTypeIdsOfTwoBytes) {
     EXPECT_LE(mostInOnePlace(typeIds, 0), 20U);
     EXPECT_LE(mostInOnePlace(typeIds, 16), 20U);
 }
+
+#if defined(GTEST_HAS_DEATH_TEST) && !defined(OSTRA_EMULATED) // where a program can start itself again
+
+TEST(Hash, IsAnotherInEachProcess) {
+    const auto tell = [] {
+        std::cerr << hashOf("text");
+        std::exit(0);
+    };
+    const std::string style = GTEST_FLAG_GET(death_test_style);
+    GTEST_FLAG_SET(death_test_style, "threadsafe"); // which starts the program anew
+    EXPECT_EXIT(tell(), testing::ExitedWithCode(0),
+                testing::AllOf(testing::ContainsRegex("[0-9]+"), testing::Not(std::to_string(hashOf("text")))));
+    GTEST_FLAG_SET(death_test_style, style);
+}
+
+#endif
 
 } // namespace
