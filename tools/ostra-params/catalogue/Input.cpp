@@ -1,6 +1,7 @@
 #include "catalogue/Input.h"
 
 #include "catalogue/FileBuffer.h"
+#include "catalogue/FileNames.h"
 #include "output/Json.h"
 #include "output/Text.h"
 #include "system/System.h"
@@ -15,7 +16,6 @@
 #include <cstdio>
 #include <istream>
 #include <iterator>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <system_error>
@@ -34,39 +34,6 @@ namespace fs = std::filesystem;
 }
 
 std::error_code lastError() { return {errno, std::generic_category()}; }
-
-bool holdsLines(const fs::path& file) {
-    const std::string extension = lower(System::textOf(file.extension()));
-    return extension == ".ndjson" || extension == ".jsonl";
-}
-
-bool isSchemaFile(const fs::path& file) {
-    return lower(System::textOf(file.extension())) == ".json" || holdsLines(file);
-}
-
-/// Returns the path of the file of which that of this path is a copy, by its name; empty when it does not look like
-/// one.
-std::string originalOf(const std::string& path) {
-    static const std::regex copy(R"((.*/)?(copy of )?(.*?)( \((copy|\d+)\)| - copy( \(\d+\))?| copy( \d+)?)"
-                                 R"(|[._-](bak|backup|orig|old|copy))?(\.[^.]*))",
-                                 std::regex::icase);
-    constexpr std::size_t longest = 1000; // it takes stack for each character
-    const std::string name = lower(System::textOf(System::pathOf(path).filename()));
-    constexpr std::array signs{"copy", "bak", "back", "orig", "old", " ("};
-    const auto isIn = [&](const char* sign) { return name.find(sign) != std::string::npos; };
-    const bool isCopy = path.size() <= longest && std::any_of(signs.begin(), signs.end(), isIn);
-    std::smatch parts;
-    return isCopy && std::regex_match(path, parts, copy) ? parts.str(1) + parts.str(3) + parts.str(9) : std::string();
-}
-
-/// Puts copies behind all other files, so that a text that stands in both is faulty in the copy.
-void putCopiesLast(std::deque<std::string>& files) {
-    const std::unordered_set<std::string> known(files.begin(), files.end());
-    std::stable_partition(files.begin(), files.end(), [&](const std::string& file) {
-        const std::string original = originalOf(file);
-        return original == file || !known.contains(original);
-    });
-}
 
 /// Leaves out files that were there before, under another name perhaps.
 class Once {
@@ -123,7 +90,7 @@ void Search::find(const std::string& name) {
     }
     if (fs::is_directory(status)) {
         findBelow(path);
-    } else if (name == standardInput || isSchemaFile(path)) {
+    } else if (name == standardInput || isSchemaFile(name)) {
         files_.push_back(System::textOf(path));
     } else {
         throw InputError(fmt::format("{} is neither a folder nor a .json or .ndjson file.", printable(name)));
@@ -147,7 +114,7 @@ void Search::findBelow(const fs::path& top) {
             }
             if (isFolder) {
                 folders.push_back(path);
-            } else if (isSchemaFile(path)) {
+            } else if (isSchemaFile(System::textOf(path))) {
                 found.push_back(System::textOf(path));
             }
         }
@@ -158,12 +125,7 @@ void Search::findBelow(const fs::path& top) {
     if (found.empty()) {
         throw InputError(fmt::format("No .json or .ndjson file in {}.", printable(System::textOf(top))));
     }
-    std::sort(found.begin(), found.end(), [](const std::string& one, const std::string& other) {
-        // As paths are compared, name by name, at a fraction of the cost.
-        const auto rank = [](char byte) { return byte == '/' ? 0 : 1 + static_cast<unsigned char>(byte); };
-        return std::lexicographical_compare(one.begin(), one.end(), other.begin(), other.end(),
-                                            [&](char left, char right) { return rank(left) < rank(right); });
-    });
+    std::sort(found.begin(), found.end(), isNameBefore);
     std::move(found.begin(), found.end(), std::back_inserter(files_));
 }
 
@@ -236,8 +198,6 @@ bool isOfLines(const std::string& text) {
 
 } // namespace
 
-bool holdsLines(const std::string& file) { return holdsLines(System::pathOf(file)); }
-
 std::string bytesOf(const std::string& file) {
     errno = 0;
     const System::File opened = System::open(System::pathOf(file));
@@ -288,7 +248,7 @@ void Input::read(const std::string& file) {
     const System::File opened = System::open(path);
     FileBuffer buffer(opened.get());
     std::istream stream(&buffer);
-    if (opened && holdsLines(path)) {
+    if (opened && holdsLines(file)) {
         readLines(stream, file);
     } else if (opened) {
         std::string text = readAll(stream);
