@@ -1,5 +1,6 @@
 #include "system/System.h"
 
+#include <fcntl.h>
 #include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -29,6 +30,20 @@ mode_t permissionsOf(const fs::path& file) {
     const mode_t mask = ::umask(0);
     ::umask(mask);
     return 0666U & ~mask;
+}
+
+/// Runs a program to its end and returns its exit code; nothing if it could not be started, or was ended.
+std::optional<int> start(const std::string& program, const std::vector<std::string>& arguments,
+                         const ::posix_spawn_file_actions_t* actions) {
+    std::vector<std::string> words{program};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<char*> pointers(words.size() + 1); // the last one null
+    std::transform(words.begin(), words.end(), pointers.begin(), [](std::string& word) { return word.data(); });
+    pid_t process = 0;
+    int status = 0;
+    const bool isEnded = ::posix_spawnp(&process, pointers.front(), actions, nullptr, pointers.data(), environ) == 0 &&
+                         ::waitpid(process, &status, 0) == process && WIFEXITED(status);
+    return isEnded ? std::optional(WEXITSTATUS(status)) : std::nullopt;
 }
 
 } // namespace
@@ -71,14 +86,22 @@ fs::path makeFolderBeside(const fs::path& target) {
 }
 
 bool run(const std::string& program, const std::vector<std::string>& arguments) {
-    std::vector<std::string> words{program};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<char*> pointers(words.size() + 1); // the last one null
-    std::transform(words.begin(), words.end(), pointers.begin(), [](std::string& word) { return word.data(); });
-    pid_t process = 0;
-    int status = 0;
-    return ::posix_spawnp(&process, pointers.front(), nullptr, nullptr, pointers.data(), environ) == 0 &&
-           ::waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    return start(program, arguments, nullptr) == 0;
+}
+
+std::optional<int> run(const std::string& program, const std::vector<std::string>& arguments, const Streams& streams) {
+    ::posix_spawn_file_actions_t actions{};
+    if (::posix_spawn_file_actions_init(&actions) != 0) {
+        return std::nullopt;
+    }
+    const auto open = [&](int stream, const fs::path& file, int flags) {
+        return ::posix_spawn_file_actions_addopen(&actions, stream, file.c_str(), flags, 0) == 0;
+    };
+    const bool areOpen = open(STDIN_FILENO, streams.input, O_RDONLY) && open(STDOUT_FILENO, streams.output, O_WRONLY) &&
+                         open(STDERR_FILENO, streams.errors, O_WRONLY);
+    const std::optional<int> exitCode = areOpen ? start(program, arguments, &actions) : std::nullopt;
+    ::posix_spawn_file_actions_destroy(&actions);
+    return exitCode;
 }
 
 } // namespace Tool::System

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -49,5 +50,16 @@ std::filesystem::path makeFolderBeside(const std::filesystem::path& target);
 /// Runs a program that is found where the system looks for programs, with these arguments behind its name, and returns
 /// whether it came to a good end.
 bool run(const std::string& program, const std::vector<std::string>& arguments);
+
+/// The files that a program has for its standard streams.
+struct Streams {
+    std::filesystem::path input;
+    std::filesystem::path output;
+    std::filesystem::path errors;
+};
+
+/// Runs a program likewise, with its streams in files that are there, and returns its exit code; nothing if there is no
+/// such program, or it was ended.
+std::optional<int> run(const std::string& program, const std::vector<std::string>& arguments, const Streams& streams);
 
 } // namespace Tool::System

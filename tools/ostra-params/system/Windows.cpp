@@ -85,6 +85,41 @@ std::wstring findProgram(const std::wstring& name) {
     return file;
 }
 
+/// Runs a program to its end and returns its exit code; nothing if it could not be started.
+std::optional<int> start(const std::string& program, const std::vector<std::string>& arguments, STARTUPINFOW& startup) {
+    const std::wstring file = findProgram(wide(program));
+    std::wstring commandLine = asWord(file);
+    for (const std::string& argument : arguments) {
+        commandLine += L" " + asWord(wide(argument));
+    }
+    PROCESS_INFORMATION process{};
+    if (file.empty() || ::CreateProcessW(file.c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                                         &startup, &process) == 0) {
+        return std::nullopt;
+    }
+    DWORD exitCode = 1;
+    ::WaitForSingleObject(process.hProcess, INFINITE);
+    ::GetExitCodeProcess(process.hProcess, &exitCode);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    return static_cast<int>(exitCode);
+}
+
+struct CloseHandleOf {
+    void operator()(void* handle) const { ::CloseHandle(handle); }
+};
+
+/// A handle that is open; none if it could not be opened.
+using Handle = std::unique_ptr<void, CloseHandleOf>;
+
+/// Opens a file so that a program that is started has it.
+Handle openForChild(const fs::path& path, DWORD access) {
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    const HANDLE file = ::CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited,
+                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return Handle(file == INVALID_HANDLE_VALUE ? nullptr : file);
+}
+
 } // namespace
 
 std::vector<std::string> begin(int, const char* const*) {
@@ -136,24 +171,25 @@ fs::path makeFolderBeside(const fs::path& target) {
 }
 
 bool run(const std::string& program, const std::vector<std::string>& arguments) {
-    const std::wstring file = findProgram(wide(program));
-    std::wstring commandLine = asWord(file);
-    for (const std::string& argument : arguments) {
-        commandLine += L" " + asWord(wide(argument));
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    return start(program, arguments, startup) == 0;
+}
+
+std::optional<int> run(const std::string& program, const std::vector<std::string>& arguments, const Streams& streams) {
+    const Handle input = openForChild(streams.input, GENERIC_READ);
+    const Handle output = openForChild(streams.output, GENERIC_WRITE);
+    const Handle errors = openForChild(streams.errors, GENERIC_WRITE);
+    if (!input || !output || !errors) {
+        return std::nullopt;
     }
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
-    PROCESS_INFORMATION process{};
-    if (file.empty() || ::CreateProcessW(file.c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                                         &startup, &process) == 0) {
-        return false;
-    }
-    DWORD exitCode = 1;
-    ::WaitForSingleObject(process.hProcess, INFINITE);
-    ::GetExitCodeProcess(process.hProcess, &exitCode);
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
-    return exitCode == 0;
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdInput = input.get();
+    startup.hStdOutput = output.get();
+    startup.hStdError = errors.get();
+    return start(program, arguments, startup);
 }
 
 } // namespace Tool::System
