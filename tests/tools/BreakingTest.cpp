@@ -6,10 +6,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
-#include <regex>
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -18,12 +19,14 @@ namespace {
 using Tool::Catalogue;
 using namespace Tool::Compare;
 
-/// A catalogue with an object of each kind, one a line. Lines begin with the typeid, so that rows can find them.
+/// A catalogue with an object of each kind and a faulty one, one a line. Lines begin with the typeid, so that rows can
+/// find them.
 const std::string original =
     R"({"typeid":"u.m-1.0.0","inherits":["norvex.unit:unit-1.0.0"],"constants":[{"id":"name","value":"Metre"},{"id":"symbol","value":"m"}]}
 {"typeid":"u.ft-1.0.0","inherits":["norvex.unit:unit-1.0.0"],"constants":[{"id":"name","value":"Foot"},{"id":"symbol","value":"ft"}]}
 {"typeid":"d-1.0.0","inherits":["norvex.spec:discipline-1.0.0"],"constants":[{"id":"name","value":"Hydraulics"}]}
 {"typeid":"g-1.0.0","inherits":["norvex.parameter:group-1.0.0"],"constants":[{"id":"name","value":"Operation"}]}
+{"typeid":"bad-1.0.0","inherits":["norvex.parameter:group-1.0.0"],"constants":[{"id":"name","value":5}]}
 {"typeid":"dom-1.0.0","inherits":["norvex.talmo.category:domain-1.0.0"],"constants":[{"id":"name","value":"Station"}]}
 {"typeid":"dom2-1.0.0","inherits":["norvex.talmo.category:domain-1.0.0"],"constants":[{"id":"name","value":"Network"}]}
 {"typeid":"c-1.0.0","inherits":["norvex.talmo.category:majorCategory-1.0.0"],"constants":[{"id":"name","value":"Pumps"},{"id":"domain","typedValue":{"typeid":"dom-1.0.0"}},{"id":"disciplines","typedValue":[{"typeid":"d-1.0.0"}]}]}
@@ -50,7 +53,7 @@ const std::string original =
 {"typeid":"pr-1.0.0","inherits":["norvex.parameter:parameter.reference-2.0.0"],"constants":[{"id":"name","value":"Standby Pump"},{"id":"spec","typedValue":{"typeid":"rs-1.0.0"}}]}
 {"typeid":"pf-1.0.0","inherits":["norvex.parameter:parameter.reference-2.0.0"],"constants":[{"id":"name","value":"Pump Model"},{"id":"spec","typedValue":{"typeid":"norvex.talmo.spec:familyType-1.0.0","typedValue":{"category":{"typeid":"c-1.0.0"}}}}]}
 {"typeid":"ps-1.0.0","inherits":["norvex.parameter:parameter.string-3.0.0"],"constants":[{"id":"name","value":"Shaft Seal"},{"id":"range","typedValue":{"typeid":"set-1.0.0"}}]}
-{"typeid":"pt-1.0.0","inherits":["norvex.parameter:parameter.string-3.0.0"],"constants":[{"id":"name","value":"Tag"},{"id":"description","value":"What it is called."},{"id":"sampleText","value":"P-1"},{"id":"range","typedValue":{"typeid":"norvex.range:range.string.regex-1.0.0","value":{"regex":"P.*"}}}]}
+{"typeid":"pt-1.0.0","inherits":["norvex.parameter:parameter.string-3.0.0"],"constants":[{"id":"name","value":"Tag"},{"id":"description","value":"What it is called."},{"id":"sampleText","value":"P-1"},{"id":"readOnly","value":true},{"id":"range","typedValue":{"typeid":"norvex.range:range.string.regex-1.0.0","value":{"regex":"P.*"}}}]}
 )";
 
 /// A part of the line of a typeid that becomes another, at its first place; no part is the whole line.
@@ -150,6 +153,7 @@ const std::vector<Row> rows{
      {{"pb-1.0.0", "pb-1.0.0", "bypass-1.0.0"}, {"bypass-1.0.0", "Bypass", "By-pass"}},
      {"object-removed pb-1.0.0", "object-added bypass-1.0.0"}},
     {"ObjectBroken", {{"pb-1.0.0", "\"Bypass\"", "5"}}, {"object-broken pb-1.0.0"}},
+    {"ObjectMended", {{"bad-1.0.0", "5", "\"Bad\""}}, {"object-mended bad-1.0.0"}},
     {"KindChanged",
      {{"pb-1.0.0", "parameter.bool-2.0.0", "parameter.int64-3.0.0"}, {"pb-1.0.0", "bs-1.0.0", "is-1.0.0"}},
      {"kind-changed pb-1.0.0 inherits"}},
@@ -178,6 +182,7 @@ const std::vector<Row> rows{
     {"ReadOnlyOn",
      {{"pb-1.0.0", R"({"id":"spec")", R"({"id":"readOnly","value":true},{"id":"spec")"}},
      {"read-only-on pb-1.0.0 readOnly"}},
+    {"ReadOnlyOff", {{"pt-1.0.0", "true", "false"}}, {"read-only-off pt-1.0.0 readOnly"}},
     {"Group",
      {{"pb-1.0.0", R"({"id":"group","typedValue":{"typeid":"g-1.0.0"}},)", ""}},
      {"group-changed pb-1.0.0 group"}},
@@ -302,6 +307,49 @@ const std::vector<Row> rows{
     {"NameOfAUnit", {{"u.m-1.0.0", "Metre", "Meter"}}, {"name-changed u.m-1.0.0 name"}},
     {"NameOfAGroup", {{"g-1.0.0", "Operation", "Running"}}, {"name-changed g-1.0.0 name"}},
 };
+
+/// Returns the table of the rules as the page has to show it.
+std::string tableOfRules() {
+    std::string table = "| Code | Severity | What changed | Why |\n|---|---|---|---|\n";
+    for (const BreakingRule& rule : breakingRules()) {
+        for (const std::string_view part : {"| `", rule.code.data(), "` | ", wordOf(rule.severity).data(), " | ",
+                                            rule.what.data(), " | ", rule.why.data(), " |\n"}) {
+            table += part;
+        }
+    }
+    return table;
+}
+
+TEST(BreakingRules, AreInThePageAsTheyAre) {
+    EXPECT_THAT(contentOf(OSTRA_SOURCE_DIR "/docs/breaking-changes.md"), testing::HasSubstr(tableOfRules() + "\n"));
+}
+
+TEST(BreakingRules, HaveACodeEach) {
+    std::set<std::string_view> codes;
+    for (const BreakingRule& rule : breakingRules()) {
+        EXPECT_TRUE(codes.insert(rule.code).second) << rule.code;
+    }
+}
+
+/// No rule is there that nothing can break: each stands in the rows, but for that of what no rule knows.
+TEST(BreakingRules, AreAllShownByARow) {
+    std::set<std::string> unseen;
+    for (const BreakingRule& rule : breakingRules()) {
+        unseen.emplace(rule.code);
+    }
+    for (const Row& row : rows) {
+        for (const std::string& verdict : row.verdicts) {
+            unseen.erase(verdict.substr(0, verdict.find(' ')));
+        }
+    }
+    EXPECT_THAT(unseen, testing::ElementsAre("constant-changed"));
+    const Tool::Compare::ConstantChange unknown{"colour"};
+    const Change change{Fate::changed, nullptr, nullptr};
+    const auto rule = std::find_if(breakingRules().begin(), breakingRules().end(), [&](const BreakingRule& each) {
+        return each.applies({&change, &unknown});
+    });
+    EXPECT_EQ(rule->code, "constant-changed");
+}
 
 INSTANTIATE_TEST_SUITE_P(FiftyWays, ChangedCatalogue, testing::ValuesIn(rows), Support::nameOfRow);
 

@@ -2,8 +2,6 @@
 
 #include "catalogue/Input.h"
 #include "catalogue/Sections.h"
-#include "faults/Rules.h"
-#include "output/Json.h"
 #include "output/Text.h"
 #include "system/System.h"
 
@@ -64,27 +62,15 @@ std::string commandOf(const Finding& finding, const std::string& rest) {
                        escaped(finding.code, true), escaped(text, false));
 }
 
-Json asJson(const Place& place) {
-    Json json{{"file", nameOf(*place.file)}};
-    if (place.line != 0) {
-        json.update({{"line", place.line},
-                     {"column", place.column},
-                     {"endLine", place.endLine},
-                     {"endColumn", place.endColumn},
-                     {"pointer", place.pointer}});
-    }
-    return json;
-}
-
 Json asJson(const Finding& finding) {
     Json json{{"code", finding.code},
               {"severity", finding.isError ? "error" : "warning"},
               {"message", finding.message},
               {"typeid", finding.typeId}};
-    json.update(asJson(finding.place));
+    json.update(placeAsJson(finding.place));
     json.update({{"name", finding.name}, {"expected", finding.expected}, {"nearest", finding.nearest}});
-    json["other"] = finding.other ? asJson(*finding.other) : Json();
-    json["root"] = finding.root ? asJson(*finding.root) : Json();
+    json["other"] = finding.other ? placeAsJson(*finding.other) : Json();
+    json["root"] = finding.root ? placeAsJson(*finding.root) : Json();
     json["hint"] = finding.hint;
     return json;
 }
@@ -182,12 +168,12 @@ std::string checkAsJson(Loader& catalogue, const std::vector<Finding>& findings)
                    {"objects", std::move(objects)}});
 }
 
-std::string findingsAsSarif(const std::vector<Finding>& findings) {
-    Json table = Json::array();
+std::string findingsAsSarif(const std::vector<Finding>& findings, std::span<const Rule> table) {
+    Json rulesOfLog = Json::array();
     std::unordered_map<std::string_view, std::size_t> indices;
-    for (const Rule& rule : rules()) {
-        indices.emplace(rule.code, table.size());
-        table.push_back(asJson(rule));
+    for (const Rule& rule : table) {
+        indices.emplace(rule.code, rulesOfLog.size());
+        rulesOfLog.push_back(asJson(rule));
     }
     Json results = Json::array();
     std::map<std::string, int> seen;
@@ -205,11 +191,24 @@ std::string findingsAsSarif(const std::vector<Finding>& findings) {
         result["partialFingerprints"]["ostraFault/v1"] = fingerprintOf(finding, seen);
         results.push_back(std::move(result));
     }
-    const Json driver{{"name", "ostra-params"}, {"version", OSTRA_PARAMETERS_VERSION}, {"rules", std::move(table)}};
+    const Json driver{
+        {"name", "ostra-params"}, {"version", OSTRA_PARAMETERS_VERSION}, {"rules", std::move(rulesOfLog)}};
     Json run{{"tool", {{"driver", driver}}}, {"columnKind", "unicodeCodePoints"}, {"results", std::move(results)}};
     return toText({{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
                    {"version", "2.1.0"},
                    {"runs", Json::array({std::move(run)})}});
+}
+
+Json placeAsJson(const Place& place) {
+    Json json{{"file", nameOf(*place.file)}};
+    if (place.line != 0) {
+        json.update({{"line", place.line},
+                     {"column", place.column},
+                     {"endLine", place.endLine},
+                     {"endColumn", place.endColumn},
+                     {"pointer", place.pointer}});
+    }
+    return json;
 }
 
 } // namespace Tool

@@ -2,7 +2,10 @@
 
 #include "catalogue/Loader.h"
 #include "faults/Finding.h"
+#include "faults/Rules.h"
+#include "output/Json.h"
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -22,7 +25,10 @@ std::string summaryAsText(Loader& catalogue, const std::vector<Finding>& finding
 std::string checkAsJson(Loader& catalogue, const std::vector<Finding>& findings);
 
 /// Returns the findings as a log in the Static Analysis Results Interchange Format 2.1.0, which code hosts show in
-/// place.
-std::string findingsAsSarif(const std::vector<Finding>& findings);
+/// place, with the rules by which they were found.
+std::string findingsAsSarif(const std::vector<Finding>& findings, std::span<const Rule> table = rules());
+
+/// Returns a place of a file as members of a JSON object.
+Json placeAsJson(const Place& place);
 
 } // namespace Tool

@@ -1,16 +1,17 @@
 #include "catalogue/Catalogue.h"
 #include "catalogue/Input.h"
-#include "output/Json.h"
+#include "catalogue/Revision.h"
+#include "compare/Breaking.h"
+#include "compare/Comparison.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
+#include "verbs/CheckFormats.h"
+#include "verbs/DiffFormats.h"
 #include "verbs/Verb.h"
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include <algorithm>
-#include <iterator>
-#include <map>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -23,131 +24,119 @@ namespace {
 struct Options {
     std::string oldPath;
     std::string newPath;
+    std::vector<std::string> paths; ///< What comes behind these two.
+    std::string revision;
+    std::string format = "text";
+    Compare::Accepted accepted;
     bool isJson = false;
+    bool isBreaking = false;
+    bool isAll = false;
+    bool isStrict = false;
 };
 
-constexpr const char* details = R"(Lists what was added (+), removed (-) and changed (~), by object and by property.
-Objects are told apart by their typeids.
+constexpr const char* details = R"(Lists what was added (+), removed (-), succeeded by a greater version (^),
+renamed (=) and changed (~), by object and by property, and which schemas
+became faulty (!) or sound (*). Objects are known by their typeids. What is
+faulty is left out on both sides and told on standard error.
+
+With --breaking, tells what breaks documents and applications, and why.
 
 Exit codes:
-  0  the catalogues are equal
-  1  they differ
-  2  one of them cannot be read, or has faults)";
+  0  the catalogues are equal; with --breaking, nothing breaks but what is
+     accepted
+  1  they differ; with --breaking, something breaks
+  2  one of them cannot be read, or has faults and --strict is given)";
 
-/// A property with its values on both sides; those of one that is not there are none.
-struct PropertyChange {
-    std::string_view name;
-    std::vector<std::string> before = {};
-    std::vector<std::string> after = {};
-};
-
-struct Change {
-    char sign;
-    const Object* object; ///< As it is now, or was.
-    std::vector<PropertyChange> properties = {};
-};
-
-/// What the signs of changes stand for.
-const std::map<char, const char*> words{{'+', "added"}, {'-', "removed"}, {'~', "changed"}};
-
-/// Adds what an object says, its kind and name among it, to one side. What other objects say changes there, not here.
-void addSide(std::vector<PropertyChange>& changes, std::vector<std::string> PropertyChange::*side,
-             const Object& object) {
-    const auto valuesOf = [&](std::string_view name) -> std::vector<std::string>& {
-        const auto found = std::find_if(changes.begin(), changes.end(),
-                                        [&](const PropertyChange& change) { return change.name == name; });
-        return (found == changes.end() ? changes.emplace_back(PropertyChange{name}) : *found).*side;
-    };
-    valuesOf("kind") = {std::string(object.section->label)};
-    valuesOf("name") = {object.name};
-    for (const Property& property : object.properties) {
-        if (property.isOwn) {
-            std::vector<std::string>& values = valuesOf(property.name);
-            for (const Value& value : property.values) {
-                values.push_back(value.identity());
-            }
-        }
+std::string refuseUnknownCode(const std::string& accepted) {
+    std::vector<std::string_view> known;
+    for (const Compare::BreakingRule& rule : Compare::breakingRules()) {
+        known.push_back(rule.code);
     }
+    const std::string code = accepted.substr(0, accepted.find(':'));
+    return std::find(known.begin(), known.end(), code) == known.end() ? thereIsNo("code", code, known) : std::string();
 }
 
-std::vector<PropertyChange> changesBetween(const Object& before, const Object& after) {
-    std::vector<PropertyChange> changes;
-    addSide(changes, &PropertyChange::after, after);
-    addSide(changes, &PropertyChange::before, before);
-    std::erase_if(changes, [](const PropertyChange& change) { return change.before == change.after; });
-    return changes;
+/// Prints the faults of one side, of a revision under its name; returns whether there are any.
+bool printFaultsOf(const Catalogue& catalogue, const std::string& revision) {
+    if (!revision.empty() && catalogue.leftOut() != 0) {
+        printError(fmt::format("ostra-params: {} has faults:\n", printable(revision)));
+    }
+    return printFaults(catalogue);
 }
 
-/// Compares two catalogues, which must outlive the result: what was removed, added and changed, each in the order of
-/// the objects.
-std::vector<Change> compare(const Catalogue& before, const Catalogue& after) {
-    std::vector<Change> changes;
-    for (const Object& object : before.objects()) {
-        if (after.find(object.typeId) == nullptr) {
-            changes.push_back({'-', &object});
-        }
+std::string verdictsAs(const Options& options, const std::vector<Compare::Change>& changes,
+                       const std::vector<Compare::Verdict>& verdicts) {
+    if (options.format == "json" || options.isJson) {
+        return changesAsJson(changes, &verdicts);
     }
-    std::vector<Change> changed;
-    for (const Object& object : after.objects()) {
-        const Object* old = before.find(object.typeId);
-        if (old == nullptr) {
-            changes.push_back({'+', &object});
-        } else if (auto properties = changesBetween(*old, object); !properties.empty()) {
-            changed.push_back({'~', &object, std::move(properties)});
-        }
+    if (options.format == "github") {
+        return findingsAsCommands(findingsOf(verdicts), true);
     }
-    std::move(changed.begin(), changed.end(), std::back_inserter(changes));
-    return changes;
+    if (options.format == "sarif") {
+        std::vector<Rule> rules;
+        for (const Compare::BreakingRule& rule : Compare::breakingRules()) {
+            rules.push_back({rule.code, rule.what, rule.why, wordOf(rule.severity)});
+        }
+        return findingsAsSarif(findingsOf(verdicts), rules);
+    }
+    return verdictsAsText(verdicts, options.isAll);
 }
 
-std::string textOf(const std::vector<std::string>& values) {
-    std::string text;
-    for (const std::string& value : values) {
-        text += (text.empty() ? "" : ", ") + value;
+ExitCode diff(const Options& options, const Catalogue& before, const Catalogue& after) {
+    const bool isOldFaulty = printFaultsOf(before, options.revision);
+    if ((printFaultsOf(after, "") || isOldFaulty) && options.isStrict) {
+        return Unusable;
     }
-    return values.empty() ? "none" : text;
-}
-
-std::string asText(const std::vector<Change>& changes) {
-    std::string text;
-    for (const auto& [sign, object, properties] : changes) {
-        text += fmt::format("{} {}  {}{}\n", sign, printable(object->typeId), object->section->label,
-                            object->name.empty() ? "" : "  " + printable(object->name));
-        for (const auto& [name, before, after] : properties) {
-            text += fmt::format("    {}: {} -> {}\n", name, printable(textOf(before)), printable(textOf(after)));
-        }
+    const std::vector<Compare::Change> changes = Compare::compare(before, after);
+    if (options.isBreaking) {
+        const std::vector<Compare::Verdict> verdicts = Compare::judge(changes, before, after, options.accepted);
+        print(verdictsAs(options, changes, verdicts));
+        return std::any_of(verdicts.begin(), verdicts.end(), std::mem_fn(&Compare::Verdict::isBreaking)) ? Bad : Good;
     }
-    const auto count = [&](char sign) {
-        return std::count_if(changes.begin(), changes.end(), [&](const Change& change) { return change.sign == sign; });
-    };
-    return text + fmt::format("{} added, {} removed, {} changed\n", count('+'), count('-'), count('~'));
-}
-
-std::string asJson(const std::vector<Change>& changes) {
-    Json json{{"added", Json::array()}, {"removed", Json::array()}, {"changed", Json::array()}};
-    for (const auto& [sign, object, properties] : changes) {
-        Json entry{{"typeid", object->typeId}, {"kind", object->section->id}, {"name", object->name}};
-        for (const auto& [name, before, after] : properties) {
-            entry["properties"].push_back({{"name", name}, {"before", textOf(before)}, {"after", textOf(after)}});
-        }
-        json[words.at(sign)].push_back(std::move(entry));
-    }
-    return toText(json);
+    print(options.isJson || options.format == "json" ? changesAsJson(changes) : changesAsText(changes));
+    return changes.empty() ? Good : Bad;
 }
 
 ExitCode diff(const Options& options) {
+    if (!options.revision.empty()) {
+        std::vector<std::string> paths = options.paths;
+        for (const std::string* path : {&options.newPath, &options.oldPath}) {
+            if (!path->empty()) {
+                paths.insert(paths.begin(), *path);
+            }
+        }
+        if (paths.empty()) {
+            paths.emplace_back(".");
+        }
+        const Catalogue after(paths);
+        return diff(options, Catalogue(filesOfRevision(options.revision, paths)), after);
+    }
     if (options.oldPath == standardInput && options.newPath == standardInput) {
         throw InputError("Standard input can be only one of the two catalogues.");
     }
     const Catalogue before({options.oldPath});
-    const Catalogue after({options.newPath});
-    const bool isOldFaulty = printFaults(before);
-    if (printFaults(after) || isOldFaulty) { // what is left out as faulty would seem to be removed
-        return Unusable;
+    return diff(options, before, Catalogue({options.newPath}));
+}
+
+/// Refuses what does not go together: two catalogues there must be, unless one is a revision.
+void mustFit(const Options& options) {
+    if (options.revision.empty() && options.oldPath.empty()) {
+        throw CLI::RequiredError("OLD");
     }
-    const std::vector<Change> changes = compare(before, after);
-    print(options.isJson ? asJson(changes) : asText(changes));
-    return changes.empty() ? Good : Bad;
+    if (options.revision.empty() && options.newPath.empty()) {
+        throw CLI::RequiredError("NEW");
+    }
+    if (options.revision.empty() && !options.paths.empty()) {
+        throw CLI::ExtrasError(options.paths);
+    }
+    for (const auto& [isGiven, name] :
+         {std::pair(options.format == "github" || options.format == "sarif", "--format"),
+          std::pair(!options.accepted.empty(), "--accept"), std::pair(options.isAll, "--all")}) {
+        if (isGiven && !options.isBreaking) {
+            throw CLI::RequiresError(name == std::string_view("--format") ? "--format " + options.format : name,
+                                     "--breaking");
+        }
+    }
 }
 
 } // namespace
@@ -155,10 +144,34 @@ ExitCode diff(const Options& options) {
 Action addDiff(CLI::App& program) {
     const auto options = std::make_shared<Options>();
     CLI::App* verb = program.add_subcommand("diff", "Tell what changed from one catalogue to another");
-    addRequired(*verb, "OLD", options->oldPath, "The one catalogue: a file, a folder, or - for standard input", "");
-    addRequired(*verb, "NEW", options->newPath, "The other one", "");
-    verb->add_flag("--json", options->isJson, "Print a JSON object");
+    const auto addPath = [&](const char* name, auto& value, const char* help) {
+        verb->add_option(name, value, help)->check(refuseEmpty)->type_name("");
+    };
+    addPath("OLD", options->oldPath, "The one catalogue: a file, a folder, or - for standard input");
+    addPath("NEW", options->newPath, "The other one");
+    addPath("PATH", options->paths,
+            "With --against, any number of paths may be given instead;\nthe working folder when none is");
+    verb->add_option("--against", options->revision,
+                     "Compare a revision of the paths with what they are now;\ngit is asked for it")
+        ->check(refuseEmpty)
+        ->type_name("REV");
+    verb->add_flag("--breaking", options->isBreaking, "Tell whom the changes break, and fail if they do");
+    verb->add_option("--accept", options->accepted,
+                     "Let this break, everywhere or in the one object\nCODE:TYPEID; may be repeated")
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->check(CLI::Validator(refuseUnknownCode, ""))
+        ->type_name("RULE");
+    verb->add_flag("--all", options->isAll, "Show what is safe or accepted, too");
+    verb->add_option("--format", options->format,
+                     "text (which is the default), json; with --breaking, sarif\nfor code hosts, or github for the log "
+                     "of a workflow")
+        ->check(CLI::IsMember({"text", "json", "sarif", "github"}))
+        ->type_name("FORMAT");
+    verb->add_flag("--json", options->isJson, "Print a JSON object, as --format json does");
+    verb->add_flag("--strict", options->isStrict, "Refuse catalogues with faults");
     verb->footer(details);
+    verb->parse_complete_callback([options] { mustFit(*options); });
     return [options] { return diff(*options); };
 }
 
