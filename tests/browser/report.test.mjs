@@ -1,50 +1,10 @@
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
-import { join } from "node:path";
-import { chromium } from "playwright-core";
+import { test } from "node:test";
 import { group, many, page, parameter } from "./catalogues.mjs";
-
-let browser;
-before(async () => {
-  browser = await chromium.launch({ executablePath: process.env.CHROMIUM, args: ["--no-sandbox", "--disable-gpu"] });
-});
-after(() => browser.close());
-
-// Opens a page that must neither complain nor ask the network for anything.
-async function open(address, hash = "", options = {}) {
-  const tab = await browser.newPage({ viewport: { width: 1280, height: 860 }, ...options });
-  tab.complaints = [];
-  tab.on("pageerror", (error) => tab.complaints.push(String(error)));
-  tab.on("console", (message) => message.type() === "error" && tab.complaints.push(message.text()));
-  tab.on("request", (request) => request.url().startsWith("file:") || tab.complaints.push(request.url()));
-  tab.on("dialog", (dialog) => { tab.complaints.push("dialog"); dialog.dismiss(); });
-  await tab.goto(address + hash);
-  return tab;
-}
-async function close(tab) {
-  assert.deepEqual(tab.complaints, []);
-  await tab.close();
-}
-// Waits until the object of that title is shown: the page follows a link a moment after the click.
-async function shows(tab, title) {
-  try {
-    await tab.waitForFunction((text) => document.getElementById("title")?.textContent === text, title, { timeout: 5000 });
-  } catch {
-    assert.equal(await tab.textContent("#title"), title);
-  }
-}
-async function picture(tab, name) {
-  if (process.env.OSTRA_SCREENSHOTS) {
-    await tab.screenshot({ path: join(process.env.OSTRA_SCREENSHOTS, `${name}.png`) });
-  }
-}
-const example = page("example", process.env.OSTRA_EXAMPLES);
-const rows = (tab) => tab.locator("#list [role=option]");
-const at = (typeId) => "#" + encodeURIComponent(typeId);
-const discharge = "hydro.parameter:ratedDischarge-1.0.0";
+import { at, close, discharge, example, open, picture, rows, shows } from "./tab.mjs";
 
 test("opens with what the catalogue holds", async () => {
-  const tab = await open(example);
+  const tab = await open(example());
   assert.match(await tab.textContent("#totals"), /^\d+ objects(, \d+ warnings)?$/);
   assert.match(await tab.textContent("#card"), /What the catalogue holds/);
   assert.ok(await rows(tab).count() > 5);
@@ -53,7 +13,7 @@ test("opens with what the catalogue holds", async () => {
 });
 
 test("finds as one types, in names, typeids and descriptions", async () => {
-  const tab = await open(example);
+  const tab = await open(example());
   for (const words of ["Rated Discharge", "rateddischarge", "turbine at its rated head"]) {
     await tab.fill("#query", words);
     assert.match(await rows(tab).first().textContent(), /Rated Discharge/);
@@ -68,8 +28,8 @@ test("finds as one types, in names, typeids and descriptions", async () => {
 });
 
 test("filters by kind, group and discipline", async () => {
-  const tab = await open(example);
-  await tab.selectOption("#kind", "=measurable parameters");
+  const tab = await open(example());
+  await tab.selectOption("#kind", "=measurable-parameter");
   for (const kind of await tab.locator(".row .kind").allTextContents()) {
     assert.equal(kind, "measurable parameter");
   }
@@ -84,7 +44,7 @@ test("filters by kind, group and discipline", async () => {
 });
 
 test("follows links along dependencies in both directions, and back", async () => {
-  const tab = await open(example, at(discharge));
+  const tab = await open(example(), at(discharge));
   await shows(tab, "Rated Discharge");
   await picture(tab, "object");
   await tab.locator("dd a", { hasText: /^Discharge$/ }).click();
@@ -97,16 +57,16 @@ test("follows links along dependencies in both directions, and back", async () =
 });
 
 test("draws what an object depends on, with links", async () => {
-  const tab = await open(example, at(discharge));
-  const boxes = await tab.locator("svg g text:first-of-type").allTextContents();
+  const tab = await open(example(), at(discharge));
+  const boxes = await tab.locator(".box b").allTextContents();
   assert.ok(boxes.includes("Rated Discharge") && boxes.includes("Operation") && boxes.includes("Discharge"));
-  await tab.locator("svg a", { hasText: "Operation" }).click();
+  await tab.locator("a.box", { hasText: "Operation" }).click();
   await shows(tab, "Operation");
   await close(tab);
 });
 
 test("works by keyboard alone", async () => {
-  const tab = await open(example);
+  const tab = await open(example());
   await tab.keyboard.press("/");
   await tab.keyboard.type("rated");
   await tab.keyboard.press("Enter");
@@ -120,21 +80,23 @@ test("works by keyboard alone", async () => {
   await shows(tab, first);
   await tab.keyboard.press("Enter");
   assert.equal(await tab.evaluate(() => document.activeElement.id), "card");
-  await tab.keyboard.press("Tab");
+  await tab.locator("dd a").first().focus();
   await tab.keyboard.press("Enter");
   await tab.waitForFunction((text) => document.getElementById("title")?.textContent !== text, first);
+  assert.equal(await tab.evaluate(() => document.activeElement.id), "card", "the focus is not lost with the link");
   await tab.keyboard.press("/");
   assert.equal(await tab.evaluate(() => document.activeElement.id), "query");
   await close(tab);
 });
 
 test("has landmarks and names for screen readers", async () => {
-  const tab = await open(example);
-  for (const role of ["banner", "search", "navigation", "main"]) {
+  const tab = await open(example());
+  for (const role of ["banner", "search", "main"]) {
     assert.equal(await tab.getByRole(role).count(), 1, role);
   }
   assert.equal(await tab.getByRole("listbox", { name: "Objects" }).count(), 1);
-  assert.equal(await tab.getByLabel("Kind").count(), 1);
+  assert.equal(await tab.getByRole("navigation", { name: "Objects" }).count(), 1);
+  assert.equal(await tab.getByRole("combobox", { name: "Kind" }).count(), 1);
   const option = rows(tab).first();
   assert.equal(await option.getAttribute("aria-posinset"), "1");
   assert.ok(Number(await option.getAttribute("aria-setsize")) > 50);
@@ -151,7 +113,7 @@ test("shows what a hostile catalogue says and runs none of it", async () => {
   assert.match(await tab.textContent("dl"), /<!-- <script> \u2028 \]\]> &lt;/);
   await tab.fill("#query", "<script>");
   assert.equal(await rows(tab).count(), 2);
-  assert.equal(await tab.locator("main img, main script, nav img, nav script").count(), 0);
+  assert.equal(await tab.locator("main img, main script").count(), 0);
   await tab.locator(".links a").first().click();
   await shows(tab, hostile);
   await picture(tab, "hostile");
@@ -189,7 +151,7 @@ test("keeps no more of 20,000 objects in the page than are in sight", async () =
   assert.equal(await tab.textContent("#count"), "1 of 20,000");
   await rows(tab).first().click();
   await shows(tab, "Parameter 19979");
-  await tab.locator("dd a").first().click();
+  await tab.locator("dd a", { hasText: /^Group/ }).click();
   await tab.locator("#title", { hasText: /^Group/ }).waitFor();
   assert.ok(await tab.locator("#card .links li").count() < 60);
   await tab.getByRole("button", { name: "Show 949 more" }).click();
@@ -197,32 +159,7 @@ test("keeps no more of 20,000 objects in the page than are in sight", async () =
   await tab.click("#clear");
   await tab.locator("#list").focus();
   await tab.keyboard.press("End");
-  await shows(tab, "Parameter 9999");
+  await shows(tab, "Group 9");
   await picture(tab, "many");
-  await close(tab);
-});
-
-test("prints the object shown, then all that was found", async () => {
-  const tab = await open(example, at(discharge));
-  await tab.fill("#query", "rated");
-  await tab.emulateMedia({ media: "print" });
-  await tab.evaluate(() => window.dispatchEvent(new Event("beforeprint")));
-  assert.ok(await tab.isVisible("#title"));
-  assert.ok(await tab.isHidden("nav"));
-  assert.ok(await tab.locator("#print tbody tr").count() > 1);
-  await picture(tab, "print");
-  await tab.evaluate(() => window.dispatchEvent(new Event("afterprint")));
-  assert.equal(await tab.locator("#print tr").count(), 0);
-  await close(tab);
-});
-
-test("is dark where that is preferred, and one column on a small screen", async () => {
-  const tab = await open(example, at(discharge), { colorScheme: "dark" });
-  await picture(tab, "dark");
-  await tab.setViewportSize({ width: 420, height: 900 });
-  assert.ok(await tab.evaluate(() => document.documentElement.scrollWidth <= 420));
-  const [totals, found] = await Promise.all(["#totals", "#count"].map((id) => tab.locator(id).boundingBox()));
-  assert.ok(totals.y + totals.height <= found.y, "the counts lie apart");
-  await picture(tab, "small");
   await close(tab);
 });

@@ -1,8 +1,13 @@
-# Writes the source FILE with the page of the report, whose files are in FOLDER. Literals are kept short, as compilers
+# Writes the source FILE with the page of the report, whose parts are in FOLDER. Literals are kept short, as compilers
 # need not take long ones.
+include(${CMAKE_CURRENT_LIST_DIR}/parts.cmake)
 set(page "")
 foreach(part IN ITEMS html css js)
-    file(READ ${FOLDER}/report.${part} text)
+    set(text "")
+    foreach(file IN LISTS report_${part})
+        file(READ ${FOLDER}/${file} read)
+        string(APPEND text "${read}")
+    endforeach()
     set(literals "")
     string(LENGTH "${text}" length)
     set(begin 0)

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "output/Json.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace Tool {
+
+/// Returns the values of many things, or the one value that all of them have.
+Json columnOf(std::vector<Json> values);
+
+/// Returns texts that resemble each other as how long each one's beginning is that the one before it has, too, and
+/// what follows.
+Json withSharedBeginnings(const std::vector<std::string_view>& texts);
+
+/// Values, each of which is kept once.
+class Cells {
+public:
+    /// Returns the number of a value, which is a new one if there is none like it.
+    std::size_t add(Json value);
+
+    /// Returns the values that do not stand in their places, those that are used most first. Nothing may be added then.
+    Json table();
+
+    /// Returns a column of values, once there is a table: each is a text that is used nowhere else, or its number there.
+    Json column(const std::vector<std::size_t>& numbers) const;
+
+private:
+    struct Cell {
+        Json value;
+        std::size_t uses = 0;
+        std::size_t place = 0; ///< In the table.
+    };
+
+    static bool standsInPlace(const Cell& cell) { return cell.uses == 1 && cell.value.is_string(); }
+
+    std::unordered_map<std::string, std::size_t> numbers_;
+    std::vector<Cell> cells_;
+};
+
+} // namespace Tool

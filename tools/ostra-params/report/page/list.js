@@ -1,0 +1,131 @@
+// ---- the list: only the rows in sight are in the page
+const list = byId("list");
+const rows = byId("rows");
+const isNarrow = window.matchMedia("(max-width: 50rem)");
+let current = null; // the object shown
+let active = -1;    // the row that the keyboard is at
+let listTop = 0;    // how far the list was scrolled when it was left
+
+const rowHeight = () => parseFloat(getComputedStyle(list).getPropertyValue("--row")) * parseFloat(getComputedStyle(document.documentElement).fontSize);
+
+function marked(text) {
+  const spans = [];
+  const lower = text.toLowerCase();
+  for (const word of lower.length === text.length ? found.words : []) {
+    for (let place = lower.indexOf(word); place >= 0; place = lower.indexOf(word, place + word.length)) {
+      spans.push([place, place + word.length]);
+    }
+  }
+  const pieces = [];
+  let done = 0;
+  for (const [begin, end] of spans.sort((a, b) => a[0] - b[0])) {
+    if (begin >= done) {
+      pieces.push(text.slice(done, begin), element("mark", null, text.slice(begin, end)));
+      done = end;
+    }
+  }
+  return [...pieces, text.slice(done)];
+}
+function row(object, index, height) {
+  const made = element("div", {
+    class: index === active ? "row active" : "row", role: "option", id: "row" + index, style: `top:${index * height}px`,
+    "aria-selected": object === current, "aria-setsize": found.objects.length, "aria-posinset": index + 1,
+  }, element("b", null, element("span", null, ...titled(object, ...marked(object.title))), element("span", { class: "kind" }, object.kind.label)),
+     element("small", null, ...marked(object.typeId)));
+  made.addEventListener("click", () => { active = index; go({ object: object.typeId, view: "" }); });
+  return made;
+}
+// The list scrolls where there is room beside the object; else the page does.
+function sight() {
+  if (!isNarrow.matches) {
+    return [list.scrollTop, list.clientHeight];
+  }
+  const top = -rows.getBoundingClientRect().top;
+  return [Math.max(0, top), Math.max(0, Math.min(top, 0) + window.innerHeight)];
+}
+// Keeps the rows that stay in sight, as one of them may be about to be clicked; all become others when they may differ.
+function render(isOther = false) {
+  if (byId("objects").offsetParent === null && isNarrow.matches) {
+    return;
+  }
+  const height = rowHeight();
+  rows.style.height = found.objects.length * height + "px";
+  const [top, room] = sight();
+  const first = Math.max(0, Math.floor(top / height) - 5);
+  const last = Math.min(found.objects.length, Math.ceil((top + room) / height) + 5);
+  const there = new Map(isOther ? [] : [...rows.children].map((each) => [each.id, each]));
+  const wanted = found.objects.slice(first, last).map((object, i) => there.get("row" + (first + i)) ?? row(object, first + i, height));
+  for (const each of [...rows.children]) {
+    if (!wanted.includes(each)) {
+      each.remove();
+    }
+  }
+  wanted.forEach((each, i) => rows.children[i] === each || rows.insertBefore(each, rows.children[i] ?? null));
+  if (active >= first && active < last) {
+    list.setAttribute("aria-activedescendant", "row" + active);
+  } else {
+    list.removeAttribute("aria-activedescendant");
+  }
+}
+function scrollTo(top) {
+  if (isNarrow.matches) {
+    window.scrollTo(0, rows.getBoundingClientRect().top + window.scrollY + top);
+  } else {
+    list.scrollTop = top;
+  }
+}
+function reveal(index) {
+  if (index < 0) {
+    return;
+  }
+  const [top, room] = sight();
+  const height = rowHeight();
+  const begin = index * height;
+  if (begin < top) {
+    scrollTo(begin);
+  } else if (begin + height > top + room) {
+    scrollTo(begin + height - room);
+  }
+}
+// Goes to a row: to its object, too, where both are in sight.
+function walkTo(index) {
+  if (found.objects.length === 0) {
+    return;
+  }
+  active = Math.min(Math.max(index, 0), found.objects.length - 1);
+  if (isNarrow.matches) {
+    reveal(active);
+    render(true);
+  } else {
+    go({ object: found.objects[active].typeId, view: "" }, "walk");
+  }
+}
+function showFound() {
+  const { objects: shown, corrected } = found;
+  byId("count").textContent = shown.length === objects.length ? counted(objects.length, "object") : `${count(shown.length)} of ${count(objects.length)}`;
+  byId("corrected").replaceChildren(...corrected.map(([word, near]) => element("p", null,
+    `Nothing has \u201c${word}\u201d. Shown is what has `, ...near.slice(0, 3).flatMap((text, i) => [i ? " or " : "", element("b", null, text)]), near.length > 3 ? " and the like." : ".")));
+  byId("none").hidden = shown.length > 0;
+  list.hidden = shown.length === 0;
+}
+
+list.addEventListener("keydown", (event) => {
+  const page = Math.max(1, Math.floor(sight()[1] / rowHeight()) - 1);
+  const steps = { ArrowDown: active + 1, ArrowUp: active - 1, PageDown: active + page, PageUp: active - page, Home: 0, End: found.objects.length - 1 };
+  if (event.key in steps) {
+    event.preventDefault();
+    walkTo(steps[event.key]);
+  } else if (event.key === "Enter" && active >= 0) {
+    event.preventDefault();
+    go({ object: found.objects[active].typeId, view: "" });
+    byId("card").focus();
+  }
+});
+list.addEventListener("scroll", () => render(), { passive: true });
+window.addEventListener("scroll", () => {
+  if (isNarrow.matches && document.body.dataset.pane === "list") {
+    listTop = window.scrollY;
+    render();
+  }
+}, { passive: true });
+window.addEventListener("resize", () => render(true));

@@ -1,0 +1,16 @@
+# The files of the page. Those of the script are one script in the page, in this order.
+set(report_html report.html)
+set(report_css report.css)
+set(report_js
+    model.js
+    elements.js
+    address.js
+    search.js
+    list.js
+    schema.js
+    picture.js
+    card.js
+    overview.js
+    print.js
+    main.js
+)
