@@ -23,7 +23,7 @@ for (const [number, kind] of kinds.entries()) {
 }
 const kindOfId = new Map(kinds.map((kind) => [kind.id, kind]));
 const shapes = data.shapes.map(({ kind, properties, schema, cells, literals }) => ({
-  kind: kinds[kind], schema, cells, literals, length: 0,
+  kind: kinds[kind], schema, cells, literals, length: 0, objects: [],
   properties: properties.map(([name, isOwn]) => ({ name, isOwn })),
   columnOf: new Map(properties.map(([name], i) => [name, i]).reverse()), // the first of one name
 }));
@@ -40,6 +40,7 @@ class CatalogueObject {
     this.number = number;
     this.shape = shape;
     this.row = shape.length++;
+    shape.objects.push(number);
     shape.kind.count += 1;
   }
   get typeId() { return typeIds[this.number]; }

@@ -1,0 +1,101 @@
+// What the search looks at, and what it forgives.
+import assert from "node:assert/strict";
+import { mkdirSync, writeFileSync } from "node:fs";
+import { test } from "node:test";
+import { group, page, parameter } from "./catalogues.mjs";
+import { close, example, open, picture } from "./tab.mjs";
+
+const titles = (tab) => tab.locator(".row b > span:first-child").allTextContents();
+
+for (const [what, words, title] of [
+  ["a unit's symbol", "m³/s", "Rated Discharge"],
+  ["a sample text", "24.5", "Rated Discharge"],
+  ["a file", "rated-discharge", "Rated Discharge"],
+  ["a choice", "kaplan", "Turbine Type"],
+  ["a limit", "120.5", "Rated Discharge"],
+  ["a description", "turbine at its rated head", "Rated Discharge"],
+]) {
+  test(`finds ${what}`, async () => {
+    const tab = await open(example());
+    await tab.fill("#query", words);
+    assert.ok((await titles(tab)).includes(title));
+    await close(tab);
+  });
+}
+
+test("finds an allowed value, in the range and in what has it", async () => {
+  const range = { typeid: "r:colours", inherits: ["norvex.range:range.string.set.static-1.0.0"], constants: [{ id: "allowedValues", value: ["ultramarine", "ochre"] }] };
+  const tab = await open(page("values", [group("g", "G"), range]));
+  await tab.fill("#query", "ultramarine");
+  assert.deepEqual(await titles(tab), ["ultramarine, ochre"], "a range without a name is called by what it holds");
+  await close(tab);
+});
+
+test("those that have it in their names come first", async () => {
+  const tab = await open(page("ranked", [group("g", "G"), parameter("a", "Height", "g", "Not the pressure"), parameter("b", "Pressure", "g")]));
+  await tab.fill("#query", "pressure");
+  assert.deepEqual(await titles(tab), ["Pressure", "Height"]);
+  await close(tab);
+});
+
+for (const [slip, word] of [["a wrong letter", "discherge"], ["a letter too few", "dicharge"], ["a letter too many", "disscharge"], ["two the wrong way round", "dischrage"], ["a wrong letter in a word half typed", "dischx"]]) {
+  test(`forgives ${slip}, and says so`, async () => {
+    const tab = await open(example());
+    await tab.fill("#query", word);
+    assert.ok((await titles(tab)).includes("Rated Discharge"));
+    assert.match(await tab.textContent("#corrected"), new RegExp(`Nothing has “${word}”. Shown is what has disch`));
+    assert.ok(await tab.locator(".row mark", { hasText: /^Disch/ }).count() > 0);
+    await tab.fill("#query", "discharge");
+    assert.equal(await tab.textContent("#corrected"), "");
+    await close(tab);
+  });
+}
+
+test("does not forgive two wrong letters, nor words that are there but not together", async () => {
+  const tab = await open(example());
+  for (const words of ["dxschxrge", "kaplan discharge"]) {
+    await tab.fill("#query", words);
+    assert.ok(await tab.isVisible("#none"), words);
+    assert.equal(await tab.textContent("#corrected"), "");
+  }
+  await picture(tab, "nothing");
+  await close(tab);
+});
+
+test("sorts by name, typeid, file, and by what names objects most", async () => {
+  const tab = await open(page("sorted", [parameter("p:1", "Zulu", "h"), parameter("p:2", "Alpha", "h"), group("h", "Mike"), group("g", "November"), parameter("p:0", "Lima", "g")]));
+  for (const [order, expected] of [
+    ["", ["Lima", "Zulu", "Alpha", "November", "Mike"]], ["name", ["Alpha", "Lima", "Mike", "November", "Zulu"]],
+    ["typeid", ["November", "Mike", "Lima", "Zulu", "Alpha"]], ["file", ["Zulu", "Alpha", "Mike", "November", "Lima"]],
+    ["users", ["Mike", "November", "Lima", "Zulu", "Alpha"]],
+  ]) {
+    await tab.selectOption("#sort", order && "=" + order);
+    assert.deepEqual(await titles(tab), expected, order);
+  }
+  await close(tab);
+});
+
+test("shows what has no description, what nothing names and what has a warning", async () => {
+  const odd = parameter("p:odd", "Odd", "g", "Described");
+  odd.constants.push({ id: "readonly", value: true });
+  const tab = await open(page("only", [group("g", "Named"), group("h", "Unnamed"), parameter("p:1", "Plain", "g"), odd]));
+  for (const [only, expected] of [["undescribed", ["Plain"]], ["unused", ["Unnamed"]], ["warned", ["Odd"]]]) {
+    await tab.selectOption("#only", "=" + only);
+    assert.deepEqual(await titles(tab), expected);
+  }
+  await close(tab);
+});
+
+test("filters by folder where there are many files", async () => {
+  for (const folder of ["one", "two"]) {
+    mkdirSync(`folders/${folder}`, { recursive: true });
+    for (let i = 0; i < 60; ++i) {
+      writeFileSync(`folders/${folder}/${i}.json`, JSON.stringify(group(`${folder}:${i}`, `${folder} ${i}`)));
+    }
+  }
+  const tab = await open(page("foldered", "folders"));
+  await tab.selectOption("#file", "=folders/two/");
+  assert.equal(await tab.textContent("#count"), "60 of 120");
+  assert.match((await titles(tab))[0], /^two/);
+  await close(tab);
+});
