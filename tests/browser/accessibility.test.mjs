@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
 import { test } from "node:test";
-import { many, page } from "./catalogues.mjs";
+import { group, many, page, parameter } from "./catalogues.mjs";
 import { at, close, discharge, example, open, picture, sizes } from "./tab.mjs";
 
 const axe = readFileSync("node_modules/axe-core/axe.min.js", "utf8");
@@ -32,6 +32,19 @@ for (const [size, viewport] of Object.entries(sizes)) {
     });
   }
 }
+
+test("axe finds nothing on the page of what changed", async () => {
+  const before = [group("g", "G"), parameter("p", "P", "g", "One thing"), parameter("q-1.0.0", "Q", "g")];
+  const after = [group("g", "G"), parameter("p", "P", "g", "Another thing"), parameter("q-2.0.0", "Q", "g"), group("h", "H")];
+  for (const size of Object.values(sizes)) {
+    for (const colours of Object.values(looks)) {
+      const tab = await open(page("accessible-review", after, before), "#?view=review", { ...size, ...colours, reducedMotion: "reduce" });
+      await tab.locator("summary").first().click();
+      assert.deepEqual(await findings(tab), []);
+      await close(tab);
+    }
+  }
+});
 
 test("links are told from text by more than their colour", async () => {
   for (const hash of ["", at(discharge), at("no such thing")]) {

@@ -19,14 +19,19 @@ export function many(count) {
   return [...groups, ...Array.from({ length: count - 20 }, (_, i) => parameter(`p:${i}`, `Parameter ${i}`, `g:${i % 20}`))];
 }
 
-// Writes the page of schemas, or of a folder, and returns its address.
-export function page(name, input) {
-  const file = join(process.cwd(), folder, name);
-  let path = input;
-  if (Array.isArray(input)) {
-    path = `${file}.ndjson`;
-    writeFileSync(path, input.map((schema) => JSON.stringify(schema)).join("\n"));
+const pathOf = (name, input) => {
+  if (!Array.isArray(input)) {
+    return input;
   }
-  execFileSync(process.env.OSTRA_PARAMS, ["report", path, "-o", `${file}.html`]);
-  return `file://${file}.html`;
+  const path = `${join(process.cwd(), folder, name)}.ndjson`;
+  writeFileSync(path, input.map((schema) => JSON.stringify(schema)).join("\n"));
+  return path;
+};
+
+// Writes the page of schemas, or of a folder, and returns its address; with what changed since others, if there are any.
+export function page(name, input, against) {
+  const file = `${join(process.cwd(), folder, name)}.html`;
+  const since = against === undefined ? [] : ["--against", pathOf(`${name}-before`, against)];
+  execFileSync(process.env.OSTRA_PARAMS, ["report", pathOf(name, input), "-o", file, ...since]);
+  return `file://${file}`;
 }

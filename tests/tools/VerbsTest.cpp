@@ -394,6 +394,36 @@ TEST(Report, IsTheSameForTheSameInput) {
     EXPECT_EQ(folder.read("one.html"), folder.read("two.html"));
 }
 
+TEST(Report, TellsWhatChangedSinceAnEarlierCatalogue) {
+    const Folder folder;
+    folder.write("old.ndjson", group("g", "Safety") + group("h", "H"));
+    folder.write("new.ndjson", group("g", "Security"));
+    EXPECT_EQ(folder.run({"report", "new.ndjson", "--against", "old.ndjson", "-o", "page.html"}).exitCode, 0);
+    EXPECT_THAT(folder.read("page.html"), HasSubstr(R"("fate":"removed","typeId":"h")"));
+    EXPECT_THAT(folder.read("page.html"), HasSubstr(R"("before":"Safety","after":"Security")"));
+    EXPECT_EQ(folder.run({"report", "new.ndjson", "-o", "page.html"}).exitCode, 0);
+    EXPECT_THAT(folder.read("page.html"), Not(HasSubstr(R"("review")")));
+}
+
+TEST(Report, ReadsOneOfTwoCataloguesFromStandardInput) {
+    const Folder folder;
+    folder.write("g.json", group("g", "Security"));
+    const std::vector<std::string> arguments{"report", "g.json", "--against", "-", "-o", "-"};
+    EXPECT_THAT(folder.run(arguments, ".out", group("g", "Safety")).out, HasSubstr(R"("review":{"name":"<stdin>")"));
+    const Outcome outcome = folder.run({"report", "-", "--against", "-", "-o", "page.html"}, ".out", group("g", "G"));
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_EQ(outcome.err, "ostra-params: Standard input can be only one of the two catalogues.\n");
+}
+
+TEST(Report, RefusesAnEarlierCatalogueThatIsNotThere) {
+    const Folder folder;
+    folder.write("g.json", group("g", "G"));
+    const Outcome outcome = folder.run({"report", "g.json", "--against", "none", "-o", "page.html"});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_THAT(outcome.err, HasSubstr("none"));
+    EXPECT_EQ(folder.read("page.html"), "");
+}
+
 struct Verb {
     const char* name;
     std::vector<std::string> arguments;

@@ -26,7 +26,8 @@ public:
     /// Returns the values that do not stand in their places, those that are used most first. Nothing may be added then.
     Json table();
 
-    /// Returns a column of values, once there is a table: each is a text that is used nowhere else, or its number there.
+    /// Returns a column of values, once there is a table: each is a text that is used nowhere else, or its number
+    /// there.
     Json column(const std::vector<std::size_t>& numbers) const;
 
 private:

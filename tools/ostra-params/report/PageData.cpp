@@ -33,9 +33,8 @@ std::vector<const Section*> sectionsOfPage() {
     for (const Section& section : sections()) {
         all.push_back(&section);
     }
-    std::sort(all.begin(), all.end(), [](const Section* one, const Section* other) {
-        return placeOnPage(*one) < placeOnPage(*other);
-    });
+    std::sort(all.begin(), all.end(),
+              [](const Section* one, const Section* other) { return placeOnPage(*one) < placeOnPage(*other); });
     return all;
 }
 
@@ -112,7 +111,8 @@ private:
         known_.emplace(Json(text).dump(-1, ' ', false, Json::error_handler_t::replace), std::move(hole));
     }
 
-    /// Returns how many values of a property, all there are, stand from here on with the same between them; 0 if not so.
+    /// Returns how many values of a property, all there are, stand from here on with the same between them; 0 if not
+    /// so.
     std::size_t listAt(const CutText& text, std::size_t begin) const {
         const Json& first = known_.at(std::string(text.values[begin]));
         if (!first.is_array() || first[1] != 0) {
@@ -206,9 +206,8 @@ private:
         std::vector<std::string_view> literals;
         Json schema = Holes(object).shapeOf(cut(text), literals);
 
-        Json description{{"kind", placeOf(*object.section)},
-                         {"properties", std::move(properties)},
-                         {"schema", std::move(schema)}};
+        Json description{
+            {"kind", placeOf(*object.section)}, {"properties", std::move(properties)}, {"schema", std::move(schema)}};
         const auto [found, isNew] =
             shapeNumbers_.emplace(description.dump(-1, ' ', false, Json::error_handler_t::replace), shapes_.size());
         if (isNew) {

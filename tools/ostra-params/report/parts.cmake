@@ -10,6 +10,7 @@ set(report_js
     schema.js
     picture.js
     card.js
+    review.js
     overview.js
     print.js
     main.js

@@ -1,5 +1,5 @@
 // ---- the address is the state: "#<typeid>?q=<words>&kind=<id>..."
-const parts = ["q", "kind", "group", "discipline", "file", "only", "sort", "view"];
+const parts = ["q", "kind", "group", "discipline", "file", "only", "sort", "view", "fate", "severity"];
 const home = Object.fromEntries([["object", null], ...parts.map((part) => [part, ""])]);
 
 function stateOf(address) {
@@ -69,6 +69,6 @@ document.addEventListener("click", (event) => {
   if (link && event.button === 0 && !event.ctrlKey && !event.metaKey && !event.shiftKey && !event.altKey) {
     event.preventDefault();
     const target = stateOf(link.getAttribute("href"));
-    go(target.object === null ? target : { object: target.object, view: "" });
+    go(target.object === null ? target : { object: target.object, view: "", fate: "", severity: "" });
   }
 });

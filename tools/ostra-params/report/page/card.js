@@ -61,6 +61,10 @@ function objectCards(object) {
     element("p", { class: "typeid" }, element("code", null, object.typeId), copyButton(object.typeId)),
     propertyList(object),
     alone ? element("p", { class: "alone" }, alone) : "")];
+  if (review && changeOf().has(object.typeId)) {
+    const change = changeOf().get(object.typeId);
+    cards.push(element("section", { class: "card change" }, element("h3", null, `${change.fate === "changed" ? "Changed" : "New"} since ${review.name}`), ...changeShown(change)));
+  }
   if (needs.length + users.length > 0) {
     cards.push(element("section", { class: "card picture" }, element("h3", null, "What hangs together"), pictureOf(object)));
   }
@@ -75,12 +79,14 @@ function objectCards(object) {
 }
 
 // ---- where there is no object of a typeid
+const goneAs = (typeId) => review.changes.find((change) => change.typeIdBefore === typeId)?.fate;
 function missingCards(typeId) {
   const stem = (text) => text.replace(/-\d+\.\d+\.\d+$/, "");
   const like = objects.filter((object) => stem(object.typeId) === stem(typeId)).slice(0, 10);
   const words = lastPart(stem(typeId));
   return [element("section", { class: "card" }, element("h2", { id: "title" }, "Not in this catalogue"),
     element("p", null, "There is no object ", element("code", null, typeId), ". It may have been removed or renamed, or was left out as faulty."),
+    ...(review && goneAs(typeId) ? [element("p", null, element("a", { href: linkTo({ view: "review", fate: goneAs(typeId) }) }, "It is among what changed"), ".")] : []),
     ...(like.length > 0 ? [element("p", null, "Of that name, but of another version:"), element("ul", { class: "links" }, ...like.map((object) => linkItem({ role: object.kind.label, object })))] : []),
     element("p", null, element("a", { href: linkTo({ q: words }) }, `Search for \u201c${words}\u201d`), " \u00b7 ", element("a", { href: "#" }, "Overview")))];
 }

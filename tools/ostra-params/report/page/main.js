@@ -5,7 +5,7 @@ const card = byId("card");
 const title = "Parameter catalogue";
 
 function paneOf({ object, view, q, kind, group, discipline, file, only, sort }) {
-  return object !== null ? "card" : view === "list" || q || kind || group || discipline || file || only || sort ? "list" : "home";
+  return object !== null || (review && view === "review") ? "card" : view === "list" || q || kind || group || discipline || file || only || sort ? "list" : "home";
 }
 function fill(select, all, options) {
   // The values of options never collide with "all", whatever a group is called.
@@ -43,7 +43,7 @@ function showState(before) {
     list.scrollTop = 0;
     showFound();
   }
-  const isSame = before !== null && state.object === before.object && paneOf(before) === pane && card.childElementCount > 0;
+  const isSame = before !== null && ["object", "view", "fate", "severity"].every((part) => state[part] === before[part]) && paneOf(before) === pane && card.childElementCount > 0;
   if (!isSame) {
     const hadFocus = card.contains(document.activeElement);
     showCard();
@@ -73,7 +73,9 @@ function showCard() {
   drawn = null;
   const isMissing = state.object !== null && current === null;
   document.title = (current ? `${current.title} \u2013 ` : isMissing ? "Not in this catalogue \u2013 " : "") + title;
-  card.replaceChildren(...(current ? objectCards(current) : isMissing ? missingCards(state.object) : overviewCards()));
+  const isReview = review && state.view === "review";
+  document.title = (isReview && !current ? "What changed \u2013 " : "") + document.title;
+  card.replaceChildren(...(current ? objectCards(current) : isMissing ? missingCards(state.object) : isReview ? reviewCards(state) : overviewCards()));
   card.scrollTop = 0;
   drawn?.draw();
 }
@@ -82,12 +84,13 @@ function showWays(pane) {
   const ways = byId("ways");
   const index = found.objects.indexOf(current);
   const to = (text, target, attributes) => element("a", { href: addressOf(target), ...attributes }, text);
-  if (pane === "card") {
+  const changes = review ? [to(`Changes (${count(review.changes.length)})`, { ...home, view: "review" }, state.view === "review" ? { "aria-current": "page" } : {})] : [];
+  if (pane === "card" && state.view !== "review") {
     const beside = (text, other, label) => (other && index >= 0 ? to(text, { ...state, object: other.typeId }, { "aria-label": label }) : element("span"));
     ways.replaceChildren(to("\u2039 List", { ...state, object: null, view: "list" }), beside("Previous", found.objects[index - 1], "Previous object"), beside("Next", found.objects[index + 1], "Next object"));
   } else {
     ways.replaceChildren(to("Overview", home, pane === "home" ? { "aria-current": "page" } : {}),
-      to(`List (${count(found.objects.length)})`, { ...state, object: null, view: "list" }, pane === "list" ? { "aria-current": "page" } : {}));
+      to(`List (${count(found.objects.length)})`, { ...state, object: null, view: "list" }, pane === "list" ? { "aria-current": "page" } : {}), ...changes);
   }
 }
 function clear() {
@@ -150,6 +153,9 @@ for (const text of [data.leftOut > 0 && `${count(data.leftOut)} left out as faul
   if (text) {
     byId("totals").append(", ", element("a", { class: "bad", href: "#" }, text));
   }
+}
+if (review) {
+  byId("totals").append(", ", element("a", { href: linkTo({ view: "review" }) }, counted(review.changes.length, "change")));
 }
 fillSelects();
 follow();

@@ -72,6 +72,7 @@ function overviewCards() {
       element("p", { class: "is" }, `${counted(objects.length, "object")} in ${counted(files.length, "file")}`, data.leftOut > 0 ? `, ${count(data.leftOut)} left out as faulty` : "", "."),
       element("p", { class: "keys" }, element("kbd", null, "/"), " goes to the search, ", element("kbd", null, "\u2191"), " ", element("kbd", null, "\u2193"),
         " walk through the list, ", element("kbd", null, "Enter"), " goes to the object, ", element("kbd", null, "Esc"), " back.")),
+    ...(review ? reviewCard() : []),
     ...faultCards(),
     element("div", { class: "cards" }, kindCard(), ...facetCard("group", "Largest groups"), ...facetCard("discipline", "Disciplines"),
       ...descriptionCard(), unusedCard(), ...facetCard("file", isByFolder ? "Folders" : "Files")),
