@@ -1,5 +1,5 @@
 import assert from "node:assert/strict";
-import { mkdirSync, readFileSync, rmSync, symlinkSync, writeFileSync } from "node:fs";
+import { cpSync, mkdirSync, readdirSync, readFileSync, rmSync, symlinkSync, writeFileSync } from "node:fs";
 import { spawnSync } from "node:child_process";
 import { test } from "node:test";
 import Ajv from "ajv/dist/2020.js";
@@ -49,6 +49,61 @@ test("the log of a sound catalogue is, too", () => {
   assert.equal(log.runs[0].results.length, 0);
   assert.ok(isValid(log), JSON.stringify(isValid.errors));
 });
+
+/// Runs git in a folder, with nothing of whoever runs this.
+function git(folder, ...words) {
+  const { status, stderr } = spawnSync("git", ["-c", "user.name=A", "-c", "user.email=a@b", ...words], { cwd: folder, encoding: "utf8" });
+  assert.equal(status, 0, stderr);
+}
+
+/// Changes the lines, or the files, of a catalogue: every third one gets another name, every seventh is gone.
+function change(folder) {
+  let number = 0;
+  const changed = (text) => (++number % 7 === 0 ? "" : number % 3 === 0 ? text.replace(/("name",\s*"value":\s*")/, "$1New ") : text);
+  for (const entry of readdirSync(folder, { recursive: true, withFileTypes: true })) {
+    const file = `${entry.path ?? entry.parentPath}/${entry.name}`;
+    if (entry.isFile() && /\.(json|ndjson)$/.test(entry.name)) {
+      const text = readFileSync(file, "utf8");
+      const lines = entry.name.endsWith(".json") ? [text] : text.split("\n").filter(Boolean);
+      writeFileSync(file, lines.map(changed).filter(Boolean).join("\n") || "{}");
+    }
+  }
+}
+
+for (const [name, catalogue] of [["the example catalogue", process.env.OSTRA_EXAMPLES], ["a large catalogue", process.env.OSTRA_CATALOGUE]]) {
+  test(`two revisions of ${name} are compared in the formats of code hosts`, { skip: !catalogue }, () => {
+    rmSync("revisions", { recursive: true, force: true });
+    cpSync(catalogue, "revisions/catalogue", { recursive: true, filter: (source) => !source.endsWith(".git") });
+    git("revisions", "init", "-q");
+    git("revisions", "add", ".");
+    git("revisions", "commit", "-q", "-m", "As it was");
+    change("revisions/catalogue");
+    const compare = (format) =>
+      spawnSync(process.env.OSTRA_PARAMS, ["diff", "--breaking", "--against", "HEAD", "--format", format, "catalogue"], {
+        cwd: "revisions",
+        encoding: "utf8",
+        maxBuffer: 1 << 30,
+      });
+    const log = compare("sarif");
+    assert.equal(log.status, 1);
+    const sarif = JSON.parse(log.stdout);
+    assert.ok(isValid(sarif), JSON.stringify(isValid.errors));
+    const { results, tool } = sarif.runs[0];
+    assert.ok(results.length > 10);
+    for (const result of results) {
+      assert.equal(tool.driver.rules[result.ruleIndex].id, result.ruleId);
+    }
+    assert.equal(new Set(results.map((result) => result.partialFingerprints["ostraFault/v1"])).size, results.length);
+    const json = JSON.parse(compare("json").stdout);
+    const shown = json.verdicts.filter((verdict) => verdict.severity !== "safe");
+    assert.deepEqual(results.map((result) => result.ruleId), shown.map((verdict) => verdict.code));
+    const commands = compare("github").stdout.trimEnd().split("\n");
+    assert.equal(commands.length, results.length);
+    for (const command of commands) {
+      assert.match(command, /^::(error|warning) file=[^,:]+(,line=\d+,col=\d+,endLine=\d+,endColumn=\d+)?,title=[a-z-]+::[^\r]+$/);
+    }
+  });
+}
 
 test("the schema refuses what is no log", () => {
   assert.equal(isValid({ version: "2.1.0" }), false);

@@ -89,14 +89,6 @@ bool areTextsExchanged(const Atom& atom) {
     return areTexts(atom) && isExchanged("allowedValues") && isExchanged("regex");
 }
 
-/// A choice has the integer of another one, which it did not have before.
-bool isIntegerShared(const Atom& atom) {
-    const Choice* const choice = after<Choice>(atom);
-    const auto& choices = std::get<Choices>(atom.constant->after);
-    return choice != nullptr && std::count_if(choices.begin(), choices.end(),
-                                              [&](const Choice& each) { return each.integer == choice->integer; }) > 1;
-}
-
 constexpr std::array rules{
     BreakingRule{"object-removed", Severity::documents, "An object is there no more.",
                  "Documents hold its typeid, and nothing answers to it.",
@@ -153,7 +145,7 @@ constexpr std::array rules{
                  [](const Atom& atom) { return is(atom, "choices") && before<Choice>(atom) != nullptr; }},
     BreakingRule{"choice-ambiguous", Severity::review, "A new choice has the integer of another one.",
                  "A value that is held as an integer can mean either.",
-                 [](const Atom& atom) { return is(atom, "choices") && isAdded(atom) && isIntegerShared(atom); }},
+                 [](const Atom& atom) { return is(atom, "choices") && isAdded(atom) && atom.element->isAmbiguous; }},
     BreakingRule{"choice-added", Severity::safe, "There is one more choice.",
                  "Values that there are mean what they did.",
                  [](const Atom& atom) { return is(atom, "choices") && isAdded(atom); }},

@@ -200,6 +200,14 @@ void Elements::operator()(const Choices& before, const Choices& after) {
     }
     std::erase_if(change_.elements,
                   [](const ElementChange& each) { return isNothing(each.before) && isNothing(each.after); });
+    std::map<std::int64_t, std::size_t> uses;
+    for (const Choice& each : after) {
+        ++uses[each.integer];
+    }
+    for (ElementChange& element : change_.elements) {
+        const Choice* const now = std::get_if<Choice>(&element.after);
+        element.isAmbiguous = now != nullptr && uses[now->integer] > 1;
+    }
 }
 
 /// Returns the places of a list's elements, by their keys.

@@ -34,6 +34,7 @@ struct ElementChange {
     Value after = {};
     Place placeBefore = {}; ///< Of an element that is not there on this side, that of the list.
     Place placeAfter = {};
+    bool isAmbiguous = false; ///< It is a choice that has now the integer of another one.
 };
 
 /// A constant that says something else than before.
