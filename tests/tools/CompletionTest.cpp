@@ -62,6 +62,7 @@ TEST(Completion, OffersVerbsOptionsAndValuesInBash) {
     EXPECT_EQ(inBash("check --severity ''", "3"), "error warning\n");
     EXPECT_EQ(inBash("check --lint obj", "3"), "object-unused\n");
     EXPECT_EQ(inBash("check --only regex-r", "3"), "regex-refused\n");
+    EXPECT_EQ(inBash("diff --accept regex-c", "3"), "regex-changed\n");
     EXPECT_EQ(inBash("list --kind bool-", "3"), "bool-spec bool-parameter\n");
     EXPECT_EQ(inBash("list --kind unit,dom", "3"), "unit,domain\n");
     EXPECT_EQ(inBash("list --kind ''", "3"), kinds() + "\n");

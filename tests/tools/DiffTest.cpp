@@ -352,6 +352,7 @@ public:
 };
 
 TEST(DiffAgainst, ComparesARevisionWithWhatIsThereNow) {
+    SKIP_FOR_WINDOWS(); // git is no program of it
     const Repository repository;
     EXPECT_EQ(repository.run({"diff", "--against", "HEAD", "catalogue"}).out, "0 added, 0 removed, 0 changed\n");
     repository.write("catalogue/a.ndjson", group("g", "Group"));
@@ -375,6 +376,7 @@ TEST(DiffAgainst, ComparesARevisionWithWhatIsThereNow) {
 }
 
 TEST(DiffAgainst, TakesWhatWasNotThereForEmpty) {
+    SKIP_FOR_WINDOWS(); // git is no program of it
     const Repository repository;
     repository.write("later/c.json", group("c", "C"));
     EXPECT_EQ(repository.run({"diff", "--against", "HEAD", "later"}).out,
@@ -384,6 +386,7 @@ TEST(DiffAgainst, TakesWhatWasNotThereForEmpty) {
 }
 
 TEST(DiffAgainst, SaysOfWhichRevisionFaultsAre) {
+    SKIP_FOR_WINDOWS(); // git is no program of it
     const Repository repository;
     repository.write("other/b.json", "]");
     repository.commit();
@@ -395,6 +398,7 @@ TEST(DiffAgainst, SaysOfWhichRevisionFaultsAre) {
 }
 
 TEST(DiffAgainst, SaysWhatIsNotThere) {
+    SKIP_FOR_WINDOWS(); // git is no program of it
     const Repository repository;
     const auto complaint = [&](const std::string& revision, const std::string& path) {
         const Outcome outcome = repository.run({"diff", "--against=" + revision, path});
@@ -420,6 +424,21 @@ TEST(DiffAgainst, NeedsGit) {
     const Outcome outcome = repository.runProgram("sh", {"run.sh"});
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_EQ(outcome.err, "ostra-params: Cannot run git, which is needed to read a revision.\n");
+}
+
+TEST(DiffAgainst, ReadsFilesOfAllNamesAndNoLinks) {
+    SKIP_FOR_WINDOWS(); // git is no program of it
+    const Repository repository;
+    repository.write("catalogue/\u00fcber \"zwei\".json", group("z", "Z"));
+    repository.write("catalogue/a b/c (copy).json", group("c", "Other"));
+    repository.write("catalogue/a b/c.json", group("c", "C"));
+    std::filesystem::create_symlink("a.ndjson", repository.path() / "catalogue/link.ndjson");
+    repository.commit();
+    const Outcome same = repository.run({"diff", "--against", "HEAD", "catalogue"});
+    EXPECT_EQ(same.out, "0 added, 0 removed, 0 changed\n");
+    EXPECT_THAT(same.err, HasSubstr("ostra-params: HEAD has faults:\ncatalogue/a b/c (copy).json:1:11: "));
+    repository.write("catalogue/\u00fcber \"zwei\".json", group("z", "New"));
+    EXPECT_THAT(repository.run({"diff", "--against", "HEAD", "catalogue"}).out, StartsWith("~ z  group  New\n"));
 }
 
 struct Misuse {

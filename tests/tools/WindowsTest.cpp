@@ -85,6 +85,9 @@ TEST_F(OnWindows, PrintsTheSame) {
     expectSame({"deps", "--dot", "--reverse", "hydro.group:operation-1.0.0", "catalogue"});
     expectSame({"diff", "catalogue", "changed"});
     expectSame({"diff", "--json", "catalogue", "changed"});
+    for (const char* format : {"text", "json", "sarif", "github"}) {
+        expectSame({"diff", "--breaking", "--format", format, "catalogue", "changed"});
+    }
     expectSame({"export", "catalogue", "-o", "-"});
     expectSame({"export", "faulty", "-o", "never"});
     expectSame({"export", "catalogue", "-o", "nowhere/f.ndjson"});

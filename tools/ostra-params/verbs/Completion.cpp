@@ -1,4 +1,5 @@
 #include "catalogue/Sections.h"
+#include "compare/Breaking.h"
 #include "faults/Rules.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
@@ -53,6 +54,10 @@ std::vector<std::string> wordsOf(const CLI::Option& option) {
         words = CLI::detail::split(type.substr(brace + 1, type.find('}') - brace - 1), ',');
     } else if (type == "CODE") {
         for (const Rule& rule : rules()) {
+            words.emplace_back(rule.code);
+        }
+    } else if (type == "RULE") {
+        for (const Compare::BreakingRule& rule : Compare::breakingRules()) {
             words.emplace_back(rule.code);
         }
     } else if (type == "KIND") {
