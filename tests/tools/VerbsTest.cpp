@@ -1,3 +1,4 @@
+#include "output/Json.h"
 #include "support/RowNames.h"
 #include "tools/Tool.h"
 
@@ -245,6 +246,69 @@ TEST(Deps, WritesAGraphForGraphviz) {
 TEST(Deps, DrawsAPictureIntoAFile) {
     SKIP_FOR_WINDOWS();
     const Folder folder;
+/// Returns a JSON text without blanks between its parts.
+std::string compacted(const std::string& json) { return Tool::compact(json); }
+
+TEST(Show, PrintsJson) {
+    const Folder folder;
+    folder.write("f.ndjson", group("g", "Safety") + parameter("p", namesG) + parameter("q", namesG));
+    const Outcome outcome = folder.run({"show", "--json", "p"});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+    EXPECT_EQ(
+        compacted(outcome.out),
+        R"({"typeid":"p","kind":"bool-parameter","name":"P","properties":[)"
+        R"({"name":"group","own":true,"values":[{"typeid":"g","name":"Safety","builtIn":false}]},)"
+        R"({"name":"read-only","own":true,"values":[{"text":"no"}]},)"
+        R"({"name":"spec","own":true,"values":[{"typeid":"norvex.spec:spec.bool-1.0.0","name":"Yes/No","builtIn":true}]},)"
+        R"({"name":"discipline","own":false,"values":[{"typeid":"norvex.spec:discipline-1.0.0","name":"Common","builtIn":true}]}],)"
+        R"("file":"./f.ndjson","line":2,"column":1,"dependencies":[)"
+        R"({"property":"group","typeid":"g","name":"Safety","builtIn":false},)"
+        R"({"property":"spec","typeid":"norvex.spec:spec.bool-1.0.0","name":"","builtIn":true}],"dependents":[]})");
+    EXPECT_THAT(
+        compacted(folder.run({"show", "--json", "g"}).out),
+        HasSubstr(R"("dependencies":[],"dependents":[{"property":"group","typeid":"p","name":"P","builtIn":false},)"
+                  R"({"property":"group","typeid":"q","name":"P","builtIn":false}]})"));
+    EXPECT_EQ(folder.run({"show", "--json", "--schema", "p"}).exitCode, 2);
+}
+
+TEST(Deps, PrintsTheGraphAsJsonWithEachObjectOnce) {
+    const Folder folder;
+    folder.write("f.ndjson", group("g", "Safety") + parameter("p", namesG) + parameter("q", namesG));
+    const std::string head = R"({"root":"g","nodes":[{"typeid":"g","kind":"group","name":"Safety","builtIn":false},)";
+    EXPECT_EQ(compacted(folder.run({"deps", "--json", "--reverse", "g"}).out),
+              head + R"({"typeid":"p","kind":"bool-parameter","name":"P","builtIn":false},)"
+                     R"({"typeid":"q","kind":"bool-parameter","name":"P","builtIn":false}],"edges":[)"
+                     R"({"from":"p","to":"g","property":"group"},{"from":"q","to":"g","property":"group"}]})");
+    const std::string out = compacted(folder.run({"deps", "--json", "peltonTurbines", examples}).out);
+    EXPECT_THAT(out, HasSubstr(R"({"from":"hydro.category:turbines-1.0.0","to":"hydro.domain:powerhouse-1.0.0",)"
+                               R"("property":"domain"})"));
+    EXPECT_EQ(folder.run({"deps", "--json", "--dot", "p"}).exitCode, 2);
+    EXPECT_EQ(folder.run({"deps", "--json", "--svg", "-", "p"}).exitCode, 2);
+}
+
+TEST(Deps, PrintsASharedObjectOnceAsJson) {
+    const auto spec = [](const std::string& typeId) {
+        return R"({"typeid":")" + typeId +
+               R"(","inherits":["norvex.talmo.category:majorCategory-1.0.0"],"constants":[)" +
+               R"({"id":"name","value":"C"},{"id":"domain","typedValue":{"typeid":"d"}},)" +
+               R"({"id":"disciplines","typedValue":[{"typeid":"e"},{"typeid":"e"}]}]})" + "\n";
+    };
+    const Folder folder;
+    folder.write("f.ndjson", spec("c") +
+                                 R"({"typeid":"d","inherits":["norvex.talmo.category:domain-1.0.0"],"constants":[)"
+                                 R"({"id":"name","value":"D"}]})"
+                                 "\n"
+                                 R"({"typeid":"e","inherits":["norvex.spec:discipline-1.0.0"],"constants":[)"
+                                 R"({"id":"name","value":"E"}]})"
+                                 "\n");
+    EXPECT_EQ(compacted(folder.run({"deps", "--json", "c"}).out),
+              R"({"root":"c","nodes":[{"typeid":"c","kind":"category","name":"C","builtIn":false},)"
+              R"({"typeid":"d","kind":"domain","name":"D","builtIn":false},)"
+              R"({"typeid":"e","kind":"discipline","name":"E","builtIn":false}],"edges":[)"
+              R"({"from":"c","to":"d","property":"domain"},{"from":"c","to":"e","property":"disciplines"},)"
+              R"({"from":"c","to":"e","property":"disciplines"}]})");
+}
+
     const Outcome outcome = folder.run({"deps", "--svg", "picture.svg", discharge, examples});
     EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
     EXPECT_THAT(folder.read("picture.svg"), HasSubstr("<svg "));

@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace Tool {
@@ -53,6 +54,25 @@ std::string links(const Catalogue& catalogue, std::string_view relation, const s
                        sheetOf(rows));
 }
 
+/// Returns what tells of another object: its typeid, the name that it goes by, and whether it is built in.
+Json jsonOf(const Catalogue& catalogue, const std::string& typeId, const std::string& name) {
+    return {{"typeid", typeId}, {"name", name}, {"builtIn", catalogue.find(typeId) == nullptr}};
+}
+
+Json jsonOf(const Catalogue& catalogue, const Value& value) {
+    return value.typeId.empty() ? Json{{"text", value.text}} : jsonOf(catalogue, value.typeId, value.text);
+}
+
+Json jsonOf(const Catalogue& catalogue, const std::vector<Link>& links) {
+    Json list = Json::array();
+    for (const auto& [property, typeId] : links) {
+        Json link{{"property", property}};
+        link.update(jsonOf(catalogue, typeId, catalogue.nameOf(typeId)));
+        list.push_back(std::move(link));
+    }
+    return list;
+}
+
 } // namespace
 
 std::string sheetOf(const Catalogue& catalogue, const Object& object) {
@@ -60,6 +80,27 @@ std::string sheetOf(const Catalogue& catalogue, const Object& object) {
                        object.section->label, printable(object.typeId), properties(catalogue, object),
                        links(catalogue, "depends on", catalogue.dependencies(object)),
                        links(catalogue, "named by", catalogue.dependents(object.typeId)));
+}
+
+Json jsonOf(const Catalogue& catalogue, const Object& object) {
+    Json properties = Json::array();
+    for (const Property& property : object.properties) {
+        Json values = Json::array();
+        for (const Value& value : property.values) {
+            values.push_back(jsonOf(catalogue, value));
+        }
+        properties.push_back({{"name", property.name}, {"own", property.isOwn}, {"values", std::move(values)}});
+    }
+    const Place place = beginningOf(catalogue.sourceOf(object));
+    return {{"typeid", object.typeId},
+            {"kind", object.section->id},
+            {"name", object.name},
+            {"properties", std::move(properties)},
+            {"file", nameOf(*place.file)},
+            {"line", place.line},
+            {"column", place.column},
+            {"dependencies", jsonOf(catalogue, catalogue.dependencies(object))},
+            {"dependents", jsonOf(catalogue, catalogue.dependents(object.typeId))}};
 }
 
 } // namespace Tool

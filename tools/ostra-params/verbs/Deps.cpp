@@ -1,5 +1,6 @@
 #include "catalogue/Catalogue.h"
 #include "output/Graphviz.h"
+#include "output/Json.h"
 #include "output/OutputFile.h"
 #include "output/Text.h"
 #include "verbs/Verb.h"
@@ -8,6 +9,7 @@
 
 #include <memory>
 #include <set>
+#include <utility>
 
 namespace Tool {
 
@@ -18,6 +20,7 @@ struct Options {
     std::vector<std::string> paths;
     bool isReverse = false;
     bool isDot = false;
+    bool isJson = false;
     std::string svgFile;
 };
 
@@ -31,6 +34,23 @@ public:
 
     const std::string& tree() const { return tree_; }
     const Graph& graph() const { return graph_; }
+
+    /// Returns the graph in the order of the walk: each object once, however many ways lead there.
+    Json json() const {
+        Json nodes = Json::array();
+        for (const Graph::Node& node : graph_.nodes) {
+            const Object* object = catalogue_.find(node.typeId);
+            nodes.push_back({{"typeid", node.typeId},
+                             {"kind", object == nullptr ? "" : object->section->id},
+                             {"name", node.name},
+                             {"builtIn", object == nullptr}});
+        }
+        Json edges = Json::array();
+        for (const Graph::Edge& edge : graph_.edges) {
+            edges.push_back({{"from", edge.from}, {"to", edge.to}, {"property", edge.label}});
+        }
+        return {{"root", graph_.nodes.front().typeId}, {"nodes", std::move(nodes)}, {"edges", std::move(edges)}};
+    }
 
 private:
     std::string labelOf(const std::string& typeId) const {
@@ -74,7 +94,7 @@ ExitCode deps(const Options& options) {
     if (!options.svgFile.empty()) {
         writeSvg(walk.graph(), options.svgFile);
     } else {
-        print(options.isDot ? toDot(walk.graph()) : walk.tree());
+        print(options.isJson ? toText(walk.json()) : options.isDot ? toDot(walk.graph()) : walk.tree());
     }
     return warnOfFaults(catalogue);
 }
@@ -88,11 +108,15 @@ Action addDeps(CLI::App& program) {
     addPaths(*verb, options->paths, false);
     verb->add_flag("--reverse", options->isReverse, "Show what depends on the object instead");
     CLI::Option* dot = verb->add_flag("--dot", options->isDot, "Print a graph in the language of Graphviz");
-    verb->add_option("--svg", options->svgFile,
-                     "Draw the graph into a file, by Graphviz's program dot;\n- stands for standard output")
-        ->check(refuseEmpty)
-        ->type_name("FILE")
-        ->excludes(dot);
+    CLI::Option* svg =
+        verb->add_option("--svg", options->svgFile,
+                         "Draw the graph into a file, by Graphviz's program dot;\n- stands for standard output")
+            ->check(refuseEmpty)
+            ->type_name("FILE")
+            ->excludes(dot);
+    verb->add_flag("--json", options->isJson, "Print the graph as a JSON object: nodes and edges")
+        ->excludes(dot)
+        ->excludes(svg);
     return [options] { return deps(*options); };
 }
 
