@@ -12,6 +12,7 @@
 
 namespace {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -55,6 +56,18 @@ INSTANTIATE_TEST_SUITE_P(Output, FailingOutput,
                                          Verb{"Report", {"report", examples, "-o"}},
                                          Verb{"Deps", {"deps", discharge, examples, "--svg"}}),
                          Support::nameOfRow);
+
+TEST(Output, KeepsAnExportedFolderThatCannotBeReplacedAsAWhole) {
+    SKIP_FOR_WINDOWS();
+    const Folder folder;
+    folder.write("more.ndjson", group + R"({"typeid":"h","inherits":["norvex.parameter:group-1.0.0"],)" +
+                                    R"("constants":[{"id":"name","value":")" + std::string(2000, 'H') + "\"}]}\n");
+    runScript(folder, "$tool export g.json -o out; ulimit -f 1; trap '' XFSZ;"
+                      "$tool export more.ndjson -o out 2> err; echo $? >> err");
+    EXPECT_EQ(folder.read("err"), "ostra-params: Cannot write out/group/h.json: File too large.\n2\n");
+    EXPECT_EQ(folder.read("out/group/g.json"), group);
+    EXPECT_THAT(folder.files(), ElementsAre("err", "g.json", "more.ndjson", "out/group/g.json"));
+}
 
 TEST(Output, FollowsALinkAndKeepsIt) {
     SKIP_FOR_WINDOWS();

@@ -5,7 +5,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <regex>
 #include <string>
 #include <string_view>
@@ -243,9 +246,6 @@ TEST(Deps, WritesAGraphForGraphviz) {
 )");
 }
 
-TEST(Deps, DrawsAPictureIntoAFile) {
-    SKIP_FOR_WINDOWS();
-    const Folder folder;
 /// Returns a JSON text without blanks between its parts.
 std::string compacted(const std::string& json) { return Tool::compact(json); }
 
@@ -309,6 +309,9 @@ TEST(Deps, PrintsASharedObjectOnceAsJson) {
               R"({"from":"c","to":"e","property":"disciplines"}]})");
 }
 
+TEST(Deps, DrawsAPictureIntoAFile) {
+    SKIP_FOR_WINDOWS();
+    const Folder folder;
     const Outcome outcome = folder.run({"deps", "--svg", "picture.svg", discharge, examples});
     EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
     EXPECT_THAT(folder.read("picture.svg"), HasSubstr("<svg "));
@@ -374,6 +377,47 @@ TEST(Export, ReplacesAnEarlierExportAsAWhole) {
     folder.write("f.ndjson", group("b", "B"));
     EXPECT_EQ(folder.run({"export", "f.ndjson", "-o", "out"}).exitCode, 0);
     EXPECT_EQ(folder.files(), (std::vector<std::string>{"f.ndjson", "out/group/b.json"}));
+}
+
+TEST(Export, KeepsFilesThatHaveTheRightContent) {
+    const Folder folder;
+    folder.write("f.ndjson", group("a", "A") + group("b", "B"));
+    EXPECT_EQ(folder.run({"export", "f.ndjson", "-o", "out"}).exitCode, 0);
+    const auto longAgo = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1000);
+    const auto timeOf = [&](const char* name) {
+        return std::filesystem::last_write_time(folder.path() / "out/group" / name);
+    };
+    for (const char* name : {"a.json", "b.json"}) {
+        std::filesystem::last_write_time(folder.path() / "out/group" / name, longAgo);
+    }
+    const auto old = timeOf("a.json");
+    folder.write("f.ndjson", group("a", "A") + group("b", "C") + group("c", "C"));
+    EXPECT_EQ(folder.run({"export", "f.ndjson", "-o", "out"}).exitCode, 0);
+    EXPECT_EQ(folder.read("out/group/a.json"), group("a", "A"));
+    EXPECT_EQ(folder.read("out/group/b.json"), group("b", "C")); // as long as before
+    EXPECT_EQ(timeOf("a.json"), old);
+    EXPECT_NE(timeOf("b.json"), old);
+    EXPECT_EQ(folder.files(),
+              (std::vector<std::string>{"f.ndjson", "out/group/a.json", "out/group/b.json", "out/group/c.json"}));
+}
+
+TEST(Export, ReplacesAFolderOfManyFilesAndLeavesNothingBehind) {
+    const Folder folder;
+    std::string before;
+    std::string after;
+    for (int i = 0; i < 1500; ++i) {
+        before += group("before" + std::to_string(i), "A");
+        after += group("after" + std::to_string(i), "A");
+    }
+    folder.write("f.ndjson", before);
+    EXPECT_EQ(folder.run({"export", "f.ndjson", "-o", "out"}).exitCode, 0);
+    folder.write("f.ndjson", after);
+    EXPECT_EQ(folder.run({"export", "f.ndjson", "-o", "out"}).exitCode, 0);
+    const std::vector<std::string> files = folder.files();
+    EXPECT_EQ(files.size(), 1501U);
+    EXPECT_EQ(std::count_if(files.begin(), files.end(),
+                            [](const std::string& file) { return file.starts_with("out/group/after"); }),
+              1500);
 }
 
 TEST(Export, KeepsAFolderWithOtherFiles) {

@@ -8,8 +8,11 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cctype>
 #include <cstdint>
+#include <fstream>
+#include <future>
 #include <iterator>
 #include <map>
 #include <set>
@@ -19,6 +22,30 @@ namespace Tool {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// Removes all files in a folder and below, several at once: some file systems wait for the device with each.
+void removeFilesIn(const fs::path& folder) {
+    std::error_code error;
+    std::vector<fs::path> files;
+    for (fs::recursive_directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+        if (!entry->is_directory(error)) {
+            files.push_back(entry->path());
+        }
+    }
+    std::atomic<std::size_t> next = 0;
+    const auto removeNext = [&] {
+        for (std::size_t i = next++; i < files.size(); i = next++) {
+            std::error_code ignored; // who removes the folder tries again
+            fs::remove(files[i], ignored);
+        }
+    };
+    constexpr std::size_t most = 8;
+    std::vector<std::future<void>> removals(std::min(files.size() / 100, most)); // a few need no help
+    for (std::future<void>& removal : removals) {
+        removal = std::async(std::launch::async, removeNext);
+    }
+    removeNext();
+}
 
 /// A folder aside, which goes with this object unless it has been moved away.
 class FolderAside {
@@ -33,6 +60,10 @@ public:
     FolderAside(const FolderAside&) = delete;
     FolderAside& operator=(const FolderAside&) = delete;
     ~FolderAside() {
+        try {
+            removeFilesIn(path_);
+        } catch (const std::exception&) { // as of threads that there are no more of
+        }
         std::error_code ignored; // what is left over is no reason to fail
         fs::remove_all(path_, ignored);
     }
@@ -122,6 +153,31 @@ private:
     std::set<std::uint64_t> digests_;
 };
 
+/// Returns whether a file has these bytes and no others.
+bool holds(const fs::path& file, std::string_view content) {
+    std::error_code error;
+    if (fs::file_size(file, error) != content.size() || error) {
+        return false;
+    }
+    std::ifstream stream(file, std::ios::binary);
+    std::string bytes(content.size(), '\0');
+    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return stream && bytes == content;
+}
+
+/// Makes a file in a fresh folder, of the same file in the old one if that has this content: what stays needs neither
+/// to be written nor to be removed. Returns why that failed.
+std::error_code makeFile(const fs::path& fresh, const fs::path& old, std::string_view content) {
+    std::error_code error;
+    if (holds(old, content)) {
+        fs::create_hard_link(old, fresh, error);
+        if (!error) {
+            return error;
+        }
+    }
+    return writeAt(fresh, content);
+}
+
 } // namespace
 
 void replaceFolder(const std::string& name, const std::vector<FolderEntry>& entries) {
@@ -143,11 +199,14 @@ void replaceFolder(const std::string& name, const std::vector<FolderEntry>& entr
         for (const FolderEntry& entry : entries) {
             names[entry.folder].add(entry.name);
         }
+        for (const auto& [section, namesOfSection] : names) {
+            fs::create_directory(fresh / section);
+        }
         for (const FolderEntry& entry : entries) {
-            fs::create_directory(fresh / entry.folder);
-            OutputFile file(fresh / entry.folder / (names[entry.folder].of(entry.name) + ".json"));
-            file.write(entry.content);
-            file.commit();
+            const fs::path file = fs::path(entry.folder) / (names[entry.folder].of(entry.name) + ".json");
+            if (const std::error_code failure = makeFile(fresh / file, target / file, entry.content)) {
+                failToWrite(folder / file, failure);
+            }
         }
         if (isThere) {
             fs::rename(target, old);

@@ -46,12 +46,8 @@ OutputFile::~OutputFile() {
 }
 
 void OutputFile::write(std::string_view content) const {
-    errno = 0;
-    std::ofstream stream(path(), std::ios::binary);
-    stream.write(content.data(), static_cast<std::streamsize>(content.size()));
-    stream.close();
-    if (!stream) {
-        failToWrite(target_, {errno, std::generic_category()});
+    if (const std::error_code error = writeAt(path(), content)) {
+        failToWrite(target_, error);
     }
 }
 
@@ -65,6 +61,14 @@ void OutputFile::commit() {
         failToWrite(target_, error);
     }
     aside_.clear();
+}
+
+std::error_code writeAt(const fs::path& path, std::string_view content) {
+    errno = 0;
+    std::ofstream stream(path, std::ios::binary);
+    stream.write(content.data(), static_cast<std::streamsize>(content.size()));
+    stream.close();
+    return stream ? std::error_code() : std::error_code(errno, std::generic_category());
 }
 
 void writeTo(const std::string& file, std::string_view content) {

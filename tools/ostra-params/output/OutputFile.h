@@ -42,6 +42,9 @@ private:
     std::filesystem::path aside_;
 };
 
+/// Writes a file where it is, which must be aside already. Returns why that failed.
+std::error_code writeAt(const std::filesystem::path& path, std::string_view content);
+
 /// What names the standard output among paths.
 constexpr std::string_view standardOutput = "-";
 
