@@ -88,6 +88,77 @@ const Case cases[] = {
 
 INSTANTIATE_TEST_SUITE_P(Fix, Fixed, testing::ValuesIn(cases), Support::nameOfRow);
 
+struct Slip {
+    const char* name;
+    std::string before;
+    std::string after; ///< Empty for what stays.
+};
+
+class FixedSlips : public testing::TestWithParam<Slip> {};
+
+TEST_P(FixedSlips, WhereOneThingAloneCanBeMeant) {
+    const Folder folder;
+    folder.write("f.json", GetParam().before);
+    folder.run({"fix", "f.json"});
+    EXPECT_EQ(folder.read("f.json"), GetParam().after.empty() ? GetParam().before : GetParam().after);
+}
+
+const Slip slips[] = {
+    {"CommaBehindTheLastMember", "{\"a\": 1,\n}", "{\"a\": 1\n}"},
+    {"CommaBehindTheLastElement", "{\"a\": [1, ]}", "{\"a\": [1 ]}"},
+    {"MissingCommaBeforeAName", "{\"a\": \"x\"\n\"b\": 1}", "{\"a\": \"x\",\n\"b\": 1}"},
+    {"MissingCommaBeforeAnObject", "[{}\n{} {}]", "[{},\n{}, {}]"},
+    {"Semicolon", "{\"a\": 1; \"b\": 2;}", "{\"a\": 1, \"b\": 2}"},
+    {"EqualSign", "{\"a\" = 1}", "{\"a\" : 1}"},
+    {"NameWithoutQuotes", "{\"b\": 1, typeid: 2, b_1 : 3}", "{\"b\": 1, \"typeid\": 2, \"b_1\" : 3}"},
+    {"SingleQuotes", "{'a': ['b', '']}", "{\"a\": [\"b\", \"\"]}"},
+    {"TypographicQuotes", "{\u201Ea\u201C: \u201Cb\u201D, \u00ABc\u00BB: \u2018d\u2019}",
+     "{\"a\": \"b\", \"c\": \"d\"}"},
+    {"Words", "{\"a\": [True, TRUE, False, FALSE]}", "{\"a\": [true, true, false, false]}"},
+    {"Numbers", "[+1, .5, -.5]", "[1, 0.5, -0.5]"},
+    {"Tabs", "{\"a\": \"b\tc\td\"}", "{\"a\": \"b\\tc\\td\"}"},
+    {"Backslashes", R"({"a": "^\d+\.\d$"})", R"({"a": "^\\d+\\.\\d$"})"},
+    {"Blanks", "{\"a\":\u00A01,\u3000\"b\u00A0\":\u200B2}", "{\"a\": 1, \"b\u00A0\":2}"},
+    {"SecondByteOrderMark", "\uFEFF\uFEFF{}", "\uFEFF{}"},
+    {"SeveralSlips", "{a: 'b',\n c: .5;}", "{\"a\": \"b\",\n \"c\": 0.5}"},
+    {"NothingIfOneOfThemMayMeanSeveralThings", "{\"a\": [1,], \"b\": None}", ""},
+    {"NoComment", "{\"a\": 1 // x\n}", ""},
+    {"NoStringWithQuotesInIt", "{'a\"': 1}", ""},
+    {"NoStringWithAnApostrophe", "{\"a\": 'it's'}", ""},
+    {"NoStringOfSeveralLines", "{\"a\": 'b\n'}", ""},
+    {"NoOpenString", "{\"a\": \"b\n}", ""},
+    {"NoOpenObject", "{\"a\": 1\n", ""},
+    {"NoEscapeBesidesABackslash", R"({"a": "C:\new\Users"})", ""},
+    {"NoBackslashBehindAnEscape", R"({"a": "\"\d"})", ""},
+    {"NoHexadecimalEscape", R"({"a": "C:\users"})", ""},
+    {"NoZeros", "{\"a\": 007}", ""},
+    {"NoNumberWithTwoPoints", "{\"a\": 1.2.3}", ""},
+    {"NoLongerWord", "{\"a\": Trueish}", ""},
+    {"NoComparison", "{\"a\" == 1}", ""},
+    {"NoArrow", "{\"a\" => 1}", ""},
+    {"NoMissingValue", "{\"a\"\n\"b\": 1}", ""},
+    {"NoMergeMarker", "{\"a\": 1,\n<<<<<<< HEAD\n\"b\": 1}", ""},
+    {"NoSecondSchema", "{}\n{}", ""},
+};
+
+INSTANTIATE_TEST_SUITE_P(Fix, FixedSlips, testing::ValuesIn(slips), Support::nameOfRow);
+
+TEST(Fix, MendsSlipsThoughTheyHidMoreFaults) {
+    const Folder folder;
+    folder.write("f.ndjson", R"({"typeid":"s","inherits":["norvex.spec:spec.bool-1.0.0"],"constants":[{"id":"nmae",)"
+                             R"("value":"S"},{"id":"discipline","typedValue":{"typeid":"nowhere"}},],})"
+                             "\n" +
+                                 parameter(R"(,{"id":"group","typedValue":{"typeid":"none"}},)"));
+    const Outcome outcome = folder.run({"fix", "f.ndjson"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(folder.read("f.ndjson"),
+              R"({"typeid":"s","inherits":["norvex.spec:spec.bool-1.0.0"],"constants":[{"id":"name",)"
+              R"("value":"S"},{"id":"discipline","typedValue":{"typeid":"nowhere"}}]})"
+              "\n" +
+                  parameter(R"(,{"id":"group","typedValue":{"typeid":"none"}})"));
+    EXPECT_EQ(outcome.err, "ostra-params: 2 faults left; \"ostra-params check\" tells more.\n");
+}
+
 TEST(Fix, ShowsWhatItDidAndTellsWhatIsLeft) {
     const Folder folder;
     folder.write("g.json", safety);

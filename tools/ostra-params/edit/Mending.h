@@ -1,23 +1,24 @@
 #pragma once
 
 #include "catalogue/Input.h"
+#include "edit/Trial.h"
 
 #include <parameters/Fault.h>
 
 #include <cstddef>
 #include <map>
 #include <set>
-#include <span>
 #include <string>
 #include <tuple>
 #include <vector>
 
 namespace Tool {
 
-/// Spells what is misspelt in the texts of an input as the hints say, where they offer one text alone.
+/// Mends the texts of an input: slips of JSON's grammar and what is misspelt, where one thing alone can be meant.
 class Mending {
 public:
-    /// Mends as long as there is something to be mended. What would lead to more errors than before stays as it is.
+    /// Mends as long as there is something to be mended. A text that cannot be made JSON stays as it is, and so does
+    /// what is misspelt if there would be more errors than before.
     explicit Mending(const std::vector<std::string>& paths);
 
     const Input& input() const { return input_; }
@@ -27,16 +28,10 @@ public:
     std::size_t errors() const { return errors_; }
 
 private:
-    struct Proposal {
-        std::size_t number;
-        std::size_t offset;
-        std::string misspelt;
-        std::string meant;
-    };
-
     std::vector<Parameters::Fault> faults() const;
-    std::vector<Proposal> proposals(const std::vector<Parameters::Fault>& faults);
-    bool attempt(std::span<const Proposal> proposals);
+    /// Makes JSON of what is none, and returns what was read. Errors are not compared: the text hid its own.
+    std::map<std::size_t, std::string> mendSlips(const std::vector<Parameters::Fault>& faults);
+    std::vector<Respelling> respellings(const std::vector<Parameters::Fault>& faults);
 
     Input input_;
     std::size_t errors_ = 0;

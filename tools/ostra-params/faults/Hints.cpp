@@ -98,7 +98,7 @@ public:
         const std::size_t number = Input::numberOf(fault.place().text);
         const std::string& text = *input_.sources()[number].text;
         if (fault.code() == "json-syntax") {
-            return {std::string(slipAt(text, fault.place().begin))};
+            return {std::string(slipAt(text, fault.place().begin).hint)};
         }
         if (!fault.nearestName().empty()) {
             return forMisspelt(fault);

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "catalogue/Input.h"
+#include "edit/Edit.h"
 
 #include <parameters/Fault.h>
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,7 +25,13 @@ struct Hint {
 /// Returns a hint for each fault.
 std::vector<Hint> hintsFor(const Input& input, const Headings& headings, const std::vector<Parameters::Fault>& faults);
 
-/// Returns what is probably the matter where a text ceases to be JSON; empty when it is none of the usual slips.
-std::string_view slipAt(std::string_view text, std::size_t offset);
+/// What is probably the matter where a text ceases to be JSON.
+struct Slip {
+    std::string_view hint = {};       ///< Empty when it is none of the usual slips.
+    std::optional<Edit> mending = {}; ///< Nothing where several things may be meant.
+};
+
+/// Returns the slip at the place where a text ceases to be JSON.
+Slip slipAt(std::string_view text, std::size_t offset);
 
 } // namespace Tool

@@ -19,8 +19,9 @@ struct Options {
 };
 
 constexpr const char* details = R"(Mends what "ostra-params check" has a hint for that offers one name alone: typeids,
-bases, and names of members, constants and properties that are misspelt. Prints
-the changes as patch takes them. What would lead to more faults stays as it is.
+bases, and names of members, constants and properties that are misspelt; before
+that, slips of JSON's grammar where one thing alone can be meant. Prints the
+changes as patch takes them. What would lead to more faults stays as it is.
 
 Exit codes:
   0  no fault is left, or would be left
