@@ -71,6 +71,17 @@ TEST_F(LspDiagnostics, FollowWhatIsTyped) {
     EXPECT_EQ(editor.timesToldOf("parameter.json"), 2);
 }
 
+TEST_F(LspDiagnostics, AreToldOnBothSidesOfATypeidThatIsTaken) {
+    folder.write("other.json", without(group, "a-1"));
+    editor.begin();
+    editor.open("group.json", without(group, "a-1"));
+    editor.look();
+    EXPECT_EQ(editor.faultsOf("other.json"), "1:12-1:26 typeid-taken\n");
+    EXPECT_EQ(editor.faultsOf("group.json"), "1:12-1:26 typeid-taken\n");
+    EXPECT_THAT(editor.diagnosticsOf("group.json")[0]["message"].get<std::string>(), HasSubstr("/other.json:2:13."));
+    EXPECT_THAT(editor.diagnosticsOf("other.json")[0]["message"].get<std::string>(), HasSubstr("/group.json:"));
+}
+
 TEST_F(LspDiagnostics, AreNotToldTwice) {
     editor.begin();
     editor.open("group.json", without(group, "a-1"));

@@ -254,6 +254,83 @@ TEST_F(LspEditing, MendsAllOfOneSort) {
     FAIL() << actions.dump(1);
 }
 
+TEST_F(LspEditing, MendsSlipsOfTheGrammarOneByOneOrAllInTheFile) {
+    std::string broken = group;
+    broken.insert(broken.find(']', broken.find("constants")), ",");
+    broken.replace(broken.find("\"name\""), 6, "'name'");
+    begin();
+    editor.open("group.json", broken);
+    const Json actions = actionsAt("group.json", "'name'");
+    ASSERT_THAT(titlesOf(actions),
+                ElementsAre("Write \"name\" in place of 'name'", "Mend all that is plainly misspelt in this file"));
+    EXPECT_EQ(actions[0]["diagnostics"][0]["code"], "json-syntax");
+    EXPECT_EQ(editor.edited(actions[1]["edit"])["group.json"], group);
+    editor.type("group.json", editor.edited(actions[0]["edit"])["group.json"]);
+    const Json more = actionsAt("group.json", ",]");
+    EXPECT_THAT(titlesOf(more), Contains("Remove ,")); // though the fault is behind it
+    const Json last = actionsAt("group.json", "]\n}");
+    ASSERT_THAT(titlesOf(last), Contains("Remove ,"));
+    EXPECT_EQ(editor.edited(last[0]["edit"])["group.json"], group);
+}
+
+TEST_F(LspEditing, MendsWhatTheClientShowsBesideTheCursor) {
+    std::string misspelt = group;
+    misspelt.replace(misspelt.find("\"name\""), 6, "\"nam\"");
+    begin();
+    editor.open("group.json", misspelt);
+    editor.look();
+    const Json elsewhere = rangeAt("group.json", "constants");
+    const auto actionsWith = [&](const Json& diagnostics) {
+        return titlesOf(
+            editor.resultOf("textDocument/codeAction", {{"textDocument", {{"uri", editor.uriOf("group.json")}}},
+                                                        {"range", elsewhere},
+                                                        {"context", {{"diagnostics", diagnostics}}}}));
+    };
+    const char* const mending = "Write name in place of nam";
+    EXPECT_THAT(actionsWith(Json::array()), Not(Contains(mending)));
+    EXPECT_THAT(actionsWith(editor.diagnosticsOf("group.json")), Contains(mending));
+    Json other = editor.diagnosticsOf("group.json");
+    other[0]["code"] = "typeid-taken";
+    EXPECT_THAT(actionsWith(other), Not(Contains(mending)));
+}
+
+TEST_F(LspEditing, MendsALineThatIsNoJson) {
+    const std::string line = R"({"typeid":"t:1","inherits":["norvex.parameter:group-1.0.0"],"constants":[]})";
+    begin();
+    editor.open("lines.ndjson", line + "\n" + R"({"typeid":"t:2" "inherits"=[],})" + "\n" + R"({"typeid";"t:3"})");
+    EXPECT_THAT(titlesOf(actionsAt("lines.ndjson", ";")), ElementsAre());
+    editor.type("lines.ndjson", line + "\n" + R"({"typeid":"t:2", "inherits"=[],})" + "\n" + R"({"typeid":True,})");
+    const Json actions = actionsAt("lines.ndjson", "=");
+    ASSERT_THAT(titlesOf(actions), ElementsAre("Write : in place of =", "Mend all 2 of these (json-syntax)",
+                                               "Mend all that is plainly misspelt in this file"));
+    EXPECT_EQ(editor.edited(actions[1]["edit"])["lines.ndjson"],
+              line + "\n" + R"({"typeid":"t:2", "inherits":[]})" + "\n" + R"({"typeid":true})");
+}
+
+TEST_F(LspEditing, OffersNothingThatWouldMakeItWorse) {
+    // With its base mended, the schema would name three things that are missing.
+    const std::string worse = R"({"typeid":"t:s","inherits":["norvex.talmo.category:majorCategry-1.0.0"],"constants":[)"
+                              R"({"id":"domain","typedValue":{"typeid":"nowhere"}},{"id":"disciplines","typedValue":)"
+                              R"([{"typeid":"none"},{"typeid":"neither"}]},{"id":"name","value":1}]})"
+                              "\n";
+    std::string other = group;
+    other.replace(other.find("parameter:group-1"), 17, "parameter:grop-1");
+    folder.write("other.json", other);
+    other.replace(other.find("t:group.a"), 9, "t:group.c");
+    folder.write("third.json", other);
+    folder.write("worse.ndjson", worse);
+    begin();
+    editor.open("worse.ndjson");
+    EXPECT_EQ(titlesOf(actionsAt("worse.ndjson", "\"norvex")),
+              (std::vector<std::string>{"Mend all 2 of these (base-unrecognized)"}));
+    const Json actions = actionsAt("worse.ndjson", "\"norvex");
+    const auto texts = editor.edited(actions[0]["edit"]);
+    EXPECT_THAT(texts, SizeIs(2));
+    EXPECT_FALSE(texts.contains("worse.ndjson"));
+    editor.type("worse.ndjson", "\n" + worse); // what was tried does not stay known
+    EXPECT_THAT(actionsAt("worse.ndjson", "\"norvex"), SizeIs(1));
+}
+
 TEST_F(LspEditing, AddsConstantsThatAreMissing) {
     const std::string text =
         "{\n  \"typeid\": \"t:r\",\n  \"inherits\": [\"norvex.range:range.int64.bounded.static-1.0.0\"]\n}";

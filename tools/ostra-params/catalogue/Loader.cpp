@@ -19,6 +19,7 @@ void Loader::load() {
     for (const Parameters::Fault& fault : faults) {
         if (fault.isError()) {
             isFaulty_[Input::numberOf(fault.place().text)] = true;
+            ++errors_;
         }
     }
     findings_ = findingsOf(input_, headings_, faults);

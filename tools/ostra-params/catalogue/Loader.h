@@ -37,6 +37,8 @@ public:
     std::size_t files() const { return input_.files(); }
     /// Returns how many of them, and of files that cannot be read, are left out.
     std::size_t leftOut() const;
+    /// Returns how many errors the library found in the texts.
+    std::size_t errors() const { return errors_; }
     /// Returns how many objects there are in each section, which costs time in proportion to the number of units.
     /// @throws Loss if there are fewer objects than sound schemas.
     std::vector<std::size_t> counts();
@@ -53,6 +55,7 @@ private:
 
     Input input_;
     Parameters::ParametersEngine engine_;
+    std::size_t errors_ = 0;
     std::vector<bool> isFaulty_; // by the number of the schema
     Headings headings_{input_.sources(), isFaulty_};
     std::vector<Finding> findings_;

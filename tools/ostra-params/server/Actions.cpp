@@ -2,6 +2,7 @@
 #include "catalogue/Sections.h"
 #include "edit/Edit.h"
 #include "edit/Layout.h"
+#include "edit/Slips.h"
 #include "language/Values.h"
 #include "output/Text.h"
 #include "server/Diagnostics.h"
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace Tool::Lsp {
 
@@ -27,22 +29,34 @@ Json action(const std::string& title, std::string_view kind, const WorkspaceEdit
     return {{"title", title}, {"kind", kind}, {"edit", edit.json()}};
 }
 
-/// Spells what is misspelt as it is meant, if it is known how.
-void respell(WorkspaceEdit& edit, const Problem& problem) {
-    const Finding& finding = problem.finding;
-    if (finding.meant.empty()) {
-        return;
-    }
-    const File& file = *problem.spot.file;
-    for (const Part& part : partsOf(file.name, *file.text)) {
-        if (problem.spot.begin < part.begin || problem.spot.begin > part.begin + part.text.size()) {
-            continue;
+Part partOf(const Problem& problem) {
+    return partAt(problem.spot.file->name, *problem.spot.file->text, problem.spot.begin);
+}
+
+bool isSlip(const Problem& problem) { return problem.finding.code == "json-syntax"; }
+
+/// Spells what is misspelt as it is meant.
+void respell(WorkspaceEdit& edit, const std::vector<const Problem*>& problems) {
+    for (const Problem* problem : problems) {
+        const auto& [finding, spot, other, root] = *problem;
+        const Part part = partOf(*problem);
+        for (const Edit& each : respellingsIn(part.text, spot.begin - part.begin, finding.misspelt, finding.meant)) {
+            edit.replace(*spot.file, part.begin + each.begin, part.begin + each.end, each.text);
         }
-        for (const Edit& each :
-             respellingsIn(part.text, problem.spot.begin - part.begin, finding.misspelt, finding.meant)) {
-            edit.replace(file, part.begin + each.begin, part.begin + each.end, each.text);
-        }
     }
+}
+
+/// Says what an edit does with a text.
+std::string titleOf(const Edit& edit, std::string_view text) {
+    const std::string before = printable(text.substr(edit.begin, edit.end - edit.begin));
+    if (before.empty()) {
+        return fmt::format("Insert {}", edit.text);
+    }
+    if (edit.text.empty()) { // a sign of ASCII or one that nobody sees
+        return isFirstOfCharacter(before.back()) ? fmt::format("Remove {}", before) : "Remove what cannot be seen";
+    }
+    return edit.text == " " ? "Write a plain blank"
+                            : fmt::format("Write {} in place of {}", printable(edit.text), before);
 }
 
 /// Returns what stands between the beginning of a line and an offset, as blanks; nothing when it is not blank.
@@ -125,24 +139,30 @@ public:
     void addFor(const Problem& problem) {
         const Finding& finding = problem.finding;
         WorkspaceEdit edit(session_);
-        respell(edit, problem);
+        if (!finding.meant.empty()) {
+            respell(edit, session_.trials().harmlessOf({&problem}));
+        }
         if (!edit.isEmpty()) {
             add(fmt::format("Write {} in place of {}", printable(finding.meant), printable(finding.misspelt)), quickFix,
                 edit, &problem);
-            addForAll(finding.code);
+        } else if (isSlip(problem)) {
+            addMending(problem);
         } else if (finding.code == "constant-undefined") {
             addMissing(problem);
         } else if (!finding.other && (finding.code == "dependency-missing" || finding.code == "unit-missing")) {
             addCreation(problem);
         }
+        addForAll(finding.code);
     }
 
-    /// Adds one action for all that is plainly misspelt in the file.
+    /// Adds one action for all in the file that one thing alone can be meant by.
     void addForFile(const std::vector<Problem>& problems) {
-        WorkspaceEdit edit(session_);
+        std::vector<const Problem*> all;
         for (const Problem& problem : problems) {
-            respell(edit, problem);
+            all.push_back(&problem);
         }
+        WorkspaceEdit edit(session_);
+        mend(edit, all);
         add("Mend all that is plainly misspelt in this file", fixAll, edit);
     }
 
@@ -169,19 +189,53 @@ private:
         actions_.push_back(std::move(made));
     }
 
-    void addForAll(const std::string& code) {
-        WorkspaceEdit edit(session_);
+    /// Mends those of some problems by which one thing alone can be meant, and which make nothing worse. Returns how
+    /// many they are.
+    std::size_t mend(WorkspaceEdit& edit, const std::vector<const Problem*>& problems) {
+        std::vector<const Problem*> misspelt;
         std::size_t count = 0;
-        for (const auto& [name, problems] : knowledge_.problems()) {
-            for (const Problem& problem : problems) {
-                if (problem.finding.code == code && !problem.finding.meant.empty()) {
-                    respell(edit, problem);
+        for (const Problem* problem : problems) {
+            if (!problem->finding.meant.empty()) {
+                misspelt.push_back(problem);
+            } else if (isSlip(*problem)) {
+                const Part part = partOf(*problem);
+                if (const std::optional<Edit> slips = mendingOfSlips(part.text)) {
+                    edit.replace(*problem->spot.file, part.begin + slips->begin, part.begin + slips->end, slips->text);
                     ++count;
                 }
             }
         }
-        if (count > 1 && std::find(told_.begin(), told_.end(), code) == told_.end()) {
-            told_.push_back(code);
+        if (!misspelt.empty()) {
+            const std::vector<const Problem*>& harmless = session_.trials().harmlessOf(misspelt);
+            respell(edit, harmless);
+            count += harmless.size();
+        }
+        return count;
+    }
+
+    void addMending(const Problem& slip) {
+        const Part part = partOf(slip);
+        if (const std::optional<Edit> mending = mendingOfSlip(part.text)) {
+            WorkspaceEdit edit(session_);
+            edit.replace(file_, part.begin + mending->begin, part.begin + mending->end, mending->text);
+            add(titleOf(*mending, part.text), quickFix, edit, &slip);
+        }
+    }
+
+    void addForAll(const std::string& code) {
+        if (!told_.insert(code).second || !isWanted(quickFix)) {
+            return;
+        }
+        std::vector<const Problem*> all;
+        for (const auto& [name, problems] : knowledge_.problems()) {
+            for (const Problem& problem : problems) {
+                if (problem.finding.code == code && (isSlip(problem) || !problem.finding.meant.empty())) {
+                    all.push_back(&problem);
+                }
+            }
+        }
+        WorkspaceEdit edit(session_);
+        if (const std::size_t count = mend(edit, all); count > 1) {
             add(fmt::format("Mend all {} of these ({})", count, code), quickFix, edit);
         }
     }
@@ -223,27 +277,63 @@ private:
     const Knowledge& knowledge_;
     const File& file_;
     const Json& only_;
-    std::vector<std::string> told_; // codes of which all are offered to be mended
+    std::set<std::string> told_; // codes of which all are offered to be mended
     Json actions_ = Json::array();
+};
+
+} // namespace
+
+namespace {
+
+/// What a request for actions is about: a stretch of a file, and what the client shows there.
+class Subject {
+public:
+    Subject(const Session& session, const File& file, const Json& params)
+        : lines_(*file.text, session.encoding), begin_(offsetOf(params.at("range").at("start"))),
+          end_(offsetOf(params.at("range").at("end"))) {
+        const Json context = params.value("context", Json::object());
+        for (const Json& diagnostic : context.value("diagnostics", Json::array())) {
+            shown_.emplace(offsetOf(diagnostic.at("range").at("start")), diagnostic.value("code", Json()));
+        }
+    }
+
+    /// Returns whether a problem lies in the stretch, or the client shows it beside that, as some do with all of a
+    /// line.
+    bool includes(const Problem& problem) const {
+        const std::size_t begin = std::min(problem.spot.begin, beginOfMending(problem));
+        return (begin <= end_ && problem.spot.end >= begin_) ||
+               shown_.contains({problem.spot.begin, Json(problem.finding.code)});
+    }
+
+private:
+    std::size_t offsetOf(const Json& position) const {
+        return lines_.offsetOf({countOf(position.at("line")), countOf(position.at("character"))});
+    }
+
+    /// What mends a slip may stand before the place where the text ceases to be JSON.
+    static std::size_t beginOfMending(const Problem& problem) {
+        const Part part = partOf(problem);
+        const std::optional<Edit> mending = isSlip(problem) ? mendingOfSlip(part.text) : std::nullopt;
+        return mending ? part.begin + mending->begin : problem.spot.begin;
+    }
+
+    Lines lines_;
+    std::size_t begin_;
+    std::size_t end_;
+    std::set<std::pair<std::size_t, Json>> shown_;
 };
 
 } // namespace
 
 Json codeAction(Session& session, const Json& params) {
     const File file = session.fileIn(params);
-    const Lines lines(*file.text, session.encoding);
-    const auto offsetOf = [&](const char* end) {
-        const Json& position = params.at("range").at(end);
-        return lines.offsetOf({countOf(position.at("line")), countOf(position.at("character"))});
-    };
-    const std::size_t begin = offsetOf("start");
-    const std::size_t end = offsetOf("end");
+    const Subject subject(session, file, params);
     const Json only = params.contains("context") ? params.at("context").value("only", Json()) : Json();
     Actions actions(session, file, only);
     const auto& problems = session.current().problems();
     if (const auto mine = problems.find(file.name); mine != problems.end()) {
         for (const Problem& problem : mine->second) {
-            if (problem.spot.begin <= end && problem.spot.end >= begin) {
+            if (subject.includes(problem)) {
                 actions.addFor(problem);
             }
         }

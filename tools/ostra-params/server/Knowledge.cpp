@@ -5,6 +5,8 @@
 #include "output/Text.h"
 #include "server/Outline.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <set>
 #include <unordered_map>
@@ -117,13 +119,12 @@ private:
 };
 
 Knowledge::Knowledge(Snapshot snapshot, const Knowledge* before) : snapshot_(std::move(snapshot)) {
-    std::vector<KnownFile> known;
     std::vector<KnownFile> halfTyped;
     std::erase_if(snapshot_.files, [](const File& file) { return !isAboutSchemas(*file.text); });
     for (const File& file : snapshot_.files) {
         index_.emplace(file.name, &file);
         if (!file.isOpen) {
-            known.push_back({file.name, file.text});
+            known_.push_back({file.name, file.text});
             continue;
         }
         std::vector<std::size_t> broken;
@@ -138,10 +139,10 @@ Knowledge::Knowledge(Snapshot snapshot, const Knowledge* before) : snapshot_(std
             halfTyped.push_back(onlyBroken(file, broken));
             broken_.emplace(file.name, std::move(broken));
         }
-        known.push_back({file.name, whole});
+        known_.push_back({file.name, whole});
         whole_.emplace(file.name, std::move(whole));
     }
-    catalogue_ = std::make_unique<Catalogue>(known);
+    catalogue_ = std::make_unique<Catalogue>(known_);
     halfTyped_ = std::make_unique<Loader>(halfTyped);
     Spots spots(*this);
     addProblems(halfTyped_->findings(), spots, true);
@@ -164,6 +165,11 @@ void Knowledge::addProblems(const std::vector<Finding>& findings, Spots& spots, 
             Problem problem{finding, spots.spotOf(finding.place)};
             problem.other = finding.other ? std::optional(spots.spotOf(*finding.other)) : std::nullopt;
             problem.root = finding.root ? std::optional(spots.spotOf(*finding.root)) : std::nullopt;
+            if (finding.code == "typeid-taken" && problem.other) { // whoever came later, both may be the wrong one
+                Problem twin{finding, *problem.other, problem.spot};
+                twin.finding.hint = fmt::format("it is that of {}.", toString(finding.place));
+                problems_[*finding.other->file].push_back(std::move(twin));
+            }
             problems_[*finding.place.file].push_back(std::move(problem));
         }
     }

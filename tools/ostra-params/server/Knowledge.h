@@ -35,6 +35,8 @@ public:
 
     std::size_t revision() const { return snapshot_.revision; }
     const std::vector<File>& files() const { return snapshot_.files; }
+    /// Returns what the catalogue was made of.
+    const std::vector<KnownFile>& known() const { return known_; }
     const Catalogue& catalogue() const { return *catalogue_; }
     /// Returns what is wrong, by the name of the file.
     const std::map<std::string, std::vector<Problem>>& problems() const { return problems_; }
@@ -51,7 +53,8 @@ private:
     std::map<std::string, const File*> index_;
     std::map<std::string, Text> whole_;                      // of open files, with JSON alone in them
     std::map<std::string, std::vector<std::size_t>> broken_; // lines in which the parts begin that are none
-    std::unique_ptr<Loader> halfTyped_;                      // of the broken parts alone
+    std::vector<KnownFile> known_;
+    std::unique_ptr<Loader> halfTyped_; // of the broken parts alone
     std::unique_ptr<Catalogue> catalogue_;
     std::map<std::string, std::vector<Problem>> problems_;
 };

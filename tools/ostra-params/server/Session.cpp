@@ -25,18 +25,28 @@ void Session::learn(const std::function<void()>& whenDone) {
 
 void Session::adopt() {
     if (job_.valid() && job_.wait_for(std::chrono::seconds(1)) == std::future_status::ready) {
-        knowledge_ = job_.get();
+        take(job_.get());
     }
 }
 
 const Knowledge& Session::current() {
     if (isBehind() && job_.valid()) {
-        knowledge_ = job_.get();
+        take(job_.get());
     }
     if (isBehind()) {
-        knowledge_ = std::make_shared<const Knowledge>(workspace.snapshot(), knowledge_.get());
+        take(std::make_shared<const Knowledge>(workspace.snapshot(), knowledge_.get()));
     }
     return *knowledge_;
+}
+
+Trials& Session::trials() {
+    current();
+    return trials_ ? *trials_ : trials_.emplace(knowledge_);
+}
+
+void Session::take(std::shared_ptr<const Knowledge> knowledge) {
+    knowledge_ = std::move(knowledge);
+    trials_.reset();
 }
 
 const Knowledge& Session::latest() { return knowledge_ == nullptr ? current() : *knowledge_; }

@@ -3,12 +3,14 @@
 #include "server/Knowledge.h"
 #include "server/Lines.h"
 #include "server/Message.h"
+#include "server/Trials.h"
 #include "server/Workspace.h"
 
 #include <functional>
 #include <future>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace Tool::Lsp {
@@ -32,6 +34,8 @@ public:
 
     /// Returns what is known of the files as they are.
     const Knowledge& current();
+    /// Returns what tries things out in what is known of the files as they are.
+    Trials& trials();
     /// Returns what was last known of the files, without waiting unless nothing is.
     const Knowledge& latest();
 
@@ -43,7 +47,10 @@ public:
     File fileIn(const Json& params) const;
 
 private:
+    void take(std::shared_ptr<const Knowledge> knowledge);
+
     std::shared_ptr<const Knowledge> knowledge_;
+    std::optional<Trials> trials_; // in what is known
     std::future<std::shared_ptr<const Knowledge>> job_;
 };
 

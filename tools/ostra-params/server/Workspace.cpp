@@ -70,6 +70,16 @@ std::vector<Part> partsOf(const std::string& name, std::string_view text) {
     return parts;
 }
 
+Part partAt(const std::string& name, std::string_view text, std::size_t offset) {
+    const std::size_t begin = text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0;
+    if (!holdsLines(name)) {
+        return {begin, text.substr(begin)};
+    }
+    const std::size_t before = text.substr(0, offset).rfind('\n');
+    const std::size_t line = before == text.npos ? begin : before + 1;
+    return {line, text.substr(line, text.find('\n', line) - line)};
+}
+
 void Workspace::addFolder(std::string_view uri) {
     std::string path = pathOf(uri);
     while (path.size() > 1 && path.back() == '/') {

@@ -42,6 +42,8 @@ struct Part {
 
 /// Returns the parts of a file; those that are blank are left out if they are lines.
 std::vector<Part> partsOf(const std::string& name, std::string_view text);
+/// Returns the part around an offset in a file.
+Part partAt(const std::string& name, std::string_view text, std::size_t offset);
 
 /// The files that the client works on: those in its folders, and those that it has opened.
 class Workspace {
