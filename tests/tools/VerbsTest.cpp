@@ -510,14 +510,15 @@ TEST(Report, TellsWhatChangedSinceAnEarlierCatalogue) {
     EXPECT_THAT(folder.read("page.html"), HasSubstr(R"("fate":"removed","typeId":"h")"));
     EXPECT_THAT(folder.read("page.html"), HasSubstr(R"("before":"Safety","after":"Security")"));
     EXPECT_EQ(folder.run({"report", "new.ndjson", "-o", "page.html"}).exitCode, 0);
-    EXPECT_THAT(folder.read("page.html"), Not(HasSubstr(R"("review")")));
+    EXPECT_THAT(folder.read("page.html"), Not(HasSubstr(R"("review":{"name")")));
 }
 
 TEST(Report, ReadsOneOfTwoCataloguesFromStandardInput) {
     const Folder folder;
     folder.write("g.json", group("g", "Security"));
     const std::vector<std::string> arguments{"report", "g.json", "--against", "-", "-o", "-"};
-    EXPECT_THAT(folder.run(arguments, ".out", group("g", "Safety")).out, HasSubstr(R"("review":{"name":"<stdin>")"));
+    EXPECT_THAT(folder.run(arguments, ".out", group("g", "Safety")).out,
+                HasSubstr(R"("review":{"name":"\u003cstdin\u003e")"));
     const Outcome outcome = folder.run({"report", "-", "--against", "-", "-o", "page.html"}, ".out", group("g", "G"));
     EXPECT_EQ(outcome.exitCode, 2);
     EXPECT_EQ(outcome.err, "ostra-params: Standard input can be only one of the two catalogues.\n");

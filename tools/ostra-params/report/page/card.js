@@ -24,10 +24,12 @@ function propertyList(object) {
 function linkItem({ role, object }) {
   return element("li", null, element("span", { class: "role" }, role), element("span", null, ...valueShown(object), element("code", null, object.typeId)));
 }
-// A card with links; of many, the first ones.
+// A card with links; of many, the first ones. Where all are of one role, their kinds tell more.
 function linkCard(title, links) {
-  return element("section", { class: "card" }, element("h3", null, `${title} ${count(links.length)}`),
-    ...firstOf(links, 50, element("ul", { class: "links" }), linkItem));
+  const isOne = links.length > 1 && links.every(({ role }) => role === links[0].role);
+  const shown = isOne ? links.map(({ object }) => ({ object, role: object.kind?.label ?? "" })) : links;
+  return element("section", { class: "card" }, element("h3", null, `${title} ${count(links.length)}${isOne ? `, as ${links[0].role}` : ""}`),
+    ...firstOf(shown, 50, element("ul", { class: "links" }), linkItem));
 }
 async function copy(text) {
   try {

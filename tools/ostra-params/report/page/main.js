@@ -43,7 +43,7 @@ function showState(before) {
     list.scrollTop = 0;
     showFound();
   }
-  const isSame = before !== null && ["object", "view", "fate", "severity"].every((part) => state[part] === before[part]) && paneOf(before) === pane && card.childElementCount > 0;
+  const isSame = before !== null && ["object", "view", "fate", "severity"].every((part) => state[part] === before[part]) && card.childElementCount > 0;
   if (!isSame) {
     const hadFocus = card.contains(document.activeElement);
     showCard();
@@ -51,7 +51,7 @@ function showState(before) {
       card.focus({ preventScroll: true });
     }
   }
-  active = found.objects.indexOf(current);
+  active = current === null ? -1 : found.objects.indexOf(current);
   if (isNarrow.matches && pane !== wasPane) {
     window.scrollTo(0, pane === "list" ? listTop : 0);
   } else if (isNarrow.matches && !isSame && pane === "card") {

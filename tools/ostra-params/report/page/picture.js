@@ -61,7 +61,7 @@ function placeAcross(layers, width) {
       x: left + Math.floor(j / inColumn) * (wide + layout.small), y: (tallest - all) / 2 + (j % inColumn) * (high + layout.small), wide, high }));
     left += columns[i] * (wide + layout.small) - layout.small + gap;
   });
-  return { shown, width: left - gap, height: tallest, isAcross: true };
+  return { shown, crowds: shown.filter((_, i) => columns[i] > 1), width: left - gap, height: tallest, isAcross: true };
 }
 // Layers below each other, where there is no room for that.
 function placeDown(layers, width) {
@@ -77,7 +77,13 @@ function placeDown(layers, width) {
     });
     top += Math.ceil(layer.length / columns) * (layout.high + layout.small) - layout.small + layout.gap * 0.8;
   }
-  return { shown, width, height: top - layout.gap * 0.8, isAcross: false };
+  return { shown, crowds: shown.filter((layer) => layer.length > columns), width, height: top - layout.gap * 0.8, isAcross: false };
+}
+// The frame around a layer whose objects do not all lie beside those that they hang together with.
+function frameAround(layer) {
+  const margin = layout.small / 2;
+  const [left, top] = [Math.min(...layer.map((node) => node.x)), Math.min(...layer.map((node) => node.y))].map((least) => least - margin);
+  return { x: left, y: top, wide: Math.max(...layer.map((node) => node.x + node.wide)) + margin - left, high: Math.max(...layer.map((node) => node.y + node.high)) + margin - top };
 }
 function lineBetween(from, to, isAcross) {
   const middle = (node, isAlong) => (isAlong ? node.x + node.wide / 2 : node.y + node.high / 2);
@@ -111,17 +117,28 @@ function drawPicture(canvas, object, width) {
   const isAcross = layers.length * (layout.least + layout.gap) - layout.gap <= width;
   const placed = (isAcross ? placeAcross : placeDown)(layers, width);
   const drawn = placed.shown.flat();
-  const there = new Set(drawn);
   const self = drawn.find((node) => node.object === object);
-  const lines = edges.filter(([from, to]) => there.has(from) && there.has(to));
+  const ends = new Map(drawn.map((node) => [node, node])); // what a line begins or ends at
+  const frames = placed.crowds.map((layer) => {
+    const frame = frameAround(layer);
+    layer.forEach((node) => ends.set(node, frame));
+    return frame;
+  });
   for (const rest of drawn.filter((node) => node.rest)) {
-    lines.push(rest.layer === layers[0] && layers[0][0].object !== object ? [rest, self] : [self, rest]);
+    edges.push(rest.layer === layers[0] && layers[0][0].object !== object ? [rest, self] : [self, rest]);
+  }
+  const lines = new Map();
+  for (const [from, to] of edges.map((edge) => edge.map((node) => ends.get(node)))) {
+    if (from && to && from !== to) {
+      lines.set(from, (lines.get(from) ?? new Set()).add(to));
+    }
   }
   const tip = shape("marker", { id: "tip", viewBox: "0 0 8 8", refX: 7, refY: 4, markerWidth: 7, markerHeight: 7, orient: "auto" }, shape("path", { d: "M1 1L7 4L1 7" }));
   canvas.style.height = placed.height + "px";
   canvas.replaceChildren(
     shape("svg", { width: placed.width, height: placed.height, "aria-hidden": "true" }, shape("defs", null, tip),
-      ...lines.map(([from, to]) => shape("path", { d: lineBetween(from, to, isAcross), "marker-end": "url(#tip)" }))),
+      ...frames.map((frame) => shape("rect", { x: frame.x, y: frame.y, width: frame.wide, height: frame.high, rx: 11 })),
+      ...[...lines].flatMap(([from, targets]) => [...targets].map((to) => shape("path", { d: lineBetween(from, to, isAcross), "marker-end": "url(#tip)" })))),
     ...drawn.map((node) => boxOf(node, object)));
 }
 

@@ -31,12 +31,18 @@ function readOn(end) {
     starts[number + 1] = starts[number] + text.length + separator.length;
   }
 }
+// Does a part of the work when there is nothing else to do, and comes back for the rest.
 function readAtLeisure(deadline) {
-  while (ownTexts.length < objects.length && (deadline?.timeRemaining() ?? 5) > 2) {
+  while (learnt < objects.length && (deadline?.timeRemaining() ?? 5) > 2) {
     readOn(Math.min(ownTexts.length + 500, objects.length));
+    if (ownTexts.length === objects.length) {
+      learnOn(Math.min(learnt + 500, objects.length));
+    }
   }
-  if (ownTexts.length < objects.length) {
+  if (learnt < objects.length) {
     whenIdle(readAtLeisure);
+  } else {
+    whenIdle(sharedColumns);
   }
 }
 const whenIdle = window.requestIdleCallback ?? ((act) => setTimeout(act, 20));
@@ -59,71 +65,100 @@ const fileTexts = lazy(() => {
 });
 const searchedColumns = lazy(() => new Map(shapes.map((each) => [each, each.properties.flatMap(({ name }, column) => (
   notSearched.has(name) ? [] : [column]))])));
+// The columns with values that stand elsewhere, too, and have a text: of each, the objects, their cells and which values
+// there are.
+const sharedColumns = lazy(() => shapes.flatMap((each) => searchedColumns().get(each).flatMap((column) => {
+  const cells = each.cells[column];
+  const all = Array.isArray(cells) ? cells : [cells];
+  const values = [...new Set(all)].filter((cell) => typeof cell === "number" && sharedTexts()[cell] !== "");
+  return values.length > 0 ? [{ objects: each.objects, cells: all, values }] : [];
+})));
 
 const nowhere = 0;
 const elsewhere = 1;
 const inHead = 2; // in the name or the typeid
 
-function placesIn(text, places) {
+// Finds where each object has a text first, and tells whether that is its head. What is known of a beginning of the text
+// need not be looked for again.
+function placesIn(text, places, known) {
   const all = allTexts();
-  let number = 0;
-  for (let found = all.indexOf(text); found >= 0; found = number < objects.length ? all.indexOf(text, starts[number]) : -1) {
-    let step = 1; // in ever larger steps, as objects that have it lie close together or far apart
-    while (number + step <= objects.length && starts[number + step] <= found) {
-      number += step;
-      step *= 2;
+  const firsts = new Int32Array(objects.length).fill(-1);
+  for (let number = 0; number < objects.length; ++number) {
+    let found = starts[number];
+    if (known) {
+      while (number < objects.length && known.firsts[number] < 0) {
+        ++number;
+      }
+      if (number === objects.length) {
+        break;
+      }
+      found = known.firsts[number];
     }
-    while (step > 0) {
-      if (number + step <= objects.length && starts[number + step] <= found) {
-        number += step;
-      } else {
-        step >>= 1;
+    let same = known ? known.text.length : 0;
+    while (same > 0 && same < text.length && all.charCodeAt(found + same) === text.charCodeAt(same)) {
+      ++same;
+    }
+    if (same < text.length) {
+      found = all.indexOf(text, found);
+      if (found < 0) {
+        break;
+      }
+      for (let step = 1; step > 0;) { // in larger steps and smaller ones again, to the object that has it
+        if (number + step <= objects.length && starts[number + step] <= found) {
+          number += step;
+          step *= 2;
+        } else {
+          step >>= 1;
+        }
       }
     }
+    firsts[number] = found;
     places[number] = found < heads[number] ? inHead : Math.max(places[number], elsewhere);
-    ++number;
   }
+  return firsts;
 }
 function placesAmongValues(texts, places) {
   const has = sharedTexts().map((shared) => texts.some((text) => shared.includes(text)));
   if (!has.includes(true)) {
     return;
   }
-  for (const [each, columns] of searchedColumns()) {
-    for (const cells of columns.map((column) => each.cells[column])) {
-      for (let row = 0; row < each.length; ++row) {
-        if (has[Array.isArray(cells) ? cells[row] : cells]) {
-          places[each.objects[row]] ||= elsewhere;
-        }
+  for (const { objects: numbers, cells, values } of sharedColumns()) {
+    if (!values.some((value) => has[value])) {
+      continue;
+    }
+    for (let row = 0; row < numbers.length; ++row) {
+      if (has[cells.length > 1 ? cells[row] : cells[0]] && places[numbers[row]] === nowhere) {
+        places[numbers[row]] = elsewhere;
       }
     }
   }
 }
 function placesInFiles(texts, places) {
   const has = fileTexts().map((file) => texts.some((text) => file.includes(text)));
-  if (has.includes(true)) {
+  if (has.includes(true) && has.includes(false)) {
     for (let number = 0; number < objects.length; ++number) {
-      if (has[at(data.file, number)]) {
-        places[number] ||= elsewhere;
+      if (places[number] === nowhere && has[data.file[number]]) {
+        places[number] = elsewhere;
       }
     }
   }
 }
-// Returns for each object where it has one of some texts.
-function placesOf(texts) {
+// Returns for each object where it has one of some texts, and where in all texts it has the last of them.
+function placesOf(texts, known) {
   const places = new Uint8Array(objects.length);
-  texts.forEach((text) => placesIn(text, places));
+  const firsts = texts.map((text) => placesIn(text, places, known)).at(-1);
   placesAmongValues(texts, places);
   placesInFiles(texts, places);
-  return places;
+  return { places, firsts };
 }
 // Returns where a word is, or what may be meant by it if it is nowhere; of the words that were looked for last it knows.
 const lately = new Map();
 function placesOfWord(word) {
   if (!lately.has(word)) {
-    const places = placesOf([word]);
-    const near = places.some((place) => place !== nowhere) ? [] : nearTexts(word);
-    lately.set(word, { near, places: near.length > 0 ? placesOf(near) : places });
+    const before = lately.get(word.slice(0, -1));
+    const own = placesOf([word], before?.near.length === 0 ? { text: word.slice(0, -1), firsts: before.firsts } : undefined);
+    const near = own.places.includes(inHead) || own.places.includes(elsewhere) ? [] : nearTexts(word);
+    lately.set(word, { near, ...(near.length > 0 ? placesOf(near) : own) });
     if (lately.size > 20) {
       lately.delete(lately.keys().next().value);
     }
@@ -132,16 +167,22 @@ function placesOfWord(word) {
 }
 
 // ---- one wrong letter is forgiven where a word is found nowhere
+const words = new Set();
+let learnt = 0;
+function learn(text) {
+  for (const word of text.match(/[\p{L}\p{N}]+/gu) ?? []) {
+    words.add(word);
+  }
+}
+function learnOn(end) {
+  for (; learnt < end; ++learnt) {
+    learn(ownTexts[learnt]);
+  }
+}
 const vocabulary = lazy(() => {
-  const words = new Set();
-  const read = (text) => {
-    for (const word of text.match(/[\p{L}\p{N}]+/gu) ?? []) {
-      words.add(word);
-    }
-  };
-  allTexts();
-  ownTexts.forEach(read);
-  sharedTexts().forEach(read);
+  readOn(objects.length);
+  learnOn(objects.length);
+  sharedTexts().forEach(learn);
   return [...words];
 });
 // Returns how long the beginning of a text is that a word differs from by one letter, or by two that changed places;
@@ -219,19 +260,24 @@ function select({ q, kind, group, discipline, file, only, sort }) {
   }
   const searched = words.map((word) => ({ word, ...placesOfWord(word) }));
   // Those that have all words in their names come first.
+  const [worst, ...more] = searched.map(({ places }) => places);
+  const isAll = selected === objects;
   const firsts = [];
   const others = [];
-  for (const object of selected) {
-    let least = inHead;
-    for (const { places } of searched) {
-      least = Math.min(least, places[object.number]);
+  for (let i = 0; i < selected.length; ++i) {
+    const number = isAll ? i : selected[i].number;
+    let place = worst[number];
+    for (let j = 0; j < more.length && place !== nowhere; ++j) {
+      place = Math.min(place, more[j][number]);
     }
-    if (least !== nowhere) {
-      (least === inHead || sort ? firsts : others).push(object);
+    if (place === inHead || (place === elsewhere && sort)) {
+      firsts.push(selected[i]);
+    } else if (place === elsewhere) {
+      others.push(selected[i]);
     }
   }
   return {
-    objects: firsts.concat(others),
+    objects: others.length > 0 ? firsts.concat(others) : firsts,
     words: searched.flatMap(({ word, near }) => (near.length > 0 ? near : [word])),
     corrected: searched.filter(({ near }) => near.length > 0).map(({ word, near }) => [word, near]),
   };
