@@ -215,6 +215,27 @@ TEST(Diff, OfALargeCatalogueFindsNothingInItsExport) {
     EXPECT_EQ(folder.run({"diff", "--breaking", path, "export.ndjson"}).exitCode, 0);
 }
 
+/// What would take time with the square of their number does not end.
+TEST(Diff, ComparesManyObjectsAndElements) {
+    const Folder folder;
+    std::string before;
+    std::string after;
+    std::string choicesBefore = R"({"id":"c","value":0})";
+    std::string choicesAfter = choicesBefore;
+    constexpr int many = 50000;
+    for (int i = 0; i < many; ++i) {
+        const std::string number = std::to_string(i);
+        before += group("old" + number, "G");
+        after += group("new" + number, "G");
+        choicesBefore += R"(,{"id":"a)" + number + R"(","value":)" + number + "}";
+        choicesAfter += R"(,{"id":"b)" + number + R"(","value":0})";
+    }
+    const Outcome outcome =
+        diff(folder, before + choices(choicesBefore), after + choices(choicesAfter), {"--breaking"});
+    EXPECT_THAT(outcome.out,
+                testing::EndsWith("100000 breaking documents, 0 breaking applications, 50000 to review, 0 safe\n"));
+}
+
 TEST(Breaking, TellsWhatBreaksWhyAndWhatDependsOnIt) {
     const Folder folder;
     const Outcome outcome = diff(folder, group("g", "G") + parameter("p", "g") + choices(R"({"id":"A","value":1})"),

@@ -60,7 +60,7 @@ struct Change {
     const Object* after;                        ///< In the new catalogue; likewise.
     Place placeBefore = {};                     ///< Of the typeid; no file where the object is not there.
     Place placeAfter = {};                      ///< Likewise. Of faulty schemas, where the text begins.
-    std::vector<ConstantChange> constants = {}; ///< Of objects that changed, were succeeded or renamed.
+    std::vector<ConstantChange> constants = {}; ///< Of objects that changed or were succeeded.
 
     /// The object as it is now or, if it is gone, was.
     const Object& object() const { return after != nullptr ? *after : *before; }

@@ -282,6 +282,11 @@ std::string textOf(const Dependents& dependents) {
                        dependents.total > std::min(dependents.direct.size(), most) ? " ..." : "");
 }
 
+std::string asSentence(std::string text) {
+    text.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
+    return text + ".";
+}
+
 bool isShown(const Verdict& verdict) { return verdict.rule->severity != Severity::safe && !verdict.isAccepted; }
 
 } // namespace
@@ -367,15 +372,12 @@ std::vector<Finding> findingsOf(const std::vector<Verdict>& verdicts) {
         const Change& change = *verdict.atom.change;
         Finding finding{.code = std::string(verdict.rule->code),
                         .isError = verdict.isBreaking(),
-                        .message = fmt::format("{}. {}", subjectOf(verdict.atom), verdict.rule->why),
+                        .message = fmt::format("{} {}", asSentence(subjectOf(verdict.atom)), verdict.rule->why),
                         .place = verdict.place,
                         .typeId = change.object().typeId,
                         .name = verdict.atom.constant == nullptr ? "" : std::string(verdict.atom.constant->id)};
-        finding.message.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(finding.message.front())));
         if (const std::string names = textOf(verdict.dependents); !names.empty()) {
-            finding.message += " " + names + ".";
-            finding.message[finding.message.size() - names.size() - 1] = static_cast<char>(
-                std::toupper(static_cast<unsigned char>(finding.message[finding.message.size() - names.size() - 1])));
+            finding.message.append(" ").append(asSentence(names));
         }
         const Place& before = verdict.atom.element != nullptr    ? verdict.atom.element->placeBefore
                               : verdict.atom.constant != nullptr ? verdict.atom.constant->placeBefore
