@@ -170,6 +170,31 @@ TEST(Diff, HasTheElementsAndTheirPlacesInJson) {
     EXPECT_EQ(element["placeAfter"]["column"], 49);
 }
 
+TEST(Diff, SaysInJsonWhatNamesAnObjectStillAndWhatSaysALimit) {
+    const Folder folder;
+    const std::string range =
+        R"({"typeid":"r","inherits":["norvex.range:range.int64.bounded.static-1.0.0"],"constants":[)"
+        R"({"id":"fromBottom","value":true},{"id":"bottomBoundary","value":3},{"id":"fromTop","value":false}]})"
+        "\n";
+    const auto limited = [](const std::string& groupTypeId, const std::string& more) {
+        return R"({"typeid":"p","inherits":["norvex.parameter:parameter.int64-3.0.0"],"constants":[)"
+               R"({"id":"name","value":"P"},{"id":"group","typedValue":{"typeid":")" +
+               groupTypeId + "\"}}" + more + "]}\n";
+    };
+    const Outcome outcome =
+        diff(folder, group("g", "G") + range + limited("g", ""),
+             group("h", "G") + range + limited("h", R"(,{"id":"range","typedValue":{"typeid":"r"}})"), {"--json"});
+    const Json constants = Json::parse(outcome.out)["changed"][0]["constants"];
+    ASSERT_EQ(constants.size(), 3U);
+    EXPECT_EQ(constants[0]["isFollowing"], true);
+    EXPECT_EQ(constants[1]["before"], Json());
+    EXPECT_EQ(constants[1]["after"], Json({{"typeid", "r"}}));
+    EXPECT_EQ(constants[2]["id"], "bottomBoundary");
+    EXPECT_EQ(constants[2]["from"], "range");
+    EXPECT_EQ(constants[2]["after"], 3);
+    EXPECT_EQ(constants[2]["placeAfter"]["pointer"], "/constants/2/typedValue");
+}
+
 TEST(Diff, LeavesOutWhatIsFaultyAndSaysSo) {
     const Folder folder;
     const std::string faulty = R"({"typeid":"g","inherits":["norvex.parameter:group-1.0.0"]})"

@@ -191,8 +191,11 @@ Json asJson(const ConstantChange& constant) {
         json["from"] = constant.from;
     }
     addSides(json, constant);
-    if (constant.isFollowing) {
-        json["isFollowing"] = true;
+    for (const auto& [name, isSo] :
+         {std::pair("isFollowing", constant.isFollowing), std::pair("isInOtherUnit", constant.isInOtherUnit)}) {
+        if (isSo) {
+            json[name] = true;
+        }
     }
     if (!constant.elements.empty() || constant.isReordered) {
         Json& elements = json["elements"] = Json::array();
