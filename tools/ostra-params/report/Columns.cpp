@@ -5,9 +5,6 @@
 
 namespace Tool {
 
-namespace {
-
-/// Only as far as there is ASCII, so that it is as many characters to a script as bytes.
 std::size_t sharedBeginning(std::string_view one, std::string_view other) {
     const std::size_t most = std::min(one.size(), other.size());
     std::size_t length = 0;
@@ -16,8 +13,6 @@ std::size_t sharedBeginning(std::string_view one, std::string_view other) {
     }
     return length;
 }
-
-} // namespace
 
 Json columnOf(std::vector<Json> values) {
     const auto isFirst = [&](const Json& value) { return value == values.front(); };

@@ -13,6 +13,10 @@ namespace Tool {
 /// Returns the values of many things, or the one value that all of them have.
 Json columnOf(std::vector<Json> values);
 
+/// Returns how many bytes two texts begin with alike; only as far as there is ASCII, so that it is as many characters
+/// to a script.
+std::size_t sharedBeginning(std::string_view one, std::string_view other);
+
 /// Returns texts that resemble each other as how long each one's beginning is that the one before it has, too, and
 /// what follows.
 Json withSharedBeginnings(const std::vector<std::string_view>& texts);

@@ -3,6 +3,7 @@
 #include "catalogue/Catalogue.h"
 #include "compare/Breaking.h"
 #include "compare/Comparison.h"
+#include "report/Columns.h"
 
 #include <fmt/format.h>
 
@@ -49,7 +50,13 @@ Json dataOf(const ConstantChange& constant) {
     for (const Compare::ElementChange& element : constant.elements) {
         elements.push_back(Json::array({dataOf(element.before), dataOf(element.after)}));
     }
-    Json data{{"id", constant.id}, {"from", constant.from}, {"isReordered", constant.isReordered}};
+    Json data{{"id", constant.id}};
+    if (!constant.from.empty()) {
+        data["from"] = constant.from;
+    }
+    if (constant.isReordered) {
+        data["isReordered"] = true;
+    }
     if (elements.empty()) {
         data["before"] = dataOf(constant.before);
         data["after"] = dataOf(constant.after);
@@ -104,17 +111,20 @@ private:
     Json data_ = Json::array();
 };
 
-Json dataOf(const Judged& each, const Catalogue& before, Rules& rules) {
+/// Returns a text as what it has in common with another at both ends, and what it has between them.
+Json differenceOf(std::string_view text, std::string_view other) {
+    const std::size_t begin = sharedBeginning(text, other);
+    const std::size_t most = std::min(text.size(), other.size()) - begin;
+    const std::size_t end =
+        sharedBeginning(std::string(text.rbegin(), text.rbegin() + static_cast<std::ptrdiff_t>(most)),
+                        std::string(other.rbegin(), other.rbegin() + static_cast<std::ptrdiff_t>(most)));
+    return Json::array({begin, text.substr(begin, text.size() - begin - end), end});
+}
+
+Json dataOf(const Judged& each, const Catalogue& before, const Catalogue& after, Rules& rules) {
     const Change& change = *each.change;
     const Object& object = change.object();
-    Json data{{"fate", Compare::wordOf(change.fate)},
-              {"typeId", object.typeId},
-              {"name", object.name},
-              {"kind", object.section->id},
-              {"severity", Compare::wordOf(each.severity())},
-              {"isThere", change.after != nullptr},
-              {"rules", Json::array()},
-              {"constants", Json::array()}};
+    Json data{{"fate", Compare::wordOf(change.fate)}, {"typeId", object.typeId}, {"rules", Json::array()}};
     for (const Verdict* verdict : each.verdicts) {
         const std::size_t rule = rules.numberOf(*verdict->rule);
         if (std::find(data["rules"].begin(), data["rules"].end(), rule) == data["rules"].end()) {
@@ -125,7 +135,13 @@ Json dataOf(const Judged& each, const Catalogue& before, Rules& rules) {
         data["constants"].push_back(dataOf(constant));
     }
     if (change.before != nullptr) {
-        data["before"] = before.schemaOf(*change.before);
+        const std::string text = before.schemaOf(*change.before);
+        data["before"] = change.after == nullptr ? Json(text) : differenceOf(text, after.schemaOf(*change.after));
+    }
+    if (change.after == nullptr) {
+        data["name"] = object.name;
+        data["kind"] = object.section->id;
+    } else if (change.before != nullptr && change.before->typeId != object.typeId) {
         data["typeIdBefore"] = change.before->typeId;
     }
     if (!each.verdicts.empty() && each.verdicts.front()->dependents.total > 0) {
@@ -144,7 +160,7 @@ Json reviewDataOf(const Catalogue& before, const Catalogue& after, const std::st
     Rules rules;
     Json data{{"name", name}, {"leftOut", before.leftOut()}, {"changes", Json::array()}};
     for (const Judged& each : judged(changes, verdicts)) {
-        data["changes"].push_back(dataOf(each, before, rules));
+        data["changes"].push_back(dataOf(each, before, after, rules));
     }
     data["rules"] = rules.take();
     return data;

@@ -81,7 +81,7 @@ function objectCards(object) {
 }
 
 // ---- where there is no object of a typeid
-const goneAs = (typeId) => review.changes.find((change) => change.typeIdBefore === typeId)?.fate;
+const goneAs = (typeId) => review.changes.find((change) => change.typeIdBefore === typeId || (change.typeId === typeId && !isThere(change)))?.fate;
 function missingCards(typeId) {
   const stem = (text) => text.replace(/-\d+\.\d+\.\d+$/, "");
   const like = objects.filter((object) => stem(object.typeId) === stem(typeId)).slice(0, 10);

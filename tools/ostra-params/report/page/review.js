@@ -6,6 +6,15 @@ const fates = {
 };
 const severities = ["breaks documents", "breaks applications", "review", "safe"];
 const severityClass = (severity) => "severity " + severity.split(" ").at(-1);
+// What the schema text was, if there was one.
+function textBefore({ typeId, before }) {
+  if (!Array.isArray(before)) {
+    return before;
+  }
+  const now = schemaTextOf(findObject(typeId));
+  return now.slice(0, before[0]) + before[1] + now.slice(now.length - before[2]);
+}
+const isThere = ({ kind }) => kind === undefined;
 const changeOf = lazy(() => new Map(review.changes.map((change) => [change.typeId, change])));
 const isBreaking = (change) => change.rules.some((rule) => review.rules[rule].isBreaking);
 const fatesOf = (...names) => (object) => names.includes(changeOf().get(object.typeId)?.fate);
@@ -95,7 +104,7 @@ function constantRow({ id, from, before, after, elements, isReordered }) {
 function textsShown(change) {
   const laidOut = (text) => linesOf(text).map((line) => line.join("")).join("\n");
   const object = findObject(change.typeId);
-  const texts = [change.before, object && change.isThere ? schemaTextOf(object) : undefined].map((text) => text && laidOut(text));
+  const texts = [textBefore(change), isThere(change) ? schemaTextOf(object) : undefined].map((text) => text && laidOut(text));
   const pieces = texts[0] && texts[1] ? differences(...texts) : texts.map((text) => [[text, false]]);
   const side = (title, cut, name) => element("div", null, element("h4", null, title),
     element("pre", { class: "schema text", tabindex: "0", "aria-label": title }, element("code", null, ...piecesShown(cut, name))));
@@ -115,23 +124,23 @@ function changeShown(change) {
   if (change.dependents) {
     parts.push(dependentsShown(change.dependents));
   }
-  if (change.constants.length > 0) {
+  if (change.constants) {
     parts.push(element("table", { class: "constants" }, element("thead", null, element("tr", null, ...["", "Before", "Now"].map((title) => (title ? element("th", { scope: "col" }, title) : element("td"))))),
       element("tbody", null, ...change.constants.map(constantRow))));
   }
-  const details = element("details", null, element("summary", null, change.before && change.isThere ? "Both texts" : "The text"));
+  const details = element("details", null, element("summary", null, change.before && isThere(change) ? "Both texts" : "The text"));
   details.addEventListener("toggle", () => details.childElementCount === 1 && details.append(textsShown(change)));
   return [...parts, details];
 }
 function changeCard(change) {
   const [sign, word] = fates[change.fate];
-  const kind = kindOfId.get(change.kind);
-  const object = findObject(change.typeId);
+  const object = isThere(change) ? findObject(change.typeId) : null;
+  const kind = object?.kind ?? kindOfId.get(change.kind);
   const title = object?.title ?? (change.name || lastPart(change.typeId));
   return element("article", { class: "card change" },
     element("p", { class: "is" }, element("span", { class: `fate ${change.fate}` }, `${sign} ${word}`), " ", ...titled({ kind }), kind.label),
     element("h3", null, object ? element("a", { href: linkTo({ object: change.typeId }) }, title) : title),
-    element("p", { class: "typeid" }, ...(change.typeIdBefore && change.typeIdBefore !== change.typeId ? [element("code", null, change.typeIdBefore), " \u2192 "] : []), element("code", null, change.typeId)),
+    element("p", { class: "typeid" }, ...(change.typeIdBefore ? [element("code", null, change.typeIdBefore), " \u2192 "] : []), element("code", null, change.typeId)),
     ...changeShown(change));
 }
 
