@@ -90,13 +90,13 @@ private:
             addChanged(object);
         } else if (!range.empty() && typeIdIn(*after, "range").empty()) {
             add("range-not-written", object.typeId,
-                fmt::format("is written without its range {}, which limits nothing.", range));
+                fmt::format(" is written without its range {}, which limits nothing.", range));
         } else if (object.section->id == "string-range" && object.properties.front().name == "range") {
             add("any-text-not-written", object.typeId,
-                "allows any text, and is written with an empty regular expression.");
+                " allows any text, and is written with an empty regular expression.");
         } else if (spec != typeIdIn(*after, "spec")) {
             add("version-not-written", object.typeId,
-                fmt::format("is written with {} in place of {}.", typeIdIn(*after, "spec"), spec));
+                fmt::format(" is written with {} in place of {}.", typeIdIn(*after, "spec"), spec));
         } else if (!told_.contains(object.typeId)) { // of a boundary of -0, which is seen
             addChanged(object);
         }
@@ -115,7 +115,7 @@ private:
     }
 
     void compareBoundaries(std::string_view typeId, const auto& before, const auto& after) {
-        constexpr const char* sentence = "is written without its {}, which reads back as 0.";
+        constexpr const char* sentence = " is written without its {}, which reads back as 0.";
         if (!isSame(before.getBottomBoundary(), after.getBottomBoundary())) {
             add("boundary-not-written", typeId, fmt::format(sentence, "bottomBoundary"));
         }
@@ -124,11 +124,11 @@ private:
         }
     }
 
-    void addChanged(const Object& object) { add("object-changed", object.typeId, "does not read back as it is."); }
+    void addChanged(const Object& object) { add("object-changed", object.typeId, " does not read back as it is."); }
 
     void add(const char* code, std::string_view typeId, const std::string& predicate) {
         const Object& object = *before_.find(typeId);
-        std::string message = fmt::format("{} {} {}", object.section->label, typeId, predicate);
+        std::string message = fmt::format("{} {}{}", object.section->label, typeId, predicate);
         message.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(message.front())));
         Finding finding{.code = code, .isError = false, .message = std::move(message)};
         finding.source = *before_.headings().find(object.typeId);
