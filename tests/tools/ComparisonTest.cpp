@@ -71,7 +71,8 @@ std::string_view constantOf(const Definition& definition) {
 class ChangedDefinition : public testing::TestWithParam<Entry> {};
 
 TEST_P(ChangedDefinition, IsSeenToChange) {
-    const auto& [form, definition] = GetParam();
+    const Form& form = GetParam().form;
+    const Definition& definition = GetParam().definition;
     const auto schemaWith = [&](bool isAnother) {
         return Forms::textOf(form, [&](const Definition& each) -> std::optional<Json> {
             const bool isFlag = each.type == Type::boolean && isLimit(definition.id); // which lets limits count

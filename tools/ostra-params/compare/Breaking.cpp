@@ -4,9 +4,8 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
+#include <cstdint>
 #include <limits>
-#include <map>
 #include <unordered_set>
 #include <utility>
 

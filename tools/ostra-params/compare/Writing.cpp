@@ -3,9 +3,8 @@
 #include "language/Language.h"
 
 #include <algorithm>
-#include <array>
+#include <span>
 #include <string>
-#include <utility>
 
 namespace Tool::Compare {
 
