@@ -15,11 +15,14 @@ const sharedTexts = lazy(() => data.values.map((value) => (Array.isArray(value) 
 // as searching it takes a fraction of what searching many does. It is made in slices.
 const ownTexts = [];
 const starts = new Uint32Array(objects.length + 1);
+const typeIdStarts = new Uint32Array(objects.length);
 const heads = new Uint32Array(objects.length); // where what is behind name and typeid begins
 function readOn(end) {
   for (let number = ownTexts.length; number < end; ++number) {
     const object = objects[number];
-    let text = `${object.title}${separator}${object.typeId}`.toLowerCase();
+    let text = object.title.toLowerCase() + separator;
+    typeIdStarts[number] = starts[number] + text.length;
+    text += object.typeId.toLowerCase();
     heads[number] = starts[number] + text.length;
     for (const column of searchedColumns().get(object.shape)) {
       const cell = object.cell(column);
@@ -78,44 +81,37 @@ const nowhere = 0;
 const elsewhere = 1;
 const inHead = 2; // in the name or the typeid
 
-// Finds where each object has a text first, and tells whether that is its head. What is known of a beginning of the text
-// need not be looked for again.
-function placesIn(text, places, known) {
-  const all = allTexts();
-  const firsts = new Int32Array(objects.length).fill(-1);
-  for (let number = 0; number < objects.length; ++number) {
-    let found = starts[number];
-    if (known) {
-      while (number < objects.length && known.firsts[number] < 0) {
-        ++number;
-      }
-      if (number === objects.length) {
-        break;
-      }
-      found = known.firsts[number];
-    }
-    let same = known ? known.text.length : 0;
-    while (same > 0 && same < text.length && all.charCodeAt(found + same) === text.charCodeAt(same)) {
-      ++same;
-    }
-    if (same < text.length) {
-      found = all.indexOf(text, found);
-      if (found < 0) {
-        break;
-      }
-      for (let step = 1; step > 0;) { // in larger steps and smaller ones again, to the object that has it
-        if (number + step <= objects.length && starts[number + step] <= found) {
-          number += step;
-          step *= 2;
-        } else {
-          step >>= 1;
-        }
-      }
-    }
-    firsts[number] = found;
-    places[number] = found < heads[number] ? inHead : Math.max(places[number], elsewhere);
+function isAt(all, place, text) {
+  let same = 0;
+  while (same < text.length && all.charCodeAt(place + same) === text.charCodeAt(same)) {
+    ++same;
   }
-  return firsts;
+  return same === text.length;
+}
+function placesIn(text, places) {
+  const all = allTexts();
+  let offset = 0; // where the typeid before has it: what stands in very many stands in their typeids, at one place
+  for (let number = 0; number < objects.length; ++number) {
+    const guess = typeIdStarts[number] + offset;
+    if (guess + text.length <= heads[number] && isAt(all, guess, text)) {
+      places[number] = inHead;
+      continue;
+    }
+    const found = all.indexOf(text, starts[number]);
+    if (found < 0) {
+      break;
+    }
+    for (let step = 1; step > 0;) { // in larger steps and smaller ones again, to the object that has it
+      if (number + step <= objects.length && starts[number + step] <= found) {
+        number += step;
+        step *= 2;
+      } else {
+        step >>= 1;
+      }
+    }
+    places[number] = found < heads[number] ? inHead : Math.max(places[number], elsewhere);
+    offset = found < heads[number] && found >= typeIdStarts[number] ? found - typeIdStarts[number] : offset;
+  }
 }
 function placesAmongValues(texts, places) {
   const has = sharedTexts().map((shared) => texts.some((text) => shared.includes(text)));
@@ -143,22 +139,21 @@ function placesInFiles(texts, places) {
     }
   }
 }
-// Returns for each object where it has one of some texts, and where in all texts it has the last of them.
-function placesOf(texts, known) {
+// Returns for each object where it has one of some texts.
+function placesOf(texts) {
   const places = new Uint8Array(objects.length);
-  const firsts = texts.map((text) => placesIn(text, places, known)).at(-1);
+  texts.forEach((text) => placesIn(text, places));
   placesAmongValues(texts, places);
   placesInFiles(texts, places);
-  return { places, firsts };
+  return places;
 }
 // Returns where a word is, or what may be meant by it if it is nowhere; of the words that were looked for last it knows.
 const lately = new Map();
 function placesOfWord(word) {
   if (!lately.has(word)) {
-    const before = lately.get(word.slice(0, -1));
-    const own = placesOf([word], before?.near.length === 0 ? { text: word.slice(0, -1), firsts: before.firsts } : undefined);
-    const near = own.places.includes(inHead) || own.places.includes(elsewhere) ? [] : nearTexts(word);
-    lately.set(word, { near, ...(near.length > 0 ? placesOf(near) : own) });
+    const places = placesOf([word]);
+    const near = places.includes(inHead) || places.includes(elsewhere) ? [] : nearTexts(word);
+    lately.set(word, { near, places: near.length > 0 ? placesOf(near) : places });
     if (lately.size > 20) {
       lately.delete(lately.keys().next().value);
     }
