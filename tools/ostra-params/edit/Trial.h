@@ -20,7 +20,7 @@ struct Respelling {
     std::string misspelt;
     std::string meant;
 
-    friend auto operator<=>(const Respelling&, const Respelling&) = default;
+    std::strong_ordering operator<=>(const Respelling&) const = default;
 };
 
 /// Changes the texts of an input as long as that makes nothing worse.
