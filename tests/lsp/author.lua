@@ -219,8 +219,12 @@ local function renameThereAndBack(session, file, old, new)
     count = count + more
   end
   assert(count > 1, "nothing names " .. new)
-  Session.await("it is not known", function()
-    return session:request("workspace/symbol", { query = new })[1]
+  session:edit(file)
+  local references = Session.goTo('"' .. new .. '"')
+  references.position.character = references.position.character + 1
+  references.context = { includeDeclaration = true }
+  Session.await("not all of them are known", function() -- as the editor waits before it tells of other buffers
+    return #session:request("textDocument/references", references) == count
   end)
   print(("%d places name %s after %d ms"):format(count, new, (vim.loop.hrtime() - start) / 1e6))
   rename(new, old)
