@@ -97,6 +97,13 @@ TEST_F(OnWindows, PrintsTheSame) {
     expectSame({});
 }
 
+TEST_F(OnWindows, WritesToDevices) {
+    const Outcome outcome = run({"report", "catalogue", "-o", "NUL"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_FALSE(fs::exists(folder.path() / "NUL"));
+}
+
 TEST_F(OnWindows, WritesTheSameFiles) {
     folder.write("unsafe.ndjson", group("a:G") + group("a:g") + group("CON") + group("nul.x") + group("a."));
     const std::vector<std::string> arguments{"export", "catalogue", "unsafe.ndjson", "-o"};

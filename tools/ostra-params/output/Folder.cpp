@@ -60,6 +60,9 @@ public:
     FolderAside(const FolderAside&) = delete;
     FolderAside& operator=(const FolderAside&) = delete;
     ~FolderAside() {
+        if (isKept_) {
+            return;
+        }
         try {
             removeFilesIn(path_);
         } catch (const std::exception&) { // as of threads that there are no more of
@@ -68,9 +71,12 @@ public:
         fs::remove_all(path_, ignored);
     }
     const fs::path& path() const { return path_; }
+    /// Leaves it where it is.
+    void keep() { isKept_ = true; }
 
 private:
     fs::path path_;
+    bool isKept_ = false;
 };
 
 bool isFromAnExport(const fs::path& folder, const fs::directory_entry& entry) {
@@ -190,7 +196,7 @@ void replaceFolder(const std::string& name, const std::vector<FolderEntry>& entr
     const fs::path target = isThere                 ? fs::canonical(folder) // so that a link to a folder is kept
                             : folder.has_filename() ? folder
                                                     : folder.parent_path(); // "folder/" names the folder
-    const FolderAside aside(target);
+    FolderAside aside(target);
     const fs::path fresh = aside.path() / "new";
     const fs::path old = aside.path() / "old";
     try {
@@ -213,8 +219,16 @@ void replaceFolder(const std::string& name, const std::vector<FolderEntry>& entr
         }
         fs::rename(fresh, target);
     } catch (const fs::filesystem_error& failure) {
-        fs::rename(old, target, error); // if it was moved; the first reason is the one to tell
-        failToWrite(target, failure.code());
+        if (fs::exists(old, error)) { // then it was moved
+            fs::rename(old, target, error);
+            if (error) {
+                aside.keep(); // rather than remove the only copy
+                throw OutputError(fmt::format("Cannot write {}: {}. What was there is in {}.",
+                                              printable(System::textOf(target)), System::messageOf(failure.code()),
+                                              printable(System::textOf(old))));
+            }
+        }
+        failToWrite(target, failure.code()); // the first reason is the one to tell
     }
 }
 

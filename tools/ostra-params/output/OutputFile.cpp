@@ -27,8 +27,7 @@ fs::path followed(fs::path path) {
 } // namespace
 
 OutputFile::OutputFile(fs::path target) : target_(followed(std::move(target))) {
-    std::error_code unknown; // as of a folder that is not there, which is found out below
-    if (fs::is_other(target_, unknown)) {
+    if (System::isDevice(target_)) {
         return;
     }
     try {

@@ -66,6 +66,11 @@ std::size_t readInput(char* buffer, std::size_t size) {
     return count < 0 ? 0 : static_cast<std::size_t>(count);
 }
 
+bool isDevice(const fs::path& path) {
+    std::error_code unknown; // as of a folder that is not there, which is found out by writing
+    return fs::is_other(path, unknown);
+}
+
 fs::path makeFileBeside(const fs::path& target) {
     std::string name = patternBeside(target);
     const int descriptor = ::mkstemp(name.data());

@@ -38,6 +38,9 @@ File open(const std::filesystem::path& path);
 /// of the standard library, which wait until much is there, must not be used beside it.
 std::size_t readInput(char* buffer, std::size_t size);
 
+/// Returns whether a path names what is written to as it is, such as a terminal, a pipe or NUL, and cannot be replaced.
+bool isDevice(const std::filesystem::path& path);
+
 /// Makes an empty file beside another one that it shall replace, with that one's permissions or, if there is none,
 /// those of any new file. Returns its path.
 /// @throws std::system_error

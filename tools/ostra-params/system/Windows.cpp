@@ -112,8 +112,8 @@ struct CloseHandleOf {
 /// A handle that is open; none if it could not be opened.
 using Handle = std::unique_ptr<void, CloseHandleOf>;
 
-/// Opens a file so that a program that is started has it.
-Handle openForChild(const fs::path& path, DWORD access) {
+/// Opens a file that is there so that a program that is started has it, too.
+Handle openFor(const fs::path& path, DWORD access) {
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     const HANDLE file = ::CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited,
                                       OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -159,6 +159,11 @@ std::size_t readInput(char* buffer, std::size_t size) {
     return ::ReadFile(::GetStdHandle(STD_INPUT_HANDLE), buffer, most, &count, nullptr) != 0 ? count : 0;
 }
 
+bool isDevice(const fs::path& path) {
+    const Handle file = openFor(path, GENERIC_WRITE);
+    return file && ::GetFileType(file.get()) != FILE_TYPE_DISK;
+}
+
 fs::path makeFileBeside(const fs::path& target) {
     return makeBeside(target, [](const wchar_t* path) {
         const HANDLE file = ::CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -177,9 +182,9 @@ bool run(const std::string& program, const std::vector<std::string>& arguments) 
 }
 
 std::optional<int> run(const std::string& program, const std::vector<std::string>& arguments, const Streams& streams) {
-    const Handle input = openForChild(streams.input, GENERIC_READ);
-    const Handle output = openForChild(streams.output, GENERIC_WRITE);
-    const Handle errors = openForChild(streams.errors, GENERIC_WRITE);
+    const Handle input = openFor(streams.input, GENERIC_READ);
+    const Handle output = openFor(streams.output, GENERIC_WRITE);
+    const Handle errors = openFor(streams.errors, GENERIC_WRITE);
     if (!input || !output || !errors) {
         return std::nullopt;
     }
