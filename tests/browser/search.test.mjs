@@ -38,6 +38,27 @@ test("those that have it in their names come first", async () => {
   await close(tab);
 });
 
+test("finds letter by letter what it finds at once", async () => {
+  // Few begin with "se", in names, typeids and descriptions.
+  const few = [parameter("sea", "North", "g"), parameter("b", "Seven", "g"), parameter("c", "South", "g", "beside the sea"), parameter("d", "East", "seas")];
+  const others = Array.from({ length: 100 }, (_, i) => parameter(`p:${i}`, `Height ${i}`, "g"));
+  const address = page("letters", [group("g", "G"), group("seas", "Sea"), ...few, ...others]);
+  const atOnce = await open(address);
+  const typed = await open(address);
+  for (const word of ["sea", "seven", "sex", "height 7"]) {
+    await atOnce.fill("#query", word);
+    await typed.fill("#query", "");
+    for (let end = 1; end <= word.length; ++end) {
+      await typed.fill("#query", word.slice(0, end));
+    }
+    assert.deepEqual(await titles(typed), await titles(atOnce), word);
+  }
+  await typed.fill("#query", "sea");
+  assert.deepEqual((await titles(typed)).sort(), ["North", "Sea", "South"]);
+  await close(atOnce);
+  await close(typed);
+});
+
 for (const [slip, word] of [["a wrong letter", "discherge"], ["a letter too few", "dicharge"], ["a letter too many", "disscharge"], ["two the wrong way round", "dischrage"], ["a wrong letter in a word half typed", "dischx"]]) {
   test(`forgives ${slip}, and says so`, async () => {
     const tab = await open(example());

@@ -147,13 +147,41 @@ function placesOf(texts) {
   placesInFiles(texts, places);
   return places;
 }
-// Returns where a word is, or what may be meant by it if it is nowhere; of the words that were looked for last it knows.
+// Returns where a word is whose beginning these objects alone have.
+function placesAmong(numbers, word) {
+  const places = new Uint8Array(objects.length);
+  for (const number of numbers) {
+    const found = ownTexts[number].indexOf(word);
+    if (found >= 0) {
+      places[number] = starts[number] + found < heads[number] ? inHead : elsewhere;
+    }
+  }
+  placesAmongValues([word], places);
+  placesInFiles([word], places);
+  return places;
+}
+// Returns the numbers of objects that have a word, if they are so few that looking at each is quicker than at all texts.
+function fewIn(places) {
+  const numbers = [];
+  for (let number = 0; number < places.length && numbers.length <= places.length / 8; ++number) {
+    if (places[number] !== nowhere) {
+      numbers.push(number);
+    }
+  }
+  return numbers.length <= places.length / 8 ? numbers : null;
+}
+// Returns where a word is, or what may be meant by it if it is nowhere; of the words that were looked for last it knows,
+// and who types a word has just looked for its beginning.
 const lately = new Map();
 function placesOfWord(word) {
   if (!lately.has(word)) {
-    const places = placesOf([word]);
+    let few = null;
+    for (let end = word.length - 1; end > 0 && few === null; --end) {
+      few = lately.get(word.slice(0, end))?.few() ?? null;
+    }
+    const places = few !== null ? placesAmong(few, word) : placesOf([word]);
     const near = places.includes(inHead) || places.includes(elsewhere) ? [] : nearTexts(word);
-    lately.set(word, { near, places: near.length > 0 ? placesOf(near) : places });
+    lately.set(word, { near, places: near.length > 0 ? placesOf(near) : places, few: lazy(() => fewIn(places)) });
     if (lately.size > 20) {
       lately.delete(lately.keys().next().value);
     }
