@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <string>
 
-/// Takes the place of the system's, and lets those renamings fail whose numbers, counted from 1, OSTRA_FAILING_RENAMINGS
-/// has as digits.
+/// Takes the place of the system's, and lets those renamings fail whose numbers, counted from 1,
+/// OSTRA_FAILING_RENAMINGS has as digits.
 extern "C" [[gnu::visibility("default")]] int rename(const char* from, const char* to) noexcept {
     static int count = 0;
     const char* const failing = std::getenv("OSTRA_FAILING_RENAMINGS");
