@@ -4,11 +4,11 @@
 
 #include <parameters/Fault.h>
 
-#include <compare>
 #include <cstddef>
 #include <map>
 #include <span>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace Tool {
@@ -20,7 +20,10 @@ struct Respelling {
     std::string misspelt;
     std::string meant;
 
-    std::strong_ordering operator<=>(const Respelling&) const = default;
+    bool operator<(const Respelling& other) const {
+        return std::tie(number, offset, misspelt, meant) <
+               std::tie(other.number, other.offset, other.misspelt, other.meant);
+    }
 };
 
 /// Changes the texts of an input as long as that makes nothing worse.

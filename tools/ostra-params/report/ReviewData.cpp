@@ -22,7 +22,6 @@ namespace {
 
 using Compare::Change;
 using Compare::ConstantChange;
-using Compare::Fate;
 using Compare::Severity;
 using Compare::Verdict;
 

@@ -26,6 +26,7 @@ const std::vector<const Problem*>& Trials::harmlessOf(const std::vector<const Pr
         input_ = std::make_unique<Input>(knowledge_->known());
     }
     std::vector<Respelling> all;
+    all.reserve(problems.size());
     for (const Problem* problem : problems) {
         all.push_back(respellingOf(*problem));
     }
