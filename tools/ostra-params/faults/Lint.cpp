@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cstddef>
 #include <functional>
 #include <map>
@@ -116,8 +115,7 @@ private:
 
     void add(const char* code, const std::string& typeId, std::string message) {
         if (codes_.contains(code)) {
-            message.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(message.front())));
-            Finding finding{.code = code, .isError = false, .message = std::move(message)};
+            Finding finding{.code = code, .isError = false, .message = capitalized(std::move(message))};
             finding.source = *catalogue_.headings().find(typeId);
             finding.place = placeOf(finding.source);
             finding.typeId = typeId;

@@ -2,6 +2,7 @@
 
 #include "catalogue/Catalogue.h"
 #include "catalogue/Sections.h"
+#include "output/Text.h"
 
 #include <parameters/Kinds.h>
 
@@ -9,7 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cmath>
 #include <set>
 #include <string>
@@ -128,9 +128,9 @@ private:
 
     void add(const char* code, std::string_view typeId, const std::string& predicate) {
         const Object& object = *before_.find(typeId);
-        std::string message = fmt::format("{} {}{}", object.section->label, typeId, predicate);
-        message.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(message.front())));
-        Finding finding{.code = code, .isError = false, .message = std::move(message)};
+        Finding finding{.code = code,
+                        .isError = false,
+                        .message = capitalized(fmt::format("{} {}{}", object.section->label, typeId, predicate))};
         finding.source = *before_.headings().find(object.typeId);
         finding.place = beginningOf(before_.source(finding.source));
         finding.typeId = object.typeId;

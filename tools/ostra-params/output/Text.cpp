@@ -126,6 +126,13 @@ std::string percentEncoded(std::string_view text, std::string_view plain) {
     });
 }
 
+std::string capitalized(std::string text) {
+    if (text.front() >= 'a' && text.front() <= 'z') {
+        text.front() = static_cast<char>(text.front() - 'a' + 'A');
+    }
+    return text;
+}
+
 std::string counted(std::size_t count, std::string_view noun) {
     return fmt::format("{} {}{}", count, noun, count == 1 ? "" : "s");
 }

@@ -30,6 +30,9 @@ std::u32string charactersOf(std::string_view text);
 /// Returns the text with the letters of ASCII in lower case.
 std::string lower(std::string_view text);
 
+/// Returns the text, which is not empty, with a capital if it begins with a letter of ASCII.
+std::string capitalized(std::string text);
+
 /// Returns the 64-bit FNV-1a hash of a text. That of the standard library is another one elsewhere.
 std::uint64_t digestOf(std::string_view text);
 

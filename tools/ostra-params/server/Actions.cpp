@@ -281,10 +281,6 @@ private:
     Json actions_ = Json::array();
 };
 
-} // namespace
-
-namespace {
-
 /// What a request for actions is about: a stretch of a file, and what the client shows there.
 class Subject {
 public:

@@ -285,10 +285,7 @@ std::string textOf(const Dependents& dependents) {
                        dependents.total > std::min(dependents.direct.size(), most) ? " ..." : "");
 }
 
-std::string asSentence(std::string text) {
-    text.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
-    return text + ".";
-}
+std::string asSentence(std::string text) { return capitalized(std::move(text)) + "."; }
 
 bool isShown(const Verdict& verdict) { return verdict.rule->severity != Severity::safe && !verdict.isAccepted; }
 
