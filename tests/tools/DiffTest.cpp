@@ -463,6 +463,25 @@ TEST(DiffAgainst, SaysWhatIsNotThere) {
         StartsWith("ostra-params: Cannot read HEAD of " + elsewhere.path().string() + ": not a git repository"));
 }
 
+/// A hook is told where its repository is, and works at the top of the working tree.
+TEST(DiffAgainst, ReadsItsFolderAloneInAHook) {
+    SKIP_FOR_WINDOWS(); // git is no program of it
+    const Repository repository;
+    repository.git({"worktree", "add", "-q", "linked"});
+    const auto outputOf = [&](const std::string& folder, const std::string& environment) {
+        repository.write("run.sh", "cd " + folder + " && " + environment + " '" + pathOfTool() +
+                                       "' diff --against HEAD catalogue");
+        const Outcome outcome = repository.runProgram("sh", {"run.sh"});
+        return outcome.err + outcome.out;
+    };
+    repository.write("linked/catalogue/a.ndjson", group("g", "Group") + group("h", "H"));
+    const std::string changed = "~ g  group  Group\n    name: G -> Group\n0 added, 0 removed, 1 changed\n";
+    const std::string top = repository.path().string();
+    EXPECT_EQ(outputOf("linked", "GIT_DIR='" + top + "/.git/worktrees/linked'"), changed);
+    EXPECT_EQ(outputOf("linked", "GIT_DIR=../.git/worktrees/linked GIT_WORK_TREE=."), changed);
+    EXPECT_EQ(outputOf(".", "GIT_DIR=.git"), "0 added, 0 removed, 0 changed\n");
+}
+
 TEST(DiffAgainst, NeedsGit) {
     SKIP_FOR_WINDOWS();
     const Repository repository;

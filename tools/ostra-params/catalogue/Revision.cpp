@@ -31,6 +31,7 @@ public:
     std::optional<std::string> ask(const std::string& folder, std::vector<std::string> arguments,
                                    std::string_view input = "") const {
         arguments.insert(arguments.begin(), {"-C", folder});
+        arguments.insert(arguments.begin(), repository_.begin(), repository_.end());
         input_.write(input);
         for (const OutputFile* stream : {&output_, &errors_}) {
             stream->write("");
@@ -52,6 +53,21 @@ public:
 private:
     static fs::path place(const char* name) { return fs::temp_directory_path() / name; }
 
+    /// Returns what the environment says of the repository, as it does in a hook: in the words of options, since git
+    /// takes it to be said of the folder in which it works.
+    static std::vector<std::string> repository() {
+        const auto option = [](const char* name, const std::string& path) {
+            return name + System::textOf(fs::absolute(System::pathOf(path)));
+        };
+        const auto folder = System::environment("GIT_DIR");
+        if (!folder) {
+            return {};
+        }
+        return {option("--git-dir=", *folder),
+                option("--work-tree=", System::environment("GIT_WORK_TREE").value_or("."))};
+    }
+
+    std::vector<std::string> repository_ = repository();
     OutputFile input_{place("ostra-params-git-in")};
     OutputFile output_{place("ostra-params-git-out")};
     OutputFile errors_{place("ostra-params-git-err")};

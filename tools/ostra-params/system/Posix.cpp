@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 
 namespace Tool::System {
 
@@ -53,6 +54,11 @@ std::vector<std::string> begin(int argc, const char* const* argv) { return {argv
 fs::path pathOf(std::string_view name) { return name; }
 
 std::string textOf(const fs::path& path) { return path.string(); }
+
+std::optional<std::string> environment(const char* name) {
+    const char* const value = std::getenv(name); // NOLINT(concurrency-mt-unsafe): nobody changes it
+    return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
+}
 
 bool canDraw() { return ::isatty(STDERR_FILENO) == 1; }
 

@@ -50,6 +50,9 @@ std::filesystem::path makeFileBeside(const std::filesystem::path& target);
 /// @throws std::system_error
 std::filesystem::path makeFolderBeside(const std::filesystem::path& target);
 
+/// Returns what the environment has under a name; nothing where that is not there.
+std::optional<std::string> environment(const char* name);
+
 /// Runs a program that is found where the system looks for programs, with these arguments behind its name, and returns
 /// whether it came to a good end.
 bool run(const std::string& program, const std::vector<std::string>& arguments);

@@ -142,6 +142,11 @@ std::vector<std::string> begin(int, const char* const*) {
 
 fs::path pathOf(std::string_view name) { return wide(name); }
 
+std::optional<std::string> environment(const char* name) {
+    const wchar_t* const value = ::_wgetenv(wide(name).c_str());
+    return value != nullptr ? std::optional(narrow(value)) : std::nullopt;
+}
+
 std::string textOf(const fs::path& path) { return narrow(path.generic_wstring()); }
 
 bool canDraw() {
