@@ -158,8 +158,8 @@ public:
     /// @{
 
     /// Returns all resolved objects of a kind by type identifier, in its byte order; built-in objects are not among
-    /// them. Costs time in proportion to their number; the first list after a change also sorts what is new, and is
-    /// kept until the next change, some 150 bytes an object.
+    /// them. Costs time in proportion to their number; the first list after a change also sorts what is new. Who lists
+    /// a kind again has it kept from then on until the next change, some 150 bytes an object.
     std::map<std::string, Enumeration> getAllEnumerations() const;
     std::map<std::string, FloatRange> getAllFloatRanges() const;
     std::map<std::string, IntRange> getAllIntRanges() const;

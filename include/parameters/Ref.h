@@ -80,7 +80,7 @@ public:
     Ref(Ref&& other) noexcept : data_(std::exchange(other.data_, nullptr)) {}
     template <class Other, class = std::enable_if_t<std::is_convertible<Other*, Data*>::value>>
     Ref(Ref<Other>&& other) noexcept : data_(other.release()) {} // NOLINT(google-explicit-constructor): as of pointers
-    Ref& operator=(const Ref& other) noexcept {
+    Ref& operator=(const Ref& other) noexcept { // NOLINT(bugprone-unhandled-self-assignment): a copy takes its place
         Ref(other).swap(*this);
         return *this;
     }

@@ -31,13 +31,13 @@ public:
     T& operator[](std::size_t place) noexcept { return (*chunks_[place / chunkSize])[place % chunkSize]; }
     const T& operator[](std::size_t place) const noexcept { return (*chunks_[place / chunkSize])[place % chunkSize]; }
 
-    /// Makes room for one more, so that the next add cannot throw.
-    void reserveOne() {
-        if (size_ == chunks_.size() * chunkSize) {
+    /// Makes room for so many in all, so that adding them cannot throw.
+    void reserve(std::size_t size) {
+        while (size > chunks_.size() * chunkSize) {
             chunks_.push_back(std::make_unique<Chunk>());
         }
     }
-    /// Adds an element after reserveOne.
+    /// Adds an element for which there is room.
     void add(const T& element) noexcept { (*this)[size_++] = element; }
 
 private:

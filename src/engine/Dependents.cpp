@@ -18,10 +18,10 @@ Dependents::Dependents(const Registry& registry) {
             for (const std::uint32_t place : store.order()) {
                 const auto& object = store.objects[place];
                 ++objects;
-                forEachNamed(K::recordOf(object), [&](std::string_view typeId) {
-                    auto named = spans_.find(typeId);
+                forEachNamed(K::recordOf(object), [&](const Name& name) {
+                    auto named = spans_.find(name.typeId);
                     if (named == spans_.end()) {
-                        named = spans_.emplace(typeId, Span()).first;
+                        named = spans_.emplace(name.typeId, Span()).first;
                     }
                     if (named->second.last != objects) { // once, however often the object names it
                         named->second.last = objects;

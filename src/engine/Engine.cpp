@@ -30,8 +30,8 @@ bool Engine::isRegistered(const Directory::Key& key) const {
 
 std::optional<KindInfo> Engine::kindOf(std::string_view typeId) const noexcept {
     static constexpr auto infos = infosOf(StoreOrder{});
-    const Directory::Entry* entry = registry_.read().find(typeId);
-    return entry != nullptr ? std::optional(infos[entry->kind]) : std::nullopt;
+    const Directory::Subject* subject = registry_.read().find(typeId);
+    return subject != nullptr ? std::optional(infos[subject->kind]) : std::nullopt;
 }
 
 std::size_t Engine::countObjects(std::optional<KindInfo> kind) const noexcept {
@@ -70,7 +70,7 @@ ValueType Engine::valueTypeOf(const std::string& text) const {
 
 Engine::Missing Engine::registerSchema(const std::string& text) {
     Missing missing;
-    if (!offer(text, &missing)) {
+    if (!offer(text, &missing, {{}, 0})) {
         throw ValidationException(EngineMessages::messages("base-unrecognized").with({}));
     }
     return missing;
@@ -78,32 +78,37 @@ Engine::Missing Engine::registerSchema(const std::string& text) {
 
 void Engine::registerSchemas(const std::map<std::string, std::string>& texts) {
     for (const auto& [typeId, text] : texts) {
-        if (!isRegistered(typeId) && !offer(text, nullptr)) {
+        const Directory::Key key(typeId);
+        if (!isRegistered(key) && !offer(text, nullptr, key)) {
             units_.registerSchema(text);
         }
     }
     resolveSchemas();
 }
 
-bool Engine::offer(const std::string& text, Missing* missing) {
+bool Engine::offer(const std::string& text, Missing* missing, const Directory::Key& free) {
     const Ostra::Schema schema(text, ValidationExceptionFactory::shared());
-    const Directory::Key key(schema.typeId());
-    checkNew(key);
+    const bool isFree = schema.typeId() == free.typeId;
+    const Directory::Key key = isFree ? free : Directory::Key(schema.typeId());
+    if (!isFree) {
+        checkNew(key);
+    }
     return Internal::offer(schema, [&]<class K>() {
         auto record = K::read(schema);
         if (!record) {
             return false;
         }
-        if (missing != nullptr) {
-            findMissing<K>(*record, *missing);
-        }
-        registry_.write().addPending<K>(std::move(*record), key);
+        registry_.write().addPending<K>(std::move(*record), key, [&](const auto& filed) {
+            if (missing != nullptr) {
+                findMissing<K>(filed, *missing);
+            }
+        });
         return true;
     });
 }
 
-template <class K>
-void Engine::findMissing(const typename K::Record& record, Missing& missing) const {
+template <class K, class Record>
+void Engine::findMissing(const Record& record, Missing& missing) const {
     if constexpr (DependentKind<K>) {
         findMissing(record.references, record.typeId(), missing.first);
     }
@@ -112,12 +117,14 @@ void Engine::findMissing(const typename K::Record& record, Missing& missing) con
     }
 }
 
-void Engine::findMissing(const Texts& named, std::string_view ownTypeId, std::set<std::string>& missing) const {
-    for (const std::string_view typeId : named) {
-        if (typeId != ownTypeId && !isRegistered(typeId)) {
-            missing.emplace(typeId);
+template <class Named>
+void Engine::findMissing(const Named& named, std::string_view ownTypeId, std::set<std::string>& missing) const {
+    std::for_each(named.begin(), named.end(), [&](const Name& name) {
+        const bool isKnown = name.typeId == ownTypeId || registry_.read().subjectOf(name) != nullptr;
+        if (!isKnown && !isReserved(name.typeId) && !AnyUnits::isRegistered(units_, name.typeId)) {
+            missing.emplace(name.typeId);
         }
-    }
+    });
 }
 
 void Engine::resolveSchemas() {

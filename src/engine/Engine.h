@@ -125,7 +125,7 @@ private:
     template <class K>
     static std::set<std::string> namedBy(const typename K::Object& object) {
         std::set<std::string> named;
-        forEachNamed(K::recordOf(object), [&](std::string_view typeId) { named.emplace(typeId); });
+        forEachNamed(K::recordOf(object), [&](const Name& name) { named.emplace(name.typeId); });
         return named;
     }
 
@@ -133,11 +133,12 @@ private:
     void checkNew(const Directory::Key& key) const;
 
     /// Files a schema as pending with the first kind that accepts it; returns whether one did. What it names and is not
-    /// registered is added to missing, unless that is null.
-    bool offer(const std::string& text, Missing* missing);
-    template <class K>
-    void findMissing(const typename K::Record& record, Missing& missing) const;
-    void findMissing(const Texts& named, std::string_view ownTypeId, std::set<std::string>& missing) const;
+    /// registered is added to missing, unless that is null. One typeid may be known to be free already.
+    bool offer(const std::string& text, Missing* missing, const Directory::Key& free);
+    template <class K, class Record>
+    void findMissing(const Record& record, Missing& missing) const;
+    template <class Named>
+    void findMissing(const Named& named, std::string_view ownTypeId, std::set<std::string>& missing) const;
 
     Ostra::CopyOnWrite<Registry> registry_;
     Units::UnitsEngine units_;

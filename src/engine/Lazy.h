@@ -34,13 +34,24 @@ public:
         return *published;
     }
 
+    /// Returns a copy of the value. It is kept from the second time on: who asks once gets what was made.
+    template <class Make>
+    T copy(Make make) const {
+        if (const T* value = peek()) {
+            return *value;
+        }
+        return askedBefore_.exchange(true, std::memory_order_relaxed) ? get(make) : make();
+    }
+
     /// Says that the value no longer holds, and hands it out if it was there.
     std::unique_ptr<T> take() noexcept {
+        askedBefore_.store(false, std::memory_order_relaxed);
         return std::unique_ptr<T>(value_.exchange(nullptr, std::memory_order_relaxed));
     }
 
 private:
     mutable std::atomic<T*> value_ = nullptr;
+    mutable std::atomic<bool> askedBefore_ = false; // for a copy
 };
 
 } // namespace Parameters::Internal

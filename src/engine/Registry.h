@@ -9,10 +9,12 @@
 #include "model/Access.h"
 
 #include <algorithm>
+#include <array>
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -21,17 +23,45 @@
 
 namespace Parameters::Internal {
 
-/// What one kind has: schemas that are read and not yet resolved, and objects.
+/// A schema that is read and not yet resolved.
+template <class K>
+struct Pending {
+    typename K::Record record;
+    Directory::EntryId entry{};
+
+    explicit Pending(typename K::Record&& itsRecord) : record(std::move(itsRecord)) {}
+
+    std::string_view typeId() const { return record.typeId(); }
+};
+
+/// Of a linked kind, whose records are not good for longer than their schemas, it holds what it names by their entries.
+template <LinkedKind K>
+struct Pending<K> {
+    Ref<const typename K::Data> data;
+    std::array<Directory::EntryId, References::most> named; // as many as it names, then none
+    Directory::EntryId entry{};
+
+    explicit Pending(Ref<const typename K::Data>&& itsData) : data(std::move(itsData)) { named.fill(Name::noEntry); }
+
+    std::string_view typeId() const { return data->typeId(); }
+};
+
+/// What is pending of a linked kind, as resolution reads it.
+template <LinkedKind K>
+struct LinkedRecord {
+    const typename K::Data* data;
+    References references;
+
+    std::string_view typeId() const { return data->typeId(); }
+};
+
+/// What one kind has: schemas that are pending, and objects.
 template <class K>
 class Store {
 public:
     using Object = typename K::Object;
-    struct Pending {
-        typename K::Record record;
-        Directory::EntryId entry;
-    };
 
-    std::vector<Pending> pending;
+    std::vector<Pending<K>> pending;
     std::vector<Object> objects;
 
     /// Returns the places of all objects in the order of their typeids, good until the store grows.
@@ -42,7 +72,7 @@ public:
 
     /// Returns all objects by typeid.
     std::map<std::string, Object> all() const {
-        return list_.get([this] { return makeList(); }); // copying a map costs half of making one
+        return list_.copy([this] { return makeList(); }); // copying a map costs half of making one
     }
 
     /// Returns all objects in the order of their typeids, good until the store grows.
@@ -93,14 +123,14 @@ public:
     const Store<K>& store() const noexcept {
         return std::get<kindIndex<K>>(stores_);
     }
-    const Directory::Entry* find(const Directory::Key& key) const noexcept { return directory_.find(key); }
+    const Directory::Subject* find(const Directory::Key& key) const noexcept { return directory_.find(key); }
 
     /// Returns the object of that kind and typeid, or null.
     template <class K>
     const typename K::Object* findObject(std::string_view typeId) const noexcept {
-        const Directory::Entry* entry = find(typeId);
-        return entry != nullptr && entry->resolved && entry->kind == kindIndex<K> ? &store<K>().objects[entry->place]
-                                                                                  : nullptr;
+        const Directory::Subject* subject = find(typeId);
+        const bool isThat = subject != nullptr && subject->resolved && subject->kind == kindIndex<K>;
+        return isThat ? &store<K>().objects[subject->place] : nullptr;
     }
 
     /// Returns what names the object of that typeid, good until an object is added.
@@ -109,8 +139,8 @@ public:
     }
 
     bool isPending(std::string_view typeId) const noexcept {
-        const Directory::Entry* entry = find(typeId);
-        return entry != nullptr && !entry->resolved;
+        const Directory::Subject* subject = find(typeId);
+        return subject != nullptr && !subject->resolved;
     }
 
     bool hasPending() const noexcept {
@@ -121,35 +151,71 @@ public:
     /// one.
     template <class Visitor>
     bool visitObject(std::string_view typeId, Visitor&& visit) const {
-        const Directory::Entry* entry = find(typeId);
-        if (entry == nullptr || !entry->resolved) {
+        const Directory::Subject* subject = find(typeId);
+        if (subject == nullptr || !subject->resolved) {
             return false;
         }
-        withKind(entry->kind, [&]<class K>() { visit.template operator()<K>(store<K>().objects[entry->place]); });
+        withKind(subject->kind, [&]<class K>() { visit.template operator()<K>(store<K>().objects[subject->place]); });
         return true;
     }
 
-    /// Files a record whose typeid, the key, is new. Changes nothing when it throws.
-    template <class K>
-    void addPending(typename K::Record&& record, const Directory::Key& key) {
-        auto& pending = std::get<kindIndex<K>>(stores_).pending;
-        directory_.reserveOne();
-        pending.push_back({std::move(record), 0});
-        pending.back().entry =
-            directory_.add({pending.back().record.typeId(), static_cast<std::uint32_t>(pending.size() - 1),
-                            static_cast<std::uint8_t>(kindIndex<K>), false},
-                           key.hash);
+    /// Returns what a name stands for, or null.
+    const Directory::Subject* subjectOf(const Name& name) const noexcept {
+        return name.entry != Name::noEntry ? directory_.find(name.entry) : directory_.find(name.typeId);
     }
 
-    /// Withdraws a record that is pending.
-    void discardPending(std::string_view typeId) noexcept {
+    /// Returns the record of a schema that is pending, good as long as that stays where it is.
+    template <class K>
+    static const typename K::Record& recordOf(const Pending<K>& pending) noexcept {
+        return pending.record;
+    }
+    template <LinkedKind K>
+    LinkedRecord<K> recordOf(const Pending<K>& pending) const noexcept {
+        const auto nameAt = [&](std::size_t at) {
+            return Name(directory_[pending.named[at]].typeId(), &pending.named[at], pending.named[at]);
+        };
+        const bool namesMore = pending.named[2] != Name::noEntry;
+        return {&*pending.data, {nameAt(0), nameAt(1), namesMore ? std::optional(nameAt(2)) : std::nullopt}};
+    }
+
+    /// Files a record whose typeid, the key, is new; before, calls check(record) with the record as it will be. Changes
+    /// nothing when it throws.
+    template <class K, class Check>
+    void addPending(typename K::Record&& record, const Directory::Key& key, Check check) {
+        auto& pending = std::get<kindIndex<K>>(stores_).pending;
+        directory_.reserve(1 + References::most);
+        if constexpr (LinkedKind<K>) {
+            pending.push_back(Pending<K>(std::move(record.data)));
+        } else {
+            pending.push_back(Pending<K>(std::move(record)));
+        }
+        try {
+            if constexpr (LinkedKind<K>) {
+                std::transform(record.references.begin(), record.references.end(), pending.back().named.begin(),
+                               [this](const Name& name) { return directory_.name(name.typeId); });
+            }
+            check(recordOf<K>(pending.back()));
+        } catch (...) {
+            forgetNamed(pending.back());
+            pending.pop_back();
+            throw;
+        }
+        const auto place = static_cast<std::uint32_t>(pending.size() - 1);
+        pending.back().entry = directory_.add(pending.back().typeId(), key.hash, {place, number<K>, false});
+    }
+
+    /// Withdraws a record that is pending. Changes nothing when it throws.
+    void discardPending(std::string_view typeId) {
         const Directory::EntryId id = directory_.idOf(typeId);
-        withKind(directory_[id].kind, [&]<class K>() {
+        withKind(directory_[id].subject.kind, [&]<class K>() {
             auto& pending = std::get<kindIndex<K>>(stores_).pending;
-            const std::uint32_t place = directory_[id].place;
-            std::swap(pending[place], pending.back());
-            directory_[pending[place].entry].place = place;
+            const std::uint32_t place = directory_[id].subject.place;
             directory_.remove(id); // while the record still holds the typeid
+            forgetNamed(pending[place]);
+            if (place + 1 < pending.size()) {
+                pending[place] = std::move(pending.back());
+                directory_[pending[place].entry].subject.place = place;
+            }
             pending.pop_back();
         });
     }
@@ -158,13 +224,12 @@ public:
     template <class K>
     void addObject(const typename K::Object& object) {
         auto& store = std::get<kindIndex<K>>(stores_);
-        directory_.reserveOne();
+        directory_.reserve(1);
         store.objects.push_back(object);
         store.grown();
         dependents_.take();
-        directory_.add({typeIdOf(object), static_cast<std::uint32_t>(store.objects.size() - 1),
-                        static_cast<std::uint8_t>(kindIndex<K>), true},
-                       Directory::Key(typeIdOf(object)).hash);
+        const auto place = static_cast<std::uint32_t>(store.objects.size() - 1);
+        directory_.add(typeIdOf(object), Directory::Key(typeIdOf(object)).hash, {place, number<K>, true});
     }
 
     /// Gives back the room for pending records that was made ahead.
@@ -179,9 +244,9 @@ public:
             auto& store = std::get<kindIndex<K>>(stores_);
             store.reserveObjects(store.pending.size());
             if constexpr (LinkedKind<K>) {
-                for (auto& [record, entry] : store.pending) {
-                    if (record.makeSole()) {
-                        directory_[entry].typeId = record.typeId();
+                for (auto& pending : store.pending) {
+                    if (K::makeSole(pending.data)) {
+                        directory_[pending.entry].setTypeId(pending.typeId());
                     }
                 }
             }
@@ -199,26 +264,31 @@ public:
         std::size_t left = 0;
         for (std::size_t place = 0; place < staged.size(); ++place) {
             auto& pending = store.pending[place];
-            Directory::Entry& entry = directory_[pending.entry];
+            Directory::Subject& subject = directory_[pending.entry].subject;
             if (staged[place].isNone()) {
-                entry.place = static_cast<std::uint32_t>(left);
+                subject.place = static_cast<std::uint32_t>(left);
                 moveDown(store.pending, place, left++);
             } else {
-                entry.place = static_cast<std::uint32_t>(store.objects.size());
-                entry.resolved = true;
-                store.objects.push_back(staged[place].finish(std::move(pending.record)));
-                assert(entry.typeId.data() == typeIdOf(store.objects.back()).data()); // which stays
+                subject.place = static_cast<std::uint32_t>(store.objects.size());
+                subject.resolved = true;
+                forgetNamed(pending);
+                store.objects.push_back(staged[place].finish(std::move(pending)));
+                // The typeid stays where it is.
+                assert(directory_[pending.entry].bytes == typeIdOf(store.objects.back()).data());
             }
         }
         store.pending.erase(store.pending.begin() + static_cast<std::ptrdiff_t>(left), store.pending.end());
         if (left == 0) {
-            std::vector<typename Store<K>::Pending>().swap(store.pending);
+            std::vector<Pending<K>>().swap(store.pending);
         }
         store.grown();
         dependents_.take();
     }
 
 private:
+    template <class K>
+    static constexpr auto number = static_cast<std::uint8_t>(kindIndex<K>);
+
     template <class... Ks>
     static std::tuple<Store<Ks>...> storesOf(KindList<Ks...>);
 
@@ -226,6 +296,17 @@ private:
     static void moveDown(std::vector<T>& elements, std::size_t from, std::size_t to) noexcept {
         if (from != to) {
             elements[to] = std::move(elements[from]);
+        }
+    }
+
+    template <class K>
+    void forgetNamed(const Pending<K>& pending) noexcept {
+        if constexpr (LinkedKind<K>) {
+            for (const Directory::EntryId named : pending.named) {
+                if (named != Name::noEntry) {
+                    directory_.forget(named);
+                }
+            }
         }
     }
 

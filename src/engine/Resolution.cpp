@@ -13,17 +13,17 @@ namespace Parameters::Internal {
 namespace {
 
 template <class K>
-const void* addressOf(const Registry& registry, const Staging* staging, const Directory::Entry& entry) {
-    if (entry.resolved) {
-        return &registry.store<K>().objects[entry.place];
+const void* addressOf(const Registry& registry, const Staging* staging, const Directory::Subject& subject) {
+    if (subject.resolved) {
+        return &registry.store<K>().objects[subject.place];
     }
-    if (staging == nullptr || entry.place >= staging->of<K>().size()) {
+    if (staging == nullptr || subject.place >= staging->of<K>().size()) {
         return nullptr;
     }
-    return staging->of<K>()[entry.place].object();
+    return staging->of<K>()[subject.place].object();
 }
 
-using AddressOf = const void* (*)(const Registry& registry, const Staging* staging, const Directory::Entry& entry);
+using AddressOf = const void* (*)(const Registry& registry, const Staging* staging, const Directory::Subject& subject);
 
 template <class... Ks>
 constexpr std::array<AddressOf, sizeof...(Ks)> addressesOf(KindList<Ks...>) {
@@ -35,9 +35,9 @@ constexpr auto addresses = addressesOf(StoreOrder{});
 
 } // namespace
 
-const void* RegistryFinder::lookUp(std::size_t kind, std::string_view typeId) const {
-    const Directory::Entry* entry = registry_.find(typeId);
-    return entry != nullptr && entry->kind == kind ? addresses[kind](registry_, staging_, *entry) : nullptr;
+const void* RegistryFinder::lookUp(std::size_t kind, const Name& name) const {
+    const Directory::Subject* subject = registry_.subjectOf(name);
+    return subject != nullptr && subject->kind == kind ? addresses[kind](registry_, staging_, *subject) : nullptr;
 }
 
 std::optional<Units::Unit> RegistryFinder::findUnit(const std::string& typeId) const {
@@ -69,7 +69,7 @@ void Resolution::build(Stop stop) {
         std::iota(places.begin(), places.end(), std::size_t{0});
         std::sort(places.begin(), places.end(), [&pending](std::size_t a, std::size_t b) {
             const auto key = [&](std::size_t place) {
-                return std::pair(K::passOf(pending[place].record), pending[place].record.typeId());
+                return std::pair(K::passOf(pending[place].record), pending[place].typeId());
             };
             return key(a) < key(b);
         });
@@ -90,7 +90,7 @@ void Resolution::build(Stop stop) {
 
 template <class K>
 void Resolution::build(std::size_t place) {
-    const auto& record = registry_.store<K>().pending[place].record;
+    const auto& record = registry_.recordOf<K>(registry_.store<K>().pending[place]);
     staging_.of<K>()[place].make(record, finder_);
     if (finder_.hasUnresolved()) {
         takeFaults(record);

@@ -53,7 +53,7 @@ public:
         : Finder(Purpose::resolution), registry_(registry), units_(units), staging_(&staging) {}
 
 private:
-    const void* lookUp(std::size_t kind, std::string_view typeId) const override;
+    const void* lookUp(std::size_t kind, const Name& name) const override;
     std::optional<Units::Unit> findUnit(const std::string& typeId) const override;
 
     const Registry& registry_;
@@ -115,14 +115,14 @@ private:
 template <class Record>
 void Resolution::takeFaults(const Record& record) {
     std::unordered_map<std::string_view, std::size_t, Ostra::TextHash> counts;
-    std::unordered_map<const char*, std::size_t> occurrences; // of what stands there in the record
-    forEachNamed(record, [&](std::string_view typeId) {
-        if (!typeId.empty()) { // which has no place of its own
-            occurrences.emplace(typeId.data(), counts[typeId]++);
+    std::unordered_map<const void*, std::size_t> occurrences; // of what stands there in the record
+    forEachNamed(record, [&](const Name& name) {
+        if (!name.typeId.empty()) { // which has no place of its own
+            occurrences.emplace(name.place, counts[name.typeId]++);
         }
     });
     for (Unresolved& cause : finder_.takeUnresolved()) {
-        const std::size_t occurrence = occurrences.at(cause.named.data());
+        const std::size_t occurrence = occurrences.at(cause.named.place);
         faults_.push_back({record.typeId(), std::move(cause), occurrence});
     }
 }

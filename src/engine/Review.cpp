@@ -34,8 +34,8 @@ struct ReadText {
 
     const std::string* key;
     const std::string* text;
-    std::string_view typeId = {}; // its record's or its own, if it could be read
-    Texts ownTypeId = {};         // of what has no record
+    std::string_view typeId = {}; // that of what is pending, or its own, if it could be read
+    Texts ownTypeId = {};         // of what is not pending
     std::size_t kind = unknownKind;
     int pass = 0;
     bool isPending = false; // in the registry, until resolution
@@ -47,16 +47,6 @@ bool isOfNoBase(const FaultData& fault) {
     return fault.code == EngineMessages::messages("base-unrecognized").code ||
            fault.code == EngineMessages::messages("unit-refused").code;
 }
-
-/// Records that are sound enough to look for what they name, but not to be registered.
-template <class K>
-struct Aside {
-    typename K::Record record;
-    TextId text;
-};
-
-template <class... Ks>
-std::tuple<std::vector<Aside<Ks>>...> asidesOf(KindList<Ks...>);
 
 class Review {
 public:
@@ -83,7 +73,7 @@ private:
     static void tellTaken(const Ostra::Schema& schema);
     std::vector<Ostra::DocumentFault> faultsReadAgain(TextId id, bool isTaken);
     template <class K>
-    bool readAs(const Ostra::Schema& schema, TextId id);
+    bool readAs(const Ostra::Schema& schema, const Directory::Key& typeId, TextId id);
     void readUnit(TextId id, bool isTaken);
 
     FaultData emptyFault(TextId id, const Ostra::Message& message) const;
@@ -109,7 +99,7 @@ private:
     Units::UnitsEngine& units_;
     std::optional<Units::UnitsEngine> apart_; // a copy, for units that are not to be registered
     std::vector<ReadText> texts_;
-    decltype(asidesOf(StoreOrder{})) asides_;
+    std::vector<TextId> asides_; // that are sound enough to look for what they name, but not to be registered
     std::vector<TextFault> faults_;
     std::vector<Missing> missing_;
     Ostra::Inspection inspection_;
@@ -129,13 +119,15 @@ bool Review::isTaken(const Directory::Key& key) {
 void Review::read(const std::string& key, const std::string& text) {
     const TextId id = texts_.size();
     const Ostra::Schema schema(text, inspection_);
-    const bool taken = schema.isReadable() && isTaken(schema.typeId());
+    const Directory::Key typeId(schema.typeId());
+    const bool taken = schema.isReadable() && isTaken(typeId);
     if (taken) {
         tellTaken(schema);
     }
     texts_.push_back({&key, &text});
-    const bool isAccepted = schema.isReadable() && offer(schema, [&]<class K>() { return readAs<K>(schema, id); });
-    if (!isAccepted && !schema.typeId().empty()) {
+    const bool isAccepted =
+        schema.isReadable() && offer(schema, [&]<class K>() { return readAs<K>(schema, typeId, id); });
+    if (!texts_[id].isPending && !schema.typeId().empty()) {
         texts_[id].ownTypeId = Texts{schema.typeId()};
         texts_[id].typeId = texts_[id].ownTypeId[0];
     }
@@ -164,7 +156,7 @@ std::vector<Ostra::DocumentFault> Review::faultsReadAgain(TextId id, bool isTake
 }
 
 template <class K>
-bool Review::readAs(const Ostra::Schema& schema, TextId id) {
+bool Review::readAs(const Ostra::Schema& schema, const Directory::Key& typeId, TextId id) {
     auto record = K::read(schema);
     if (!record) {
         return false;
@@ -172,14 +164,14 @@ bool Review::readAs(const Ostra::Schema& schema, TextId id) {
     schema.tellUnread();
     ReadText& read = texts_[id];
     read.kind = kindIndex<K>;
-    read.typeId = record->typeId();
     if constexpr (KindWithPasses<K>) {
         read.pass = K::passOf(*record);
     }
     if (inspection_.hasErrors()) {
-        std::get<kindIndex<K>>(asides_).push_back({std::move(*record), id});
+        asides_.push_back(id);
     } else {
-        registry_.addPending<K>(std::move(*record), Directory::Key(schema.typeId()));
+        read.typeId = record->typeId();
+        registry_.addPending<K>(std::move(*record), typeId, [](const auto&) {});
         read.isPending = true;
     }
     return true;
@@ -314,13 +306,15 @@ void Review::resolve(Outcome outcome) {
             addMissing(*id, fault);
         }
     }
-    forEachKind(StoreOrder{}, [&]<class K>() {
-        for (const Aside<K>& aside : std::get<kindIndex<K>>(asides_)) {
-            for (const Resolution::Fault& fault : resolution.check<K>(aside.record)) {
-                addMissing(aside.text, fault);
+    for (const TextId id : asides_) {
+        const Ostra::Schema schema(*texts_[id].text, inspection_);
+        withKind(texts_[id].kind, [&]<class K>() {
+            const auto record = K::read(schema);
+            for (const Resolution::Fault& fault : resolution.check<K>(*record)) {
+                addMissing(id, fault);
             }
-        }
-    });
+        });
+    }
     tellMissing();
     if (outcome == Outcome::objects) {
         registry_.prepareCommit();
@@ -335,7 +329,7 @@ void Review::resolve(Outcome outcome) {
 
 void Review::addMissing(TextId id, const Resolution::Fault& fault) {
     texts_[id].isFaulty = true;
-    missing_.push_back({id, fault.cause, std::string(fault.cause.named), fault.occurrence});
+    missing_.push_back({id, fault.cause, std::string(fault.cause.named.typeId), fault.occurrence});
 }
 
 void Review::tellMissing() {

@@ -24,7 +24,10 @@ public:
     bool isNone() const noexcept { return Access::isNone(object_); }
     /// The object for those that name it, or null.
     const Object* object() const noexcept { return isNone() ? nullptr : &object_; }
-    Object finish(typename K::Record&&) noexcept { return object_; }
+    template <class Pending>
+    Object finish(Pending&&) noexcept {
+        return object_;
+    }
 
 private:
     Object object_ = Access::none<Object>();
@@ -34,16 +37,18 @@ private:
 template <LinkedKind K>
 class Staged<K> {
 public:
-    void make(const typename K::Record& record, const Finder& finder) {
-        auto links = K::find(record, finder, nullptr);
+    template <class Record>
+    void make(const Record& record, const Finder& finder) {
+        auto links = K::find(*record.data, record.references, finder, nullptr);
         if (!finder.hasUnresolved()) {
             links_ = std::move(links);
         }
     }
     bool isNone() const noexcept { return links_.isNone(); }
     const typename K::Object* object() const noexcept { return nullptr; } // nothing names it
-    typename K::Object finish(typename K::Record&& record) noexcept {
-        return K::link(std::move(record), std::move(links_));
+    template <class Pending>
+    typename K::Object finish(Pending&& pending) noexcept {
+        return K::link(std::move(pending.data), std::move(links_));
     }
 
 private:

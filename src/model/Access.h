@@ -17,7 +17,7 @@ struct Access {
     /// Returns all the data of a value. Parameters and specs hold it as their core, which it derives from.
     template <class Value>
     static const auto& data(const Value& value) noexcept {
-        if constexpr (HasCore<Value>) {
+        if constexpr (hasCore<Value>) {
             return static_cast<const typename Value::Data&>(*value.core_.data_);
         } else {
             return *value.data_;
@@ -26,7 +26,7 @@ struct Access {
     /// The data as the value holds it.
     template <class Value>
     static auto& shared(Value& value) noexcept {
-        if constexpr (HasCore<Value>) {
+        if constexpr (hasCore<Value>) {
             return shared(value.core_);
         } else {
             return value.data_;
@@ -67,7 +67,7 @@ struct Access {
 
 private:
     template <class Value>
-    static constexpr bool HasCore = requires(const Value& value) {
+    static constexpr bool hasCore = requires(const Value& value) {
         value.core_;
     };
 };

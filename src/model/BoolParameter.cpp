@@ -37,10 +37,10 @@ BoolParameterKind::Record BoolParameterKind::recordOf(const BoolParameter& param
     return {Access::share(parameter), {typeIdOf(data.group), typeIdOf(data.spec)}};
 }
 
-BoolParameterKind::Links BoolParameterKind::find(const Record& record, const Finder& finder,
+BoolParameterKind::Links BoolParameterKind::find(const Data& data, const References& named, const Finder& finder,
                                                  const BoolParameter* given) {
-    return Links{findGroup(record, finder),
-                 finder.requireOrStandIn<BoolSpecKind>(record.spec(), record.typeId(),
+    return Links{findGroup(data, named, finder),
+                 finder.requireOrStandIn<BoolSpecKind>(named.spec(), data.typeId(),
                                                        given != nullptr ? &Access::data(*given).spec : nullptr)};
 }
 

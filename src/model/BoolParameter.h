@@ -24,7 +24,7 @@ struct BoolParameterKind : ParameterKind<BoolParameterKind, Kinds::BoolParameter
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const BoolParameter& parameter);
-    static Links find(const Record& record, const Finder& finder, const BoolParameter* given);
+    static Links find(const Data& data, const References& named, const Finder& finder, const BoolParameter* given);
     static std::string write(const BoolParameter& parameter);
 };
 

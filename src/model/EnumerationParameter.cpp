@@ -113,12 +113,12 @@ EnumerationParameterKind::Record EnumerationParameterKind::recordOf(const Enumer
     return {Access::share(parameter), {typeIdOf(data.group), typeIdOf(data.spec), typeIdOf(data.enumeration)}};
 }
 
-EnumerationParameterKind::Links EnumerationParameterKind::find(const Record& record, const Finder& finder,
-                                                               const EnumerationParameter*) {
-    const auto group = findGroup(record, finder);
+EnumerationParameterKind::Links EnumerationParameterKind::find(const Data& data, const References& named,
+                                                               const Finder& finder, const EnumerationParameter*) {
+    const auto group = findGroup(data, named, finder);
     const auto [spec, enumeration] = findBoth(
-        finder, [&] { return finder.require<GeneralSpecKind>(record.spec(), record.typeId()); },
-        [&] { return finder.require<EnumerationKind>(record.references[2], record.typeId()); });
+        finder, [&] { return finder.require<GeneralSpecKind>(named.spec(), data.typeId()); },
+        [&] { return finder.require<EnumerationKind>(*named.added(), data.typeId()); });
     return Links{group, spec, enumeration};
 }
 

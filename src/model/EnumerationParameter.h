@@ -40,7 +40,8 @@ struct EnumerationParameterKind
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const EnumerationParameter& parameter);
-    static Links find(const Record& record, const Finder& finder, const EnumerationParameter* given);
+    static Links find(const Data& data, const References& named, const Finder& finder,
+                      const EnumerationParameter* given);
     static std::string write(const EnumerationParameter& parameter);
 };
 

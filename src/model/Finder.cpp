@@ -19,20 +19,20 @@ std::optional<Units::Unit> Finder::requireUnit(std::string_view typeId, std::str
     return std::nullopt;
 }
 
-void Finder::failMissing(std::string_view word, std::string_view typeId, std::string_view schemaTypeId) const {
+void Finder::failMissing(std::string_view word, const Name& name, std::string_view schemaTypeId) const {
     if (binds()) {
-        fail(messages("object-unknown"), {word, typeId}, typeId, word);
+        fail(messages("object-unknown"), {word, name.typeId}, name, word);
     } else {
-        fail(messages("dependency-missing"), {typeId, schemaTypeId}, typeId, word);
+        fail(messages("dependency-missing"), {name.typeId, schemaTypeId}, name, word);
     }
 }
 
-void Finder::fail(const Ostra::Message& message, std::initializer_list<std::string_view> inserted,
-                  std::string_view named, std::string_view expected) const {
+void Finder::fail(const Ostra::Message& message, std::initializer_list<std::string_view> inserted, const Name& named,
+                  std::string_view expected) const {
     if (binds()) {
         throw ValidationException(message.with(inserted));
     }
-    if (!named.empty()) {
+    if (!named.typeId.empty()) {
         unresolved_.push_back({&message, message.with(inserted), named, expected});
     }
 }

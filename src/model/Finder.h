@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Access.h"
+#include "model/References.h"
 #include "schema/Bytes.h"
 #include "schema/Immortal.h"
 #include "schema/Message.h"
@@ -36,7 +37,7 @@ typename K::Object standInOf(std::string_view typeId = K::base.full()) {
 struct Unresolved {
     const Ostra::Message* message;
     std::string sentence;
-    std::string_view named;    // as it stands in the record
+    Name named;
     std::string_view expected; // the word of what had to be there
 };
 
@@ -57,46 +58,46 @@ public:
 
     bool binds() const { return purpose_ == Purpose::binding; }
 
-    /// Returns the object of that kind and typeid, or null.
+    /// Returns the object of that kind and name, or null.
     template <class K>
-    const typename K::Object* find(std::string_view typeId) const {
-        return static_cast<const typename K::Object*>(lookUp(kindIndex<K>, typeId));
+    const typename K::Object* find(const Name& name) const {
+        return static_cast<const typename K::Object*>(lookUp(kindIndex<K>, name));
     }
 
-    /// Returns the object of that kind and typeid, which the schema names. Fails when there is none; what resolution
+    /// Returns the object of that kind and name, which the schema names. Fails when there is none; what resolution
     /// then returns is a handle without data, and what is built with it must not leave the library.
     template <class K>
-    typename K::Object require(std::string_view typeId, std::string_view schemaTypeId) const {
-        if (const auto* object = find<K>(typeId)) {
+    typename K::Object require(const Name& name, std::string_view schemaTypeId) const {
+        if (const auto* object = find<K>(name)) {
             return *object;
         }
-        failMissing(K::word, typeId, schemaTypeId);
+        failMissing(K::word, name, schemaTypeId);
         return Access::none<typename K::Object>();
     }
 
     /// As require, but a typeid of the kind's base needs no object: for it stands the given one or else
     /// the built-in object of exactly that typeid.
     template <class K>
-    typename K::Object requireOrStandIn(std::string_view typeId, std::string_view schemaTypeId,
+    typename K::Object requireOrStandIn(const Name& name, std::string_view schemaTypeId,
                                         const typename K::Object* given = nullptr) const {
-        if (given == nullptr && Ostra::isSame(typeId, K::base.full())) {
+        if (given == nullptr && Ostra::isSame(name.typeId, K::base.full())) {
             return standInOf<K>(); // which nothing that is registered can have in its place
         }
-        if (const auto* object = find<K>(typeId)) {
+        if (const auto* object = find<K>(name)) {
             return *object;
         }
-        if (!K::base.isIn(typeId)) {
-            failMissing(K::word, typeId, schemaTypeId);
+        if (!K::base.isIn(name.typeId)) {
+            failMissing(K::word, name, schemaTypeId);
             return Access::none<typename K::Object>();
         }
-        return given != nullptr ? *given : standInOf<K>(typeId);
+        return given != nullptr ? *given : standInOf<K>(name.typeId);
     }
 
     /// As requireOrStandIn, but binding takes the stand-in of the full identifier whatever version is named.
     template <class K>
-    typename K::Object requireOrUsualStandIn(std::string_view typeId, std::string_view schemaTypeId) const {
-        const bool usual = binds() && K::base.isIn(typeId);
-        return requireOrStandIn<K>(usual ? K::base.full() : typeId, schemaTypeId);
+    typename K::Object requireOrUsualStandIn(const Name& name, std::string_view schemaTypeId) const {
+        const bool usual = binds() && K::base.isIn(name.typeId);
+        return requireOrStandIn<K>(usual ? K::base.full() : name, schemaTypeId);
     }
 
     /// Returns the unit of that typeid, which a measurable spec's schema names in a constant. Fails when there is none;
@@ -106,7 +107,7 @@ public:
 
     /// Fails because of what a record names. What its text does not say in a readable way is no fault of the finder's.
     /// @throws ValidationException when binding.
-    void fail(const Ostra::Message& message, std::initializer_list<std::string_view> inserted, std::string_view named,
+    void fail(const Ostra::Message& message, std::initializer_list<std::string_view> inserted, const Name& named,
               std::string_view expected) const;
 
     /// Returns what failed since it was last asked, in the order in which it was looked for.
@@ -116,10 +117,10 @@ public:
 private:
     /// Returns the unit of that typeid, unless it is unknown or not resolved.
     virtual std::optional<Units::Unit> findUnit(const std::string& typeId) const = 0;
-    /// Returns the object of the kind of that number, or null.
-    virtual const void* lookUp(std::size_t kind, std::string_view typeId) const = 0;
+    /// Returns the object of the kind of that number and of that name, or null.
+    virtual const void* lookUp(std::size_t kind, const Name& name) const = 0;
 
-    void failMissing(std::string_view word, std::string_view typeId, std::string_view schemaTypeId) const;
+    void failMissing(std::string_view word, const Name& name, std::string_view schemaTypeId) const;
 
     Purpose purpose_;
     mutable std::vector<Unresolved> unresolved_;

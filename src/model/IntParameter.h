@@ -15,8 +15,7 @@ struct IntParameterTraits {
 
     static constexpr bool bindsRangeFirst = true;
 
-    static IntSpec findSpec(std::string_view spec, std::string_view typeId, const Finder& finder,
-                            const IntSpec* given) {
+    static IntSpec findSpec(const Name& spec, std::string_view typeId, const Finder& finder, const IntSpec* given) {
         return finder.requireOrStandIn<IntSpecKind>(spec, typeId, given);
     }
 };

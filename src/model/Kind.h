@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Finder.h"
+#include "model/References.h"
 #include "model/Texts.h"
 #include "schema/Identifier.h"
 #include "schema/Schema.h"
@@ -68,7 +69,7 @@ concept Kind = requires(const Ostra::Schema& schema, const typename K::Record& r
 /// A kind whose objects name other objects: its record holds their typeids.
 template <class K>
 concept DependentKind = requires(const typename K::Record& record) {
-    { record.references } -> std::convertible_to<const Texts&>;
+    { *record.references.begin() } -> std::convertible_to<Name>;
 };
 
 /// A kind with an object that stands in, without registration, for typeids of its base.
@@ -85,11 +86,11 @@ concept KindWithPasses = requires(const typename K::Record& record) {
 
 /// A kind whose objects are made when they are read: resolution finds what they name, and puts it into them.
 template <class K>
-concept LinkedKind = requires(typename K::Record record, const Finder& finder, const typename K::Object& object,
-                              typename K::Links links) {
-    { K::find(record, finder, &object) } -> std::same_as<typename K::Links>;
-    record.makeSole();
-    { K::link(std::move(record), std::move(links)) }
+concept LinkedKind = requires(Ref<const typename K::Data> data, const References& named, const Finder& finder,
+                              const typename K::Object& object, typename K::Links links) {
+    { K::find(*data, named, finder, &object) } -> std::same_as<typename K::Links>;
+    { K::makeSole(data) } -> std::same_as<bool>;
+    { K::link(std::move(data), std::move(links)) }
     noexcept->std::same_as<typename K::Object>;
 };
 
@@ -105,7 +106,7 @@ concept KindWithReserved = requires(std::string_view typeId) {
     { K::reserves(typeId) } -> std::same_as<bool>;
 };
 
-/// Calls visit(typeid) for all that a record names, in the order of reading, what it names again again.
+/// Calls visit(name) for all that a record names, in the order of reading, what it names again again.
 template <class Record, class Visit>
 void forEachNamed(const Record& record, Visit visit) {
     if constexpr (requires { record.references; }) {

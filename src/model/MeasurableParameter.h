@@ -15,7 +15,7 @@ struct MeasurableParameterTraits {
 
     static constexpr bool bindsRangeFirst = false;
 
-    static MeasurableSpec findSpec(std::string_view spec, std::string_view typeId, const Finder& finder,
+    static MeasurableSpec findSpec(const Name& spec, std::string_view typeId, const Finder& finder,
                                    const MeasurableSpec*) {
         return finder.require<MeasurableSpecKind>(spec, typeId);
     }

@@ -5,8 +5,8 @@
 #include "model/Kind.h"
 #include "model/Links.h"
 #include "model/MakeRef.h"
+#include "model/References.h"
 #include "model/Taxon.h"
-#include "model/Texts.h"
 #include "model/TrailingStrings.h"
 #include "schema/Constants.h"
 #include "schema/SchemaWriter.h"
@@ -14,7 +14,6 @@
 #include <parameters/ParameterCore.h>
 #include <parameters/Taxon.h>
 
-#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -45,31 +44,14 @@ struct ParameterConstants {
     static ParameterConstants read(const Ostra::Constants& constants);
 };
 
-/// The record of a parameter: its data and the typeids of what it names. It is made by its constructor alone: g++ 12
-/// destroys the first part of an aggregate twice when making the second one throws.
+/// The record of a parameter: its data, and what it names. It is good as long as the schema, or the object, that it is
+/// of.
 template <class Data>
 struct ParameterRecord {
-    Ref<const Data> data; // of a schema text, without what is named
-    Texts references;     // group, spec, then what the kind adds
-
-    ParameterRecord(Ref<const Data> itsData, Texts named) : data(std::move(itsData)), references(std::move(named)) {}
+    Ref<const Data> data; // of a schema, without what is named
+    References references;
 
     std::string_view typeId() const { return data->typeId(); }
-    std::string_view group() const { return references[0]; }
-    std::string_view spec() const { return references[1]; }
-    /// What the kind names beside group and spec, if it does.
-    std::optional<std::string_view> added() const {
-        return references.size() > 2 ? std::optional(references[2]) : std::nullopt;
-    }
-
-    /// Makes the data this record's alone; returns whether it was not, so that it lies elsewhere now.
-    bool makeSole() {
-        if (data.isSole()) {
-            return false;
-        }
-        data = makeRefWith<Data>(data->strings.views(), *data);
-        return true;
-    }
 };
 
 /// The kind of a parameter. It is made when its schema is read; what it names is put into it when that is found.
@@ -90,39 +72,42 @@ struct ParameterKind : DescribedKind<P> {
     }
 
     static Object build(Record record, const Finder& finder, const Object* given) {
-        Links links = Self::find(record, finder, given);
-        record.makeSole();
-        return link(std::move(record), std::move(links));
+        Links links = Self::find(*record.data, record.references, finder, given);
+        makeSole(record.data);
+        return link(std::move(record.data), std::move(links));
     }
 
-    /// Returns the parameter of a record, whose data is its alone, with what it names.
-    static Object link(Record&& record, Links&& links) noexcept {
-        links.moveInto(const_cast<Data&>(*record.data)); // which nobody else sees
-        return Access::make<Object>(std::move(record.data));
+    /// Sees to it that nobody else has data of a parameter; returns whether somebody had, so that it lies elsewhere
+    /// now.
+    static bool makeSole(Ref<const Data>& data) {
+        if (data.isSole()) {
+            return false;
+        }
+        data = makeRefWith<Data>(data->strings.views(), *data);
+        return true;
+    }
+
+    /// Returns the parameter of data that nobody else has, with what it names.
+    static Object link(Ref<const Data>&& data, Links&& links) noexcept {
+        links.moveInto(const_cast<Data&>(*data));
+        return Access::make<Object>(std::move(data));
     }
 
 protected:
     /// Returns the record of a schema; parts is what the kind adds to a core.
     template <class... Parts>
-    static Record recordFrom(const Ostra::Schema& schema, const ParameterConstants& constants, Texts references,
-                             Parts&&... parts) {
+    static Record recordFrom(const Ostra::Schema& schema, const ParameterConstants& constants,
+                             const References& references, Parts&&... parts) {
         return {makeRefWith<Data>({schema.typeId(), constants.name, constants.description, constants.sampleText},
                                   ParameterCoreData{Access::none<Taxon>(), {}, constants.readOnly},
                                   std::forward<Parts>(parts)...),
-                std::move(references)};
-    }
-
-    /// Returns what all parameters name: group, spec, and what the kind adds.
-    static Texts referencesOf(std::string_view group, std::string_view spec,
-                              std::optional<std::string_view> added = {}) {
-        return added ? Texts{group, spec, *added} : Texts{group, spec};
+                references};
     }
 };
 
-/// Returns the group that a record names.
-template <class Record>
-Taxon findGroup(const Record& record, const Finder& finder) {
-    return finder.requireOrStandIn<GroupKind>(record.group(), record.typeId());
+/// Returns the group that a parameter names.
+inline Taxon findGroup(const ParameterCoreData& data, const References& named, const Finder& finder) {
+    return finder.requireOrStandIn<GroupKind>(named.group(), data.typeId());
 }
 
 /// Writes the constants that all parameters share, those that differ from their defaults.

@@ -46,6 +46,7 @@ public:
     using Range = typename RangeKind::Object;
     using Names = KindList<GroupKind, SpecKind, RangeKind>;
     using Base::base;
+    using typename Base::Data;
     using typename Base::Links;
     using typename Base::Object;
     using typename Base::Record;
@@ -58,23 +59,22 @@ public:
         const auto common = ParameterConstants::read(constants);
         const auto spec = readSpec(constants);
         const auto range = RangeKind::readConstant(schema, constants);
-        return Base::recordFrom(schema, common, Base::referencesOf(common.group, spec, range.named),
-                                Access::none<Spec>(), range.own);
+        return Base::recordFrom(schema, common, {common.group, spec, range.named}, Access::none<Spec>(), range.own);
     }
 
     static Record recordOf(const Object& parameter) {
         const auto& data = Access::data(parameter);
         const auto range = RangeKind::referenceTo(data.range);
-        return {Access::share(parameter), Base::referencesOf(typeIdOf(data.group), typeIdOf(data.spec), range.named)};
+        return {Access::share(parameter), {typeIdOf(data.group), typeIdOf(data.spec), range.named}};
     }
 
-    static Links find(const Record& record, const Finder& finder, const Object* given) {
-        const auto group = findGroup(record, finder);
+    static Links find(const Data& data, const References& named, const Finder& finder, const Object* given) {
+        const auto group = findGroup(data, named, finder);
         const auto findSpec = [&] {
-            return Traits::findSpec(record.spec(), record.typeId(), finder,
+            return Traits::findSpec(named.spec(), data.typeId(), finder,
                                     given != nullptr ? &Access::data(*given).spec : nullptr);
         };
-        const auto findRange = [&] { return rangeOf(record, finder); };
+        const auto findRange = [&] { return rangeOf(data, named, finder); };
         if constexpr (Traits::bindsRangeFirst) {
             const auto [spec, range] = findBoth(finder, findSpec, findRange);
             return Links{group, spec, range};
@@ -101,15 +101,15 @@ private:
         }
     }
 
-    static Range rangeOf(const Record& record, const Finder& finder) {
-        const Range& own = record.data->range;
+    static Range rangeOf(const Data& data, const References& named, const Finder& finder) {
+        const Range& own = data.range;
         if constexpr (requires { RangeKind::check(own); }) {
             if (finder.binds() && !Access::isNone(own)) {
                 RangeKind::check(own); // whether it is the parameter's or, made in code, another's
             }
         }
-        const auto named = record.added();
-        return named ? finder.require<RangeKind>(*named, record.typeId()) : own;
+        const Name* const range = named.added();
+        return range != nullptr ? finder.require<RangeKind>(*range, data.typeId()) : own;
     }
 };
 

@@ -92,14 +92,13 @@ SpecReference readSpec(const Ostra::Schema& schema, const Ostra::Constants& cons
     return {spec, std::nullopt};
 }
 
-ReferenceSpec buildFamilyType(const ReferenceParameterKind::Record& record, const Finder& finder) {
-    const auto named = record.added();
-    if (!named) {
+ReferenceSpec buildFamilyType(const ReferenceParameterData& data, const References& named, const Finder& finder) {
+    if (named.added() == nullptr) {
         throw ValidationException(ReferenceParameterKind::messages("given-category-missing").with({}));
     }
-    const auto category = finder.require<CategoryKind>(*named, record.typeId());
-    return ReferenceSpecKind::familyType(finder.binds() ? ReferenceSpecKind::familyTypeBase.full() : record.spec(),
-                                         category);
+    const auto category = finder.require<CategoryKind>(*named.added(), data.typeId());
+    return ReferenceSpecKind::familyType(
+        finder.binds() ? ReferenceSpecKind::familyTypeBase.full() : named.spec().typeId, category);
 }
 
 } // namespace
@@ -112,26 +111,25 @@ std::optional<ReferenceParameterKind::Record> ReferenceParameterKind::read(const
     const Ostra::Constants constants(schema);
     const auto common = ParameterConstants::read(constants);
     const auto [spec, category] = readSpec(schema, constants);
-    return recordFrom(schema, common, referencesOf(common.group, spec, category), ranged,
-                      Access::none<ReferenceSpec>());
+    return recordFrom(schema, common, {common.group, spec, category}, ranged, Access::none<ReferenceSpec>());
 }
 
 ReferenceParameterKind::Record ReferenceParameterKind::recordOf(const ReferenceParameter& parameter) {
     const auto& data = Access::data(parameter);
     const auto& category = Access::data(data.spec).category;
-    std::optional<std::string_view> named;
+    std::optional<Name> named;
     if (category && isFamilyType(typeIdOf(data.spec))) { // another spec brings its own category
         named = typeIdOf(*category);
     }
-    return {Access::share(parameter), referencesOf(typeIdOf(data.group), typeIdOf(data.spec), named)};
+    return {Access::share(parameter), {typeIdOf(data.group), typeIdOf(data.spec), named}};
 }
 
-ReferenceParameterKind::Links ReferenceParameterKind::find(const Record& record, const Finder& finder,
-                                                           const ReferenceParameter*) {
-    const auto group = findGroup(record, finder);
-    return Links{group, isFamilyType(record.spec())
-                            ? buildFamilyType(record, finder)
-                            : finder.requireOrUsualStandIn<ReferenceSpecKind>(record.spec(), record.typeId())};
+ReferenceParameterKind::Links ReferenceParameterKind::find(const Data& data, const References& named,
+                                                           const Finder& finder, const ReferenceParameter*) {
+    const auto group = findGroup(data, named, finder);
+    return Links{group, isFamilyType(named.spec().typeId)
+                            ? buildFamilyType(data, named, finder)
+                            : finder.requireOrUsualStandIn<ReferenceSpecKind>(named.spec(), data.typeId())};
 }
 
 std::string ReferenceParameterKind::write(const ReferenceParameter& parameter) {

@@ -43,7 +43,7 @@ struct ReferenceParameterKind
 
     static std::optional<Record> read(const Ostra::Schema& schema);
     static Record recordOf(const ReferenceParameter& parameter);
-    static Links find(const Record& record, const Finder& finder, const ReferenceParameter* given);
+    static Links find(const Data& data, const References& named, const Finder& finder, const ReferenceParameter* given);
     static std::string write(const ReferenceParameter& parameter);
 };
 

@@ -15,8 +15,7 @@ struct StringParameterTraits {
 
     static constexpr bool bindsRangeFirst = true;
 
-    static StringSpec findSpec(std::string_view spec, std::string_view typeId, const Finder& finder,
-                               const StringSpec*) {
+    static StringSpec findSpec(const Name& spec, std::string_view typeId, const Finder& finder, const StringSpec*) {
         return finder.requireOrUsualStandIn<StringSpecKind>(spec, typeId);
     }
 };

@@ -66,6 +66,7 @@ private:
 
     Type type_;
     std::uint32_t size_; // of a string or a container
+    // NOLINTBEGIN(readability-identifier-naming): they are members of the class
     union {
         std::int64_t integer_;
         std::uint64_t unsigned_;
@@ -73,6 +74,7 @@ private:
         const char* text_;
         std::size_t span_; // of a container, with itself; while it is open, the place of the one that it is in
     };
+    // NOLINTEND(readability-identifier-naming)
 };
 
 /// What a parser writes the values of a document to, one by one. The first of them lie within, others in an arena.

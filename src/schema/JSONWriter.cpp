@@ -51,8 +51,8 @@ void JSONWriter::string(std::string_view value) {
     }
     beginValue(value.size() + 2);
     *free_++ = '"';
-    if (PlainCharacters::areAll(value)) {
-        free_ += value.copy(free_, value.size());
+    if (PlainCharacters::copyAll(value, free_)) {
+        free_ += value.size();
     } else {
         escaped(value);
     }
@@ -66,15 +66,15 @@ void JSONWriter::escaped(std::string_view value) {
     for (const char character : value) {
         reserve(6);
         const auto byte = static_cast<unsigned char>(character);
-        if (const std::size_t place = named.find(character); place != std::string_view::npos) {
+        if (PlainCharacters::isPlain(character)) {
+            *free_++ = character;
+        } else if (const std::size_t place = named.find(character); place != std::string_view::npos) {
             *free_++ = '\\';
             *free_++ = names[place];
-        } else if (byte < 0x20) {
+        } else {
             free_ += std::string_view("\\u00").copy(free_, 4);
             *free_++ = digits[byte / 16];
             *free_++ = digits[byte % 16];
-        } else {
-            *free_++ = character;
         }
     }
 }

@@ -75,23 +75,42 @@ inline const char* endOf(const char* at, const char* end) {
     return at;
 }
 
-/// True when all characters are plain.
-inline bool areAll(std::string_view string) {
-    if (string.empty()) {
-        return true; // perhaps a null pointer, which memcpy refuses
-    }
-    if (string.size() < wordSize) {
-        std::uint64_t word = Detail::each * ' ';
-        std::memcpy(&word, string.data(), string.size());
-        return othersIn(word) == 0;
-    }
-    const char* const last = string.data() + string.size() - wordSize; // may overlap the word before
-    for (const char* at = string.data(); at < last; at += wordSize) {
-        if (othersIn(wordAt(at)) != 0) {
-            return false;
+/// Copies a string to where there is room for it; returns whether all its characters are plain.
+inline bool copyAll(std::string_view string, char* to) {
+    const char* const from = string.data();
+    const std::size_t size = string.size();
+    // The last step overlaps the one before, rather than depend on the number of bytes that are left.
+    const auto inSteps = [size](std::size_t step, auto copy) {
+        for (std::size_t at = 0; at < size - step; at += step) {
+            copy(at);
         }
+        copy(size - step);
+    };
+#ifdef OSTRA_HAS_SSE2
+    if (size >= 16) {
+        unsigned others = 0;
+        inSteps(16, [&](std::size_t at) {
+            std::memcpy(to + at, from + at, 16);
+            others |= othersAt(from + at);
+        });
+        return others == 0;
     }
-    return othersIn(wordAt(last)) == 0;
+#endif
+    if (size >= wordSize) {
+        std::uint64_t others = 0;
+        inSteps(wordSize, [&](std::size_t at) {
+            const std::uint64_t word = wordAt(from + at);
+            std::memcpy(to + at, &word, wordSize);
+            others |= othersIn(word);
+        });
+        return others == 0;
+    }
+    bool arePlain = true;
+    for (std::size_t at = 0; at < size; ++at) {
+        to[at] = from[at];
+        arePlain = arePlain && isPlain(from[at]);
+    }
+    return arePlain;
 }
 
 } // namespace Ostra::PlainCharacters

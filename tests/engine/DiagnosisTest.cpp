@@ -9,6 +9,7 @@
 
 #include <map>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,8 @@ using Support::unitText;
 using Support::unresolvable;
 
 using Faults = std::map<std::string, std::string>;
+
+const std::string boolSpec = "norvex.spec:spec.bool-1.0.0"; // which is built in
 
 std::string named(const std::string& constants) { return constant("name", R"("Name")") + ", " + constants; }
 
@@ -224,6 +227,94 @@ TEST(DiscardPending, OfAllFaultsMakesResolutionSucceed) {
     engine.resolveSchemas();
     EXPECT_EQ(engine.getAllBoolParameters().size(), 1U);
     EXPECT_EQ(engine.getBoolParameter("p1").getSpec().getCore().getTypeId(), "s");
+}
+
+TEST(DiscardPending, LeavesWhatNamesItWaitingForAnother) {
+    ParametersEngine engine = engineWithPending({groupText("g", "First"), boolParameterText("p", "g", boolSpec)});
+    EXPECT_EQ(engine.findUnresolvable(), Faults());
+    engine.discardPending("g");
+    EXPECT_EQ(engine.findUnresolvable(), Faults({{"p", unresolvable("g", "p")}}));
+    EXPECT_FALSE(engine.isRegistered("g"));
+    EXPECT_EQ(engine.registerSchema(boolParameterText("p2", "g", boolSpec)).first, std::set<std::string>{"g"});
+    engine.registerSchema(groupText("g", "Second"));
+    engine.resolveSchemas();
+    EXPECT_EQ(engine.getBoolParameter("p").getCore().getGroup().getName(), "Second");
+    EXPECT_EQ(engine.getBoolParameter("p2").getCore().getGroup().getName(), "Second");
+}
+
+TEST(DiscardPending, OfWhatNamesLeavesWhatIsNamed) {
+    ParametersEngine engine = engineWithPending(
+        {boolParameterText("p1", "g", boolSpec), boolParameterText("p2", "g", boolSpec), groupText("other")});
+    engine.discardPending("p1");
+    EXPECT_EQ(engine.findUnresolvable(), Faults({{"p2", unresolvable("g", "p2")}}));
+    engine.discardPending("p2");
+    engine.registerSchema(groupText("g"));
+    engine.resolveSchemas();
+    EXPECT_EQ(engine.getAllGroups().size(), 2U);
+}
+
+TEST(DiscardPending, WithdrawsWhatNamesItself) {
+    ParametersEngine engine = engineWithPending({boolParameterText("p", "p", "p")});
+    EXPECT_EQ(engine.findUnresolvable(), Faults({{"p", unresolvable("p", "p")}}));
+    EXPECT_TRUE(engine.discardPending("p"));
+    EXPECT_FALSE(engine.isRegistered("p"));
+    engine.registerSchema(groupText("p"));
+    engine.resolveSchemas();
+    EXPECT_EQ(engine.getAllGroups().size(), 1U);
+}
+
+TEST(DiscardPending, LeavesWhatIsNamedInACopyAlone) {
+    ParametersEngine engine = engineWithPending({boolParameterText("p", "g", boolSpec)});
+    ParametersEngine copy = engine;
+    engine.discardPending("p");
+    engine.registerSchema(groupText("another that takes its place"));
+    copy.registerSchema(groupText("g", "Of the copy"));
+    copy.resolveSchemas();
+    EXPECT_EQ(copy.getBoolParameter("p").getCore().getGroup().getName(), "Of the copy");
+}
+
+// What is named and what names it come and go in any order, and are registered again under the same typeids.
+TEST(DiscardPending, KeepsInStepWhatIsNamedAndWhatNamesIt) {
+    std::mt19937 random(21);
+    for (int round = 0; round < 20; ++round) {
+        ParametersEngine engine;
+        std::set<std::string> groups;
+        std::map<std::string, std::string> parameters; // pending, to the group of each
+        int count = 0;
+        for (int step = 0; step < 200; ++step) {
+            const std::string group = "g" + std::to_string(random() % 5);
+            if (random() % 2 == 0) {
+                const std::string parameter = "p" + std::to_string(random() % 10);
+                if (parameters.count(parameter) > 0) {
+                    ASSERT_TRUE(engine.discardPending(parameter));
+                    parameters.erase(parameter);
+                } else if (!engine.isRegistered(parameter)) {
+                    const auto missing = engine.registerSchema(boolParameterText(parameter, group, boolSpec)).first;
+                    ASSERT_EQ(missing.count(group), 1 - groups.count(group));
+                    parameters.emplace(parameter, group);
+                }
+            } else if (engine.discardPending(group)) {
+                groups.erase(group);
+            } else if (groups.insert(group).second) {
+                engine.registerSchema(groupText(group, "Name " + std::to_string(++count)));
+            }
+            Faults faults;
+            for (const auto& [parameter, named] : parameters) {
+                if (groups.count(named) == 0) {
+                    faults.emplace(parameter, unresolvable(named, parameter));
+                }
+            }
+            ASSERT_EQ(engine.findUnresolvable(), faults) << "round " << round << ", step " << step;
+            if (faults.empty() && random() % 8 == 0) {
+                engine.resolveSchemas();
+                for (const auto& [parameter, named] : parameters) {
+                    ASSERT_EQ(engine.getBoolParameter(parameter).getCore().getGroup().getName(),
+                              engine.getGroup(named).getName());
+                }
+                parameters.clear();
+            }
+        }
+    }
 }
 
 // The order in which schemas are withdrawn moves others about inside; each must still be found and resolved.

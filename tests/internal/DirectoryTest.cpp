@@ -19,8 +19,14 @@ using Parameters::Internal::Directory;
 /// Adds an entry as its users do.
 Directory::EntryId add(Directory& directory, std::string_view typeId, std::uint32_t place, std::uint8_t kind = 0,
                        bool resolved = false) {
-    directory.reserveOne();
-    return directory.add({typeId, place, kind, resolved}, Directory::Key(typeId).hash);
+    directory.reserve(1);
+    return directory.add(typeId, Directory::Key(typeId).hash, {place, kind, resolved});
+}
+
+/// Names a typeid as users of the directory do.
+Directory::EntryId name(Directory& directory, std::string_view typeId) {
+    directory.reserve(1);
+    return directory.name(typeId);
 }
 
 TEST(Directory, FindsNothingAtFirst) {
@@ -31,20 +37,21 @@ TEST(Directory, FindsNothingAtFirst) {
 
 TEST(Directory, FindsNothingInRoomThatWasOnlyReserved) {
     Directory directory;
-    directory.reserveOne();
+    directory.reserve(1);
     EXPECT_EQ(directory.find("x"), nullptr);
     EXPECT_EQ(directory.find(""), nullptr);
 }
 
 TEST(Directory, FindsAnEntryWithAllThatItSays) {
     Directory directory;
-    add(directory, "x", 7, 3, true);
-    const Directory::Entry* const entry = directory.find("x");
-    ASSERT_NE(entry, nullptr);
-    EXPECT_EQ(entry->typeId, "x");
-    EXPECT_EQ(entry->place, 7U);
-    EXPECT_EQ(entry->kind, 3);
-    EXPECT_TRUE(entry->resolved);
+    const auto id = add(directory, "x", 7, 3, true);
+    const Directory::Subject* const subject = directory.find("x");
+    ASSERT_NE(subject, nullptr);
+    EXPECT_EQ(subject->place, 7U);
+    EXPECT_EQ(subject->kind, 3);
+    EXPECT_TRUE(subject->resolved);
+    EXPECT_EQ(directory.find(id), subject);
+    EXPECT_EQ(directory[id].typeId(), "x");
 }
 
 TEST(Directory, FindsByBytesRatherThanByPlaceInMemory) {
@@ -76,12 +83,12 @@ TEST(Directory, HandsOutEntriesByTheirIdsForChanging) {
     Directory directory;
     const auto first = add(directory, "first", 1);
     const auto second = add(directory, "second", 2);
-    directory[first].place = 11;
-    directory[first].resolved = true;
+    directory[first].subject.place = 11;
+    directory[first].subject.resolved = true;
     EXPECT_EQ(directory.find("first")->place, 11U);
     EXPECT_TRUE(directory.find("first")->resolved);
     EXPECT_EQ(directory.find("second")->place, 2U);
-    EXPECT_EQ(&directory[second], directory.find("second"));
+    EXPECT_EQ(&directory[second].subject, directory.find("second"));
 }
 
 TEST(Directory, FindsAnEntryWhoseTypeIdLivesElsewhereNow) {
@@ -89,10 +96,10 @@ TEST(Directory, FindsAnEntryWhoseTypeIdLivesElsewhereNow) {
     const std::string after = "x";
     Directory directory;
     const auto id = add(directory, before, 1);
-    directory[id].typeId = after;
+    directory[id].setTypeId(after);
     before = "y";
     ASSERT_NE(directory.find("x"), nullptr);
-    EXPECT_EQ(directory.find("x")->typeId.data(), after.data());
+    EXPECT_EQ(directory[id].typeId().data(), after.data());
     EXPECT_EQ(directory.find("y"), nullptr);
 }
 
@@ -100,7 +107,7 @@ TEST(Directory, CopiesAreOnTheirOwn) {
     Directory directory;
     const auto id = add(directory, "x", 1);
     Directory copy(directory);
-    copy[id].place = 2;
+    copy[id].subject.place = 2;
     add(copy, "y", 3);
     add(directory, "z", 4);
     EXPECT_EQ(directory.find("x")->place, 1U);
@@ -112,10 +119,10 @@ TEST(Directory, CopiesAreOnTheirOwn) {
 TEST(Directory, ReservingMoreThanIsAddedDoesNoHarm) {
     Directory directory;
     for (int again = 0; again < 100; ++again) {
-        directory.reserveOne();
+        directory.reserve(4);
     }
     add(directory, "x", 1);
-    directory.reserveOne();
+    directory.reserve(1000);
     EXPECT_EQ(directory.find("x")->place, 1U);
 }
 
@@ -144,11 +151,89 @@ TEST(Directory, GivesIdsThatWereRemovedToTheNextEntries) {
     EXPECT_GT(add(directory, "sixth", 6), third);
 }
 
+TEST(Directory, DoesNotFindWhatIsOnlyNamed) {
+    Directory directory;
+    const auto id = name(directory, "x");
+    EXPECT_EQ(directory.find("x"), nullptr);
+    EXPECT_EQ(directory.find(id), nullptr);
+    EXPECT_EQ(directory[id].typeId(), "x");
+    EXPECT_EQ(name(directory, "x"), id);
+}
+
+TEST(Directory, KeepsTheIdOfWhatWasNamedFirst) {
+    Directory directory;
+    std::string named = "x";
+    const auto id = name(directory, named);
+    named = "y";
+    EXPECT_EQ(directory[id].typeId(), "x");
+    const std::string typeId = "x";
+    EXPECT_EQ(add(directory, typeId, 1, 2, true), id);
+    ASSERT_NE(directory.find("x"), nullptr);
+    EXPECT_EQ(directory.find("x")->place, 1U);
+    EXPECT_EQ(directory.find("x")->kind, 2);
+    EXPECT_EQ(directory[id].typeId().data(), typeId.data());
+    EXPECT_EQ(name(directory, "x"), id);
+}
+
+TEST(Directory, KeepsWhatIsNamedUntilTheLastHasForgottenIt) {
+    Directory directory;
+    const auto named = name(directory, "named");
+    name(directory, "named");
+    directory.forget(named);
+    EXPECT_EQ(name(directory, "named"), named);
+    directory.forget(named);
+    directory.forget(named);
+    EXPECT_EQ(add(directory, "another", 1), named); // which was free
+    EXPECT_NE(name(directory, "named"), named);
+}
+
+TEST(Directory, ForgetsNothingThatStandsForSomething) {
+    Directory directory;
+    const auto id = name(directory, "x");
+    add(directory, "x", 7);
+    directory.forget(id);
+    ASSERT_NE(directory.find("x"), nullptr);
+    EXPECT_EQ(directory.find("x")->place, 7U);
+    directory.remove(id);
+    EXPECT_EQ(directory.find("x"), nullptr);
+    EXPECT_EQ(add(directory, "y", 1), id); // which was free
+}
+
+TEST(Directory, KeepsTheNameOfWhatIsRemovedAsLongAsItIsNamed) {
+    Directory directory;
+    std::string typeId = "x";
+    const auto id = add(directory, typeId, 7);
+    name(directory, "x");
+    directory.remove(id);
+    typeId = "y";
+    EXPECT_EQ(directory.find("x"), nullptr);
+    EXPECT_EQ(directory[id].typeId(), "x");
+    EXPECT_EQ(add(directory, "x", 8), id);
+    EXPECT_EQ(directory.find("x")->place, 8U);
+    directory.remove(id);
+    directory.forget(id);
+    EXPECT_EQ(add(directory, "another", 1), id); // which was free
+}
+
+TEST(Directory, CopiesHaveTheirOwnNames) {
+    Directory directory;
+    const auto id = name(directory, "x");
+    Directory copy(directory);
+    add(copy, "x", 1);
+    EXPECT_EQ(directory.find("x"), nullptr);
+    EXPECT_EQ(directory[id].typeId(), "x");
+    directory.forget(id);
+    EXPECT_NE(copy.find("x"), nullptr);
+    EXPECT_EQ(copy.idOf("x"), id);
+}
+
 /// A directory and a map that are told the same.
 class RandomOperations : public testing::TestWithParam<unsigned> {
 protected:
     struct Known {
         Directory::EntryId id;
+        int namings;
+        bool isSomething;
         std::uint32_t place;
         std::uint8_t kind;
         bool resolved;
@@ -163,37 +248,67 @@ protected:
         return random_() % 8 == 0 ? typeId + std::to_string(random_()) : typeId;
     }
 
+    /// Adds an entry for a typeid that stands for nothing.
     void addRandomEntry(const std::string& typeId) {
         typeIds_.push_back(typeId);
+        const auto named = model_.find(typeId);
+        const int namings = named != model_.end() ? named->second.namings : 0;
         const auto place = static_cast<std::uint32_t>(random_());
         const auto kind = static_cast<std::uint8_t>(random_() % 20);
         const bool resolved = random_() % 2 == 0;
-        model_[typeId] = {add(directory_, typeIds_.back(), place, kind, resolved), place, kind, resolved};
+        const auto id = add(directory_, typeIds_.back(), place, kind, resolved);
+        if (named != model_.end()) {
+            EXPECT_EQ(id, named->second.id);
+        }
+        model_[typeId] = {id, namings, true, place, kind, resolved};
+    }
+
+    void nameEntry(const std::string& typeId) {
+        const auto id = name(directory_, typeId);
+        const auto [named, isNew] = model_.try_emplace(typeId, Known{id, 0, false, 0, 0, false});
+        EXPECT_EQ(named->second.id, id);
+        ++named->second.namings;
+    }
+
+    void forgetEntry(const std::string& typeId) {
+        const auto named = model_.find(typeId);
+        directory_.forget(named->second.id);
+        --named->second.namings;
+        dropUnused(named);
     }
 
     void changeEntry(Known& known) {
         known.place = static_cast<std::uint32_t>(random_());
         known.resolved = !known.resolved;
-        directory_[known.id].place = known.place;
-        directory_[known.id].resolved = known.resolved;
+        directory_[known.id].subject.place = known.place;
+        directory_[known.id].subject.resolved = known.resolved;
     }
 
     void removeEntry(const std::string& typeId) {
         const auto removed = model_.find(typeId);
         directory_.remove(removed->second.id);
-        model_.erase(removed);
+        removed->second.isSomething = false;
+        dropUnused(removed);
+    }
+
+    void dropUnused(std::map<std::string, Known>::iterator known) {
+        if (!known->second.isSomething && known->second.namings == 0) {
+            model_.erase(known);
+        }
     }
 
     void expectEntry(const std::string& typeId) const {
         const auto known = model_.find(typeId);
-        const Directory::Entry* const entry = directory_.find(typeId);
-        ASSERT_EQ(entry != nullptr, known != model_.end());
-        if (entry != nullptr) {
-            ASSERT_EQ(entry->typeId, typeId);
-            ASSERT_EQ(entry->place, known->second.place);
-            ASSERT_EQ(entry->kind, known->second.kind);
-            ASSERT_EQ(entry->resolved, known->second.resolved);
-            ASSERT_EQ(entry, &directory_[known->second.id]);
+        const Directory::Subject* const subject = directory_.find(typeId);
+        ASSERT_EQ(subject != nullptr, known != model_.end() && known->second.isSomething);
+        if (known != model_.end()) {
+            ASSERT_EQ(directory_[known->second.id].typeId(), typeId);
+            ASSERT_EQ(directory_.find(known->second.id), subject);
+        }
+        if (subject != nullptr) {
+            ASSERT_EQ(subject->place, known->second.place);
+            ASSERT_EQ(subject->kind, known->second.kind);
+            ASSERT_EQ(subject->resolved, known->second.resolved);
         }
     }
 
@@ -208,7 +323,11 @@ TEST_P(RandomOperations, GiveWhatAMapGives) {
         const std::string typeId = randomTypeId();
         ASSERT_NO_FATAL_FAILURE(expectEntry(typeId)) << "operation " << i;
         const auto known = model_.find(typeId);
-        if (known == model_.end()) {
+        if (random_() % 4 == 0) {
+            nameEntry(typeId);
+        } else if (known != model_.end() && known->second.namings > 0 && random_() % 2 == 0) {
+            forgetEntry(typeId);
+        } else if (known == model_.end() || !known->second.isSomething) {
             addRandomEntry(typeId);
         } else if (random_() % 2 == 0) {
             changeEntry(known->second);
@@ -230,11 +349,17 @@ TEST_P(RandomOperations, EndWithNothingWhenAllIsRemoved) {
         const std::string typeId = randomTypeId();
         if (!model_.contains(typeId)) {
             addRandomEntry(typeId);
+            for (auto namings = random_() % 3; namings > 0; --namings) {
+                nameEntry(typeId);
+            }
         }
     }
     std::vector<std::string> typeIds(typeIds_.begin(), typeIds_.end());
     std::shuffle(typeIds.begin(), typeIds.end(), random_);
     for (const std::string& typeId : typeIds) {
+        for (int namings = model_.at(typeId).namings; namings > 0; --namings) {
+            forgetEntry(typeId);
+        }
         removeEntry(typeId);
         for (const auto& [left, known] : model_) {
             ASSERT_NO_FATAL_FAILURE(expectEntry(left)) << typeId;

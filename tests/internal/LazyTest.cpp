@@ -44,10 +44,31 @@ TEST(Lazy, HandsItsValueOutAndMakesAnother) {
     EXPECT_EQ(lazy.get([] { return "new"; }), "new");
 }
 
+TEST(Lazy, KeepsWhatIsCopiedFromTheSecondTimeOn) {
+    Text lazy;
+    const auto make = [] { return std::string("made"); };
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(lazy.copy(make), "made");
+        EXPECT_EQ(lazy.peek(), nullptr);
+        EXPECT_EQ(lazy.copy(make), "made");
+        ASSERT_NE(lazy.peek(), nullptr);
+        EXPECT_EQ(lazy.copy(never), "made");
+        lazy.take(); // after which all begins again
+    }
+}
+
+TEST(Lazy, CopiesWhatSomebodyElseAskedToKeep) {
+    const Text lazy;
+    lazy.get([] { return "made"; });
+    EXPECT_EQ(lazy.copy(never), "made");
+}
+
 TEST(Lazy, LeavesItsValueToTheOriginalWhenCopied) {
     const Text lazy;
     lazy.get([] { return "made"; });
     const Text copy(lazy);
+    EXPECT_EQ(copy.peek(), nullptr);
+    EXPECT_EQ(copy.copy([] { return "of the copy"; }), "of the copy");
     EXPECT_EQ(copy.peek(), nullptr);
     EXPECT_EQ(copy.get([] { return "of the copy"; }), "of the copy");
     EXPECT_EQ(lazy.get(never), "made");

@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <iterator>
 #include <map>
+#include <new>
 #include <random>
 #include <string>
 #include <string_view>
@@ -20,7 +21,7 @@ namespace Parameters::Internal {
 namespace {
 
 void addPending(Registry& registry, std::string_view typeId) {
-    registry.addPending<GroupKind>({Texts{typeId, "Name"}}, Directory::Key(typeId));
+    registry.addPending<GroupKind>({Texts{typeId, "Name"}}, Directory::Key(typeId), [](const auto&) {});
 }
 
 /// Puts objects in the place of the pending groups that are chosen; the others stay pending.
@@ -41,14 +42,14 @@ void commit(Registry& registry, Choose chosen) {
 
 /// Checks that a typeid leads to its object or its pending record.
 void expectState(const Registry& registry, const std::string& typeId, bool isResolved) {
-    const Directory::Entry* const entry = registry.find(typeId);
-    ASSERT_NE(entry, nullptr) << typeId;
-    ASSERT_EQ(entry->resolved, isResolved) << typeId;
+    const Directory::Subject* const subject = registry.find(typeId);
+    ASSERT_NE(subject, nullptr) << typeId;
+    ASSERT_EQ(subject->resolved, isResolved) << typeId;
     const auto& store = registry.store<GroupKind>();
     if (isResolved) {
-        EXPECT_EQ(store.objects.at(entry->place).getTypeId(), typeId);
+        EXPECT_EQ(store.objects.at(subject->place).getTypeId(), typeId);
     } else {
-        EXPECT_EQ(store.pending.at(entry->place).record.typeId(), typeId);
+        EXPECT_EQ(store.pending.at(subject->place).record.typeId(), typeId);
     }
 }
 
@@ -83,6 +84,17 @@ TEST(Registry, KeepsAllPendingWhereNothingWasBuilt) {
     commit(registry, [](std::string_view) { return false; });
     expectState(registry, "a", false);
     EXPECT_TRUE(registry.store<GroupKind>().objects.empty());
+}
+
+TEST(Registry, FilesNothingWhenTheCheckFails) {
+    Registry registry;
+    const auto refuse = [](const auto& record) {
+        EXPECT_EQ(record.typeId(), "a");
+        throw std::bad_alloc();
+    };
+    EXPECT_THROW(registry.addPending<GroupKind>({Texts{"a", "Name"}}, Directory::Key("a"), refuse), std::bad_alloc);
+    EXPECT_EQ(registry.find("a"), nullptr);
+    EXPECT_FALSE(registry.hasPending());
 }
 
 TEST(Registry, StaysInStepWhateverIsCommittedAndWithdrawn) {

@@ -67,6 +67,24 @@ TEST_F(Costs, OfRegisteringOneObjectAfterTheOtherGrowWithTheirNumber) {
         [](ParametersEngine& engine, int number) { engine.registerDiscipline(Taxon(nameOf(number), "Name")); });
 }
 
+/// What is named by what was withdrawn is forgotten, though something else waits all the time.
+TEST_F(Costs, OfWhatWasWithdrawnAreGivenBack) {
+    ParametersEngine engine;
+    const auto addAndWithdraw = [&](int count) {
+        for (int number = 0; number < count; ++number) {
+            const std::string group = "a group that is not there " + std::to_string(number);
+            engine.registerSchema(Support::boolParameterText("parameter", group, "a spec that is not there"));
+            engine.discardPending("parameter");
+        }
+    };
+    engine.registerSchema(Support::boolParameterText("waits", "a group that is not there", "a spec that is not there"));
+    addAndWithdraw(500);
+    const Ostra::AllocationWatch watch;
+    addAndWithdraw(500);
+    EXPECT_EQ(watch.liveBlocks(), 0);
+    EXPECT_EQ(engine.findUnresolvable().size(), 1U);
+}
+
 class CostsOfACopy : public Costs {
 protected:
     void SetUp() override {

@@ -130,6 +130,22 @@ TEST(FailingDiscard, LeavesAnEngineThatSharesItsStateAsItWas) {
     EveryAllocation(discard, unshared, pictureOf, true).fail(); // one that shares nothing needs no memory for it
 }
 
+/// What waits for it goes on waiting, under a typeid that nobody else has then.
+TEST(FailingDiscard, OfWhatIsNamedLeavesAnEngineAsItWas) {
+    const Operation discard{"DiscardPending", [](ParametersEngine& engine) {
+                                engine.discardPending("named");
+                                return Answers();
+                            }};
+    const auto waiting = [] {
+        ParametersEngine engine;
+        engine.registerSchema(Support::groupText("named"));
+        engine.registerSchema(Support::boolParameterText("waits", "named", "norvex.spec:spec.bool-1.0.0"));
+        return engine;
+    };
+    EveryAllocation(discard, waiting, pictureOf, false).fail();
+    EveryAllocation(discard, waiting, pictureOf, true).fail();
+}
+
 std::vector<Operation> queries() {
     using Engine = ParametersEngine;
     std::vector<Operation> operations;
