@@ -6,8 +6,6 @@
 #include "verbs/CheckFormats.h"
 #include "verbs/Verb.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <memory>
 #include <set>
@@ -90,37 +88,32 @@ ExitCode check(const Options& options) {
 
 } // namespace
 
-Action addCheck(CLI::App& program) {
+void addCheck(CommandLine& program) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb = program.add_subcommand("check", "Find every fault in the schemas of files and folders");
-    addPaths(*verb, options->paths, true);
-    const auto addChoice = [&](const char* name, std::string& value, const char* help,
-                               const std::vector<std::string>& choices, const char* type) {
-        verb->add_option(name, value, help)->check(CLI::IsMember(choices))->type_name(type);
-    };
+    const Verb verb = program.addVerb("check", "Find every fault in the schemas of files and folders");
+    addPaths(verb, options->paths, true);
     const auto addCodes = [&](const char* name, Codes& codes, const std::string& help) {
-        return verb->add_option(name, codes, help)->delimiter(',')->allow_extra_args(false)->type_name("CODE");
+        return verb.add(name, codes, "CODE", help).separatedByCommas();
     };
-    addChoice("--format", options->format,
-              "text (which is the default), json, sarif for code hosts,\nor github for the log of a workflow",
-              {"text", "json", "sarif", "github"}, "FORMAT");
-    addChoice("--severity", options->severity, "error, or warning (which is the default) for both",
-              {"error", "warning"}, "SEVERITY");
-    const CLI::Validator known(refuseUnknownCode, "");
-    addCodes("--ignore", options->ignored, "Leave these out; may be repeated")->check(known);
-    addCodes("--only", options->only, "Look for these alone; may be repeated")->check(known);
+    verb.add("--format", options->format, "FORMAT",
+             "text (which is the default), json, sarif for code hosts,\nor github for the log of a workflow")
+        .oneOf({"text", "json", "sarif", "github"});
+    verb.add("--severity", options->severity, "SEVERITY", "error, or warning (which is the default) for both")
+        .oneOf({"error", "warning"});
+    addCodes("--ignore", options->ignored, "Leave these out; may be repeated").check(refuseUnknownCode);
+    addCodes("--only", options->only, "Look for these alone; may be repeated").check(refuseUnknownCode);
     std::vector<std::string> codes;
     std::string more;
     for (const Lint& lint : lints()) {
         codes.emplace_back(lint.code);
         more += lint.isDefault ? "" : "\n" + codes.back();
     }
-    addCodes("--lint", options->lints, "Look for these, too; may be repeated:" + more)->check(CLI::IsMember(codes));
-    verb->add_flag("--strict", options->isStrict, "Fail when there are warnings");
-    verb->add_flag("--all", options->isAll, "Show each consequence, too");
-    verb->add_flag("-q,--quiet", options->isQuiet, "Print the faults alone, and nothing when there are none");
-    verb->footer(details);
-    return [options] { return check(*options); };
+    addCodes("--lint", options->lints, "Look for these, too; may be repeated:" + more).oneOf(codes);
+    verb.addFlag("--strict", options->isStrict, "Fail when there are warnings");
+    verb.addFlag("--all", options->isAll, "Show each consequence, too");
+    verb.addFlag("-q,--quiet", options->isQuiet, "Print the faults alone, and nothing when there are none");
+    verb.footer(details);
+    verb.does([options] { return check(*options); });
 }
 
 } // namespace Tool

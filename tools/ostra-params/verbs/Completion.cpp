@@ -5,7 +5,6 @@
 #include "output/Text.h"
 #include "verbs/Verb.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -28,39 +27,31 @@ enum class Takes { nothing, word, oneOfWords, severalOfWords, file };
 
 struct Option {
     std::string name; ///< With its hyphens.
-    std::string help; ///< In one line.
+    std::string help;
     std::string type;
-    Takes takes = Takes::nothing;
-    std::vector<std::string> words = {};
+    std::vector<std::string> words;
+    Takes takes;
 };
 
-struct Verb {
-    std::string name;
+struct Completed {
+    std::string name; ///< Of a verb.
     std::string help;
     std::vector<Option> options = {};
     std::vector<std::string> words = {}; ///< One of which comes first; else there are files.
 };
 
-std::string inOneLine(std::string text) {
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    return text;
-}
-
 /// Returns the values among which an option or argument lets choose.
-std::vector<std::string> wordsOf(const CLI::Option& option) {
-    const std::string type = option.get_type_name();
-    std::vector<std::string> words;
-    if (const std::size_t brace = type.find('{'); brace != std::string::npos) {
-        words = CLI::detail::split(type.substr(brace + 1, type.find('}') - brace - 1), ',');
-    } else if (type == "CODE") {
+std::vector<std::string> wordsOf(const ArgumentHelp& argument) {
+    std::vector<std::string> words = argument.words;
+    if (argument.type == "CODE" && words.empty()) {
         for (const Rule& rule : rules()) {
             words.emplace_back(rule.code);
         }
-    } else if (type == "RULE") {
+    } else if (argument.type == "RULE") {
         for (const Compare::BreakingRule& rule : Compare::breakingRules()) {
             words.emplace_back(rule.code);
         }
-    } else if (type == "KIND") {
+    } else if (argument.type == "KIND") {
         for (const Section& section : sections()) {
             words.emplace_back(section.id);
         }
@@ -68,29 +59,26 @@ std::vector<std::string> wordsOf(const CLI::Option& option) {
     return words;
 }
 
-Option describe(const CLI::Option& option) {
-    const std::string type = option.get_type_name();
-    Option described{"--" + option.get_lnames().front(), inOneLine(option.get_description()),
-                     type.substr(0, type.find(':'))};
-    described.words = wordsOf(option);
-    described.takes = option.get_items_expected() == 0                    ? Takes::nothing
-                      : described.words.empty() && type.find("FILE") != 0 ? Takes::word
-                      : described.words.empty()                           ? Takes::file
-                      : option.get_delimiter() == ','                     ? Takes::severalOfWords
-                                                                          : Takes::oneOfWords;
-    return described;
+Option describe(const ArgumentHelp& argument) {
+    Option option{argument.name, argument.text, argument.type, wordsOf(argument), Takes::nothing};
+    if (argument.hasValue) {
+        option.takes = !option.words.empty()             ? argument.isList ? Takes::severalOfWords : Takes::oneOfWords
+                       : argument.type.find("FILE") == 0 ? Takes::file
+                                                         : Takes::word;
+    }
+    return option;
 }
 
 /// Returns the verbs as the program itself describes them.
-std::vector<Verb> verbsOf(const CLI::App& program) {
-    std::vector<Verb> verbs;
-    for (const CLI::App* each : program.get_subcommands([](const CLI::App*) { return true; })) {
-        Verb& verb = verbs.emplace_back(Verb{each->get_name(), inOneLine(each->get_description())});
-        for (const CLI::Option* option : each->get_options()) {
-            if (!option->get_lnames().empty()) {
-                verb.options.push_back(describe(*option));
+std::vector<Completed> verbsOf(const CommandLine& program) {
+    std::vector<Completed> verbs;
+    for (const VerbHelp& help : program.help()) {
+        Completed& verb = verbs.emplace_back(Completed{help.name, help.text});
+        for (const ArgumentHelp& argument : help.arguments) {
+            if (!argument.name.empty()) {
+                verb.options.push_back(describe(argument));
             } else if (verb.words.empty()) {
-                verb.words = wordsOf(*option);
+                verb.words = wordsOf(argument);
             }
         }
     }
@@ -101,11 +89,17 @@ std::vector<Verb> verbsOf(const CLI::App& program) {
 std::string inQuotes(std::string_view text, std::string_view signs, std::string_view quote) {
     std::string result = "'";
     for (const char character : text) {
-        result += character == '\''
-                      ? std::string(quote)
-                      : (signs.find(character) == std::string_view::npos ? "" : "\\") + std::string(1, character);
+        if (character == '\'') {
+            result += quote;
+            continue;
+        }
+        if (signs.find(character) != std::string_view::npos) {
+            result += '\\';
+        }
+        result += character;
     }
-    return result + "'";
+    result += '\'';
+    return result;
 }
 
 constexpr const char* bash = R"script(# Completion of ostra-params for bash.
@@ -139,11 +133,11 @@ _ostra_params() {{
 complete -F _ostra_params ostra-params
 )script";
 
-std::string forBash(const std::vector<Verb>& verbs) {
+std::string forBash(const std::vector<Completed>& verbs) {
     std::string options;
     std::string words;
     std::string lists;
-    for (const Verb& verb : verbs) {
+    for (const Completed& verb : verbs) {
         std::string names;
         for (const Option& option : verb.options) {
             names += (names.empty() ? "" : " ") + option.name;
@@ -179,7 +173,7 @@ _ostra-params() {{
 compdef _ostra-params ostra-params
 )script";
 
-std::string forZsh(const std::vector<Verb>& verbs) {
+std::string forZsh(const std::vector<Completed>& verbs) {
     const auto quoted = [](std::string_view text) { return inQuotes(text, "", "'\\''"); };
     const auto escaped = [](std::string_view text) {
         return encoded(
@@ -187,7 +181,7 @@ std::string forZsh(const std::vector<Verb>& verbs) {
     };
     std::string names;
     std::string cases;
-    for (const Verb& verb : verbs) {
+    for (const Completed& verb : verbs) {
         names += "        " + quoted(verb.name + ":" + escaped(verb.help)) + "\n";
         cases += fmt::format("        {}) _arguments", verb.name);
         for (const Option& option : verb.options) {
@@ -211,14 +205,14 @@ std::string forZsh(const std::vector<Verb>& verbs) {
     return fmt::format(zsh, names, cases);
 }
 
-std::string forFish(const std::vector<Verb>& verbs) {
+std::string forFish(const std::vector<Completed>& verbs) {
     const auto quoted = [](std::string_view text) { return inQuotes(text, "\\", "\\'"); };
     std::string script =
         "# Completion of ostra-params for fish.\n\n"
         "complete -c ostra-params -n __fish_use_subcommand -f\n"
         "complete -c ostra-params -n __fish_use_subcommand -l help -d 'Print the verbs and exit'\n"
         "complete -c ostra-params -n __fish_use_subcommand -l version -d 'Print the version and exit'\n";
-    for (const Verb& verb : verbs) {
+    for (const Completed& verb : verbs) {
         script += fmt::format("\ncomplete -c ostra-params -n __fish_use_subcommand -f -a {} -d {}\n", verb.name,
                               quoted(verb.help));
         const std::string line = fmt::format("complete -c ostra-params -n '__fish_seen_subcommand_from {}'", verb.name);
@@ -241,19 +235,16 @@ std::string forFish(const std::vector<Verb>& verbs) {
 
 } // namespace
 
-Action addCompletion(CLI::App& program) {
+void addCompletion(CommandLine& program) {
     const auto shell = std::make_shared<std::string>();
-    CLI::App* verb = program.add_subcommand("completion", "Print a script that lets a shell complete what is typed");
-    verb->add_option("SHELL", *shell, "bash, zsh or fish")
-        ->required()
-        ->check(CLI::IsMember({"bash", "zsh", "fish"}))
-        ->type_name("");
-    verb->footer(details);
-    return [shell, &program] {
-        const std::vector<Verb> verbs = verbsOf(program);
+    const Verb verb = program.addVerb("completion", "Print a script that lets a shell complete what is typed");
+    verb.add("SHELL", *shell, "", "bash, zsh or fish").required().oneOf({"bash", "zsh", "fish"});
+    verb.footer(details);
+    verb.does([shell, &program] {
+        const std::vector<Completed> verbs = verbsOf(program);
         print(*shell == "bash" ? forBash(verbs) : *shell == "zsh" ? forZsh(verbs) : forFish(verbs));
         return Good;
-    };
+    });
 }
 
 } // namespace Tool

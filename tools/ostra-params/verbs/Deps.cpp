@@ -5,8 +5,6 @@
 #include "output/Text.h"
 #include "verbs/Verb.h"
 
-#include <CLI/CLI.hpp>
-
 #include <memory>
 #include <set>
 #include <utility>
@@ -101,23 +99,22 @@ ExitCode deps(const Options& options) {
 
 } // namespace
 
-Action addDeps(CLI::App& program) {
+void addDeps(CommandLine& program) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb = program.add_subcommand("deps", "Show what an object depends on, as a tree or a picture");
-    addTypeId(*verb, options->typeId);
-    addPaths(*verb, options->paths, false);
-    verb->add_flag("--reverse", options->isReverse, "Show what depends on the object instead");
-    CLI::Option* dot = verb->add_flag("--dot", options->isDot, "Print a graph in the language of Graphviz");
-    CLI::Option* svg =
-        verb->add_option("--svg", options->svgFile,
-                         "Draw the graph into a file, by Graphviz's program dot;\n- stands for standard output")
-            ->check(refuseEmpty)
-            ->type_name("FILE")
-            ->excludes(dot);
-    verb->add_flag("--json", options->isJson, "Print the graph as a JSON object: nodes and edges")
-        ->excludes(dot)
-        ->excludes(svg);
-    return [options] { return deps(*options); };
+    const Verb verb = program.addVerb("deps", "Show what an object depends on, as a tree or a picture");
+    addTypeId(verb, options->typeId);
+    addPaths(verb, options->paths, false);
+    verb.addFlag("--reverse", options->isReverse, "Show what depends on the object instead");
+    const Argument dot = verb.addFlag("--dot", options->isDot, "Print a graph in the language of Graphviz");
+    const Argument svg =
+        verb.add("--svg", options->svgFile, "FILE",
+                 "Draw the graph into a file, by Graphviz's program dot;\n- stands for standard output")
+            .check(refuseEmpty)
+            .excludes(dot);
+    verb.addFlag("--json", options->isJson, "Print the graph as a JSON object: nodes and edges")
+        .excludes(dot)
+        .excludes(svg);
+    verb.does([options] { return deps(*options); });
 }
 
 } // namespace Tool

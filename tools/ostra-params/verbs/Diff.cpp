@@ -9,7 +9,6 @@
 #include "verbs/DiffFormats.h"
 #include "verbs/Verb.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -124,58 +123,53 @@ ExitCode diff(const Options& options) {
 /// Refuses what does not go together: two catalogues there must be, unless one is a revision.
 void mustFit(const Options& options) {
     if (options.revision.empty() && options.oldPath.empty()) {
-        throw CLI::RequiredError("OLD");
+        refuseWithout("OLD");
     }
     if (options.revision.empty() && options.newPath.empty()) {
-        throw CLI::RequiredError("NEW");
+        refuseWithout("NEW");
     }
     if (options.revision.empty() && !options.paths.empty()) {
-        throw CLI::ExtrasError(options.paths);
+        refuseExtra(options.paths);
     }
     for (const auto& [isGiven, name] :
          {std::pair(options.format == "github" || options.format == "sarif", "--format"),
           std::pair(!options.accepted.empty(), "--accept"), std::pair(options.isAll, "--all")}) {
         if (isGiven && !options.isBreaking) {
-            throw CLI::RequiresError(name == std::string_view("--format") ? "--format " + options.format : name,
-                                     "--breaking");
+            refuseWithout("--breaking", name == std::string_view("--format") ? "--format " + options.format : name);
         }
     }
 }
 
 } // namespace
 
-Action addDiff(CLI::App& program) {
+void addDiff(CommandLine& program) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb = program.add_subcommand("diff", "Tell what changed from one catalogue to another");
+    const Verb verb = program.addVerb("diff", "Tell what changed from one catalogue to another");
     const auto addPath = [&](const char* name, auto& value, const char* help) {
-        verb->add_option(name, value, help)->check(refuseEmpty)->type_name("");
+        verb.add(name, value, "", help).check(refuseEmpty);
     };
     addPath("OLD", options->oldPath, "The one catalogue: a file, a folder, or - for standard input");
     addPath("NEW", options->newPath, "The other one");
     addPath("PATH", options->paths,
             "With --against, any number of paths may be given instead;\nthe working folder when none is");
-    verb->add_option("--against", options->revision,
-                     "Compare a revision of the paths with what they are now;\ngit is asked for it")
-        ->check(refuseEmpty)
-        ->type_name("REV");
-    verb->add_flag("--breaking", options->isBreaking, "Tell whom the changes break, and fail if they do");
-    verb->add_option("--accept", options->accepted,
-                     "Let this break, everywhere or in the one object\nCODE:TYPEID; may be repeated")
-        ->delimiter(',')
-        ->allow_extra_args(false)
-        ->check(CLI::Validator(refuseUnknownCode, ""))
-        ->type_name("RULE");
-    verb->add_flag("--all", options->isAll, "Show what is safe or accepted, too");
-    verb->add_option("--format", options->format,
-                     "text (which is the default), json; with --breaking, sarif\nfor code hosts, or github for the log "
-                     "of a workflow")
-        ->check(CLI::IsMember({"text", "json", "sarif", "github"}))
-        ->type_name("FORMAT");
-    verb->add_flag("--json", options->isJson, "Print a JSON object, as --format json does");
-    verb->add_flag("--strict", options->isStrict, "Refuse catalogues with faults");
-    verb->footer(details);
-    verb->parse_complete_callback([options] { mustFit(*options); });
-    return [options] { return diff(*options); };
+    verb.add("--against", options->revision, "REV",
+             "Compare a revision of the paths with what they are now;\ngit is asked for it")
+        .check(refuseEmpty);
+    verb.addFlag("--breaking", options->isBreaking, "Tell whom the changes break, and fail if they do");
+    verb.add("--accept", options->accepted, "RULE",
+             "Let this break, everywhere or in the one object\nCODE:TYPEID; may be repeated")
+        .separatedByCommas()
+        .check(refuseUnknownCode);
+    verb.addFlag("--all", options->isAll, "Show what is safe or accepted, too");
+    verb.add("--format", options->format, "FORMAT",
+             "text (which is the default), json; with --breaking, sarif\nfor code hosts, or github for the log "
+             "of a workflow")
+        .oneOf({"text", "json", "sarif", "github"});
+    verb.addFlag("--json", options->isJson, "Print a JSON object, as --format json does");
+    verb.addFlag("--strict", options->isStrict, "Refuse catalogues with faults");
+    verb.footer(details);
+    verb.afterReading([options] { mustFit(*options); });
+    verb.does([options] { return diff(*options); });
 }
 
 } // namespace Tool

@@ -6,7 +6,6 @@
 #include "verbs/CheckFormats.h"
 #include "verbs/Verb.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <filesystem>
@@ -97,18 +96,18 @@ ExitCode exportCatalogue(const Options& options) {
 
 } // namespace
 
-Action addExport(CLI::App& program) {
+void addExport(CommandLine& program) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb = program.add_subcommand("export", "Write the schemas of a catalogue in their normal form");
-    addPaths(*verb, options->paths, true);
-    addRequired(*verb, "-o,--output", options->output,
+    const Verb verb = program.addVerb("export", "Write the schemas of a catalogue in their normal form");
+    addPaths(verb, options->paths, true);
+    addRequired(verb, "-o,--output", options->output,
                 "A file that ends in .ndjson gets one schema a line, -\nstands for standard output, and anything "
                 "else is a folder\nthat gets one file each",
                 "FILE|DIR");
-    verb->add_flag("--strict", options->isStrict, "Write nothing when something would not be written as it is");
-    verb->add_flag("--all", options->isAll, "Show each of many like losses, too");
-    verb->footer(details);
-    return [options] { return exportCatalogue(*options); };
+    verb.addFlag("--strict", options->isStrict, "Write nothing when something would not be written as it is");
+    verb.addFlag("--all", options->isAll, "Show each of many like losses, too");
+    verb.footer(details);
+    verb.does([options] { return exportCatalogue(*options); });
 }
 
 } // namespace Tool

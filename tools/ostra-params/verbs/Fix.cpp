@@ -4,7 +4,6 @@
 #include "output/Text.h"
 #include "verbs/Verb.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <memory>
@@ -45,13 +44,13 @@ ExitCode fix(const Options& options) {
 
 } // namespace
 
-Action addFix(CLI::App& program) {
+void addFix(CommandLine& program) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb = program.add_subcommand("fix", "Mend what is plainly misspelt");
-    addPaths(*verb, options->paths, true);
-    verb->add_flag("--dry-run", options->isDryRun, "Write nothing; print the changes alone");
-    verb->footer(details);
-    return [options] { return fix(*options); };
+    const Verb verb = program.addVerb("fix", "Mend what is plainly misspelt");
+    addPaths(verb, options->paths, true);
+    verb.addFlag("--dry-run", options->isDryRun, "Write nothing; print the changes alone");
+    verb.footer(details);
+    verb.does([options] { return fix(*options); });
 }
 
 } // namespace Tool

@@ -9,8 +9,6 @@
 
 #include <parameters/ParametersEngine.h>
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <map>
 #include <memory>
@@ -155,14 +153,14 @@ ExitCode format(const Options& options) {
 
 } // namespace
 
-Action addFormat(CLI::App& program) {
+void addFormat(CommandLine& program) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb = program.add_subcommand("fmt", "Lay schemas out in one canonical form");
-    addPaths(*verb, options->paths, true);
-    auto* check = verb->add_flag("--check", options->isCheck, "Write nothing; print what would change");
-    verb->add_flag("--diff", options->isDiff, "Write nothing; print the changes, as patch takes them")->excludes(check);
-    verb->footer(details);
-    return [options] { return format(*options); };
+    const Verb verb = program.addVerb("fmt", "Lay schemas out in one canonical form");
+    addPaths(verb, options->paths, true);
+    const Argument check = verb.addFlag("--check", options->isCheck, "Write nothing; print what would change");
+    verb.addFlag("--diff", options->isDiff, "Write nothing; print the changes, as patch takes them").excludes(check);
+    verb.footer(details);
+    verb.does([options] { return format(*options); });
 }
 
 } // namespace Tool

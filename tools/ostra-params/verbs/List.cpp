@@ -5,8 +5,6 @@
 #include "verbs/NamePattern.h"
 #include "verbs/Verb.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <memory>
 
@@ -80,24 +78,20 @@ ExitCode list(const Options& options) {
 
 } // namespace
 
-Action addList(CLI::App& program) {
+void addList(CommandLine& program) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb = program.add_subcommand("list", "List the objects of a catalogue: typeid, kind and name");
-    addPaths(*verb, options->paths, false);
-    verb->add_option(
-            "--kind", options->kinds,
-            "Only this kind, or these with commas between them;\nparameter, spec and range stand for all of them:\n" +
-                kindIds())
-        ->check(CLI::Validator(refuseUnknownKind, ""))
-        ->delimiter(',')
-        ->allow_extra_args(false)
-        ->type_name("KIND");
-    verb->add_option("--name", options->name,
-                     "Only names with this in them, or that match it as a\nwhole when it has wildcards (* ? [...]); "
-                     "case does\nnot matter")
-        ->type_name("PATTERN");
-    verb->add_flag("--json", options->isJson, "Print a JSON array");
-    return [options] { return list(*options); };
+    const Verb verb = program.addVerb("list", "List the objects of a catalogue: typeid, kind and name");
+    addPaths(verb, options->paths, false);
+    verb.add("--kind", options->kinds, "KIND",
+             "Only this kind, or these with commas between them;\nparameter, spec and range stand for all of them:\n" +
+                 kindIds())
+        .check(refuseUnknownKind)
+        .separatedByCommas();
+    verb.add("--name", options->name, "PATTERN",
+             "Only names with this in them, or that match it as a\nwhole when it has wildcards (* ? [...]); "
+             "case does\nnot matter");
+    verb.addFlag("--json", options->isJson, "Print a JSON array");
+    verb.does([options] { return list(*options); });
 }
 
 } // namespace Tool

@@ -3,8 +3,6 @@
 #include "system/System.h"
 #include "verbs/Verb.h"
 
-#include <CLI/CLI.hpp>
-
 #include <cstdio>
 #include <memory>
 #include <string_view>
@@ -34,12 +32,12 @@ ExitCode serve() {
 
 } // namespace
 
-Action addLsp(CLI::App& program) {
-    CLI::App* verb = program.add_subcommand("lsp", "Help editors: a language server on standard input and output");
+void addLsp(CommandLine& program) {
+    const Verb verb = program.addVerb("lsp", "Help editors: a language server on standard input and output");
     const auto isStdio = std::make_shared<bool>();
-    verb->add_flag("--stdio", *isStdio, "What some editors add, and is done anyway");
-    verb->footer(details);
-    return [isStdio] { return serve(); };
+    verb.addFlag("--stdio", *isStdio, "What some editors add, and is done anyway");
+    verb.footer(details);
+    verb.does([isStdio] { return serve(); });
 }
 
 } // namespace Tool

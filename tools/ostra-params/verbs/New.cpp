@@ -6,7 +6,6 @@
 
 #include <parameters/ParametersEngine.h>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <memory>
@@ -69,23 +68,19 @@ std::string idsOfForms() {
 
 } // namespace
 
-Action addNew(CLI::App& program) {
+void addNew(CommandLine& program) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb = program.add_subcommand("new", "Write a schema to be filled in");
-    verb->add_option("KIND", options->kind, idsOfForms())->required()->check(refuseOtherKinds)->type_name("");
-    verb->add_option("TYPEID", options->typeId, "The typeid of the schema")
-        ->required()
-        ->check(refuseTypeId)
-        ->type_name("");
-    verb->add_option("-o,--output", options->output, "A .json file; standard output when none is given")
-        ->check(refuseEmpty)
-        ->type_name("FILE");
-    verb->footer(details);
-    return [options] {
+    const Verb verb = program.addVerb("new", "Write a schema to be filled in");
+    verb.add("KIND", options->kind, "", idsOfForms()).required().check(refuseOtherKinds);
+    verb.add("TYPEID", options->typeId, "", "The typeid of the schema").required().check(refuseTypeId);
+    verb.add("-o,--output", options->output, "FILE", "A .json file; standard output when none is given")
+        .check(refuseEmpty);
+    verb.footer(details);
+    verb.does([options] {
         writeTo(options->output,
                 Layout::ofJson(schemaOf(*Language::findForm(options->kind), options->typeId, &valueOf)));
         return Good;
-    };
+    });
 }
 
 } // namespace Tool

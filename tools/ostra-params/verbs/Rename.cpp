@@ -5,7 +5,6 @@
 #include "output/Text.h"
 #include "verbs/Verb.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -106,17 +105,17 @@ ExitCode rename(const Options& options) {
 
 } // namespace
 
-Action addRename(CLI::App& program) {
+void addRename(CommandLine& program) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb = program.add_subcommand("rename", "Give a schema another typeid, wherever it is named");
-    addRequired(*verb, "OLD", options->oldTypeId, "The typeid of a schema, as a whole", "");
-    addRequired(*verb, "NEW", options->newTypeId, "Its new typeid, which nothing has", "");
-    addPaths(*verb, options->paths, true);
-    auto* dryRun = verb->add_flag("--dry-run", options->isDryRun, "Write nothing; tell how many places would change");
-    verb->add_flag("--diff", options->isDiff, "Write nothing; print the changes, as patch takes them")
-        ->excludes(dryRun);
-    verb->footer(details);
-    return [options] { return rename(*options); };
+    const Verb verb = program.addVerb("rename", "Give a schema another typeid, wherever it is named");
+    addRequired(verb, "OLD", options->oldTypeId, "The typeid of a schema, as a whole", "");
+    addRequired(verb, "NEW", options->newTypeId, "Its new typeid, which nothing has", "");
+    addPaths(verb, options->paths, true);
+    const Argument dryRun =
+        verb.addFlag("--dry-run", options->isDryRun, "Write nothing; tell how many places would change");
+    verb.addFlag("--diff", options->isDiff, "Write nothing; print the changes, as patch takes them").excludes(dryRun);
+    verb.footer(details);
+    verb.does([options] { return rename(*options); });
 }
 
 } // namespace Tool

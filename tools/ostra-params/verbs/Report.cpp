@@ -6,8 +6,6 @@
 #include "report/ReviewData.h"
 #include "verbs/Verb.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <memory>
 #include <string>
@@ -51,18 +49,17 @@ ExitCode report(const Options& options) {
 
 } // namespace
 
-Action addReport(CLI::App& program) {
+void addReport(CommandLine& program) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb = program.add_subcommand("report", "Write a page to browse a catalogue with, in one file");
-    addPaths(*verb, options->paths, true);
-    addRequired(*verb, "-o,--output", options->output, "The page, an HTML file; - stands for standard output", "FILE");
-    verb->add_option("--against", options->against,
-                     "An earlier catalogue: a file, a folder, or - for standard input.\nThe page tells what changed "
-                     "since then, and whom it breaks")
-        ->check(refuseEmpty)
-        ->type_name("OLD");
-    verb->footer("The page needs no network. What is faulty is left out of it, and listed.");
-    return [options] { return report(*options); };
+    const Verb verb = program.addVerb("report", "Write a page to browse a catalogue with, in one file");
+    addPaths(verb, options->paths, true);
+    addRequired(verb, "-o,--output", options->output, "The page, an HTML file; - stands for standard output", "FILE");
+    verb.add("--against", options->against, "OLD",
+             "An earlier catalogue: a file, a folder, or - for standard input.\nThe page tells what changed "
+             "since then, and whom it breaks")
+        .check(refuseEmpty);
+    verb.footer("The page needs no network. What is faulty is left out of it, and listed.");
+    verb.does([options] { return report(*options); });
 }
 
 } // namespace Tool

@@ -5,8 +5,6 @@
 #include "output/Text.h"
 #include "verbs/Verb.h"
 
-#include <CLI/CLI.hpp>
-
 #include <memory>
 
 namespace Tool {
@@ -31,15 +29,15 @@ ExitCode show(const Options& options) {
 
 } // namespace
 
-Action addShow(CLI::App& program) {
+void addShow(CommandLine& program) {
     const auto options = std::make_shared<Options>();
-    CLI::App* verb = program.add_subcommand("show", "Show one object: what it says, what it names and what names it");
-    addTypeId(*verb, options->typeId);
-    addPaths(*verb, options->paths, false);
-    CLI::Option* schema =
-        verb->add_flag("--schema", options->isSchema, "Print its schema as the library writes it, indented");
-    verb->add_flag("--json", options->isJson, "Print a JSON object")->excludes(schema);
-    return [options] { return show(*options); };
+    const Verb verb = program.addVerb("show", "Show one object: what it says, what it names and what names it");
+    addTypeId(verb, options->typeId);
+    addPaths(verb, options->paths, false);
+    const Argument schema =
+        verb.addFlag("--schema", options->isSchema, "Print its schema as the library writes it, indented");
+    verb.addFlag("--json", options->isJson, "Print a JSON object").excludes(schema);
+    verb.does([options] { return show(*options); });
 }
 
 } // namespace Tool

@@ -5,7 +5,6 @@
 #include "output/Text.h"
 #include "verbs/CheckFormats.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -25,16 +24,14 @@ std::string severalHave(const std::string& text, const std::vector<const Object*
 
 } // namespace
 
-void addPaths(CLI::App& verb, std::vector<std::string>& paths, bool isRequired) {
+void addPaths(const Verb& verb, std::vector<std::string>& paths, bool isRequired) {
     paths = {"."};
-    verb.add_option(
-            "PATH", paths,
-            std::string(".json files (one schema each), .ndjson and .jsonl files\n(one schema per line), folders "
-                        "to be searched for such\nfiles at all depths, and - for standard input") +
-                (isRequired ? "" : "; the working folder\nwhen none is given"))
-        ->required(isRequired)
-        ->check(refuseEmpty)
-        ->type_name("");
+    verb.add("PATH", paths, "",
+             std::string(".json files (one schema each), .ndjson and .jsonl files\n(one schema per line), folders "
+                         "to be searched for such\nfiles at all depths, and - for standard input") +
+                 (isRequired ? "" : "; the working folder\nwhen none is given"))
+        .required(isRequired)
+        .check(refuseEmpty);
 }
 
 void mustBeFiles(const std::vector<std::string>& paths) {
@@ -43,9 +40,9 @@ void mustBeFiles(const std::vector<std::string>& paths) {
     }
 }
 
-void addRequired(CLI::App& verb, const std::string& name, std::string& value, const std::string& help,
+void addRequired(const Verb& verb, const std::string& name, std::string& value, const std::string& help,
                  const std::string& type) {
-    verb.add_option(name, value, help)->required()->check(refuseEmpty)->type_name(type);
+    verb.add(name, value, type, help).required().check(refuseEmpty);
 }
 
 std::string refuseEmpty(const std::string& argument) { return argument.empty() ? "must not be empty" : ""; }
@@ -75,7 +72,7 @@ bool printFaults(const Catalogue& catalogue, std::string_view warningCode) {
     return !faults.empty();
 }
 
-void addTypeId(CLI::App& verb, std::string& typeId) {
+void addTypeId(const Verb& verb, std::string& typeId) {
     addRequired(verb, "TYPEID", typeId, "The typeid of an object, or a part that no other has", "");
 }
 
