@@ -3,7 +3,6 @@
 #include <array>
 #include <cstddef>
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace Parameters::Internal {
@@ -20,11 +19,7 @@ public:
             chunks_.push_back(std::make_unique<Chunk>(*chunk));
         }
     }
-    Chunked& operator=(Chunked other) noexcept {
-        chunks_.swap(other.chunks_);
-        std::swap(size_, other.size_);
-        return *this;
-    }
+    Chunked& operator=(const Chunked&) = delete;
     ~Chunked() = default;
 
     std::size_t size() const noexcept { return size_; }

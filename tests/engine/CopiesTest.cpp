@@ -331,4 +331,19 @@ TEST(PictureOfAnEngine, ShowsEveryChange) {
     }
 }
 
+TEST(Copies, KnowWhatTheyResolvedWhenTheOriginalIsGone) {
+    auto original = std::make_unique<ParametersEngine>();
+    original->registerSchema(boolParameterText("p", "norvex.parameter:group-1.0.0", "norvex.spec:spec.bool-1.0.0"));
+    ParametersEngine copy = *original;
+    copy.resolveSchemas();
+    original.reset();
+    ParametersEngine other; // whose parameters come to lie where that of the original was
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+        other.registerSchema(
+            boolParameterText(std::string(1, letter), "norvex.parameter:group-1.0.0", "norvex.spec:spec.bool-1.0.0"));
+    }
+    EXPECT_TRUE(copy.isRegistered("p"));
+    EXPECT_EQ(copy.getBoolParameter("p").getCore().getTypeId(), "p");
+}
+
 } // namespace

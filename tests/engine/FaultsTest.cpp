@@ -122,6 +122,15 @@ TEST(FindFaults, TellsEveryConstantThatIsWrongInTheOrderOfReading) {
                      "range-typeid-missing typeid at t:/constants/6/value {}"}));
 }
 
+TEST(FindFaults, TellsOfAConsequenceTheFirstFaultOfWhatIsNamed) {
+    EXPECT_EQ(faultsOf({{"1", schemaText("g", "norvex.parameter:group-1.0.0",
+                                         constant("name", "1") + "," + constant("description", "2") + ",3")},
+                        {"2", boolParameterText("p", "g", "norvex.spec:spec.bool-1.0.0")}}),
+              (Lines{"constant-not-an-object at 1:/constants/2 3", "string-expected name at 1:/constants/0/value 1",
+                     "dependency-missing g needs group at 2:/constants/1/typedValue/typeid \"g\" beside 1:/typeid "
+                     "after 1:/constants/2"}));
+}
+
 TEST(FindFaults, TellsFaultsOfStructureConstantsAndNamesOfOneText) {
     const std::string text = R"({"typeid":"x","inherits":["norvex.parameter:parameter.bool-2.0.0"],"constants":[0,)"
                              R"({"id":"name"},{"value":1},{"id":"name","value":"N"},)"

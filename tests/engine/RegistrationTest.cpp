@@ -171,6 +171,16 @@ TEST_F(RegistrationOfReferences, GivesAParameterTheRegisteredSpec) {
     EXPECT_EQ(spec.getDiscipline().getTypeId(), "discipline");
 }
 
+TEST_F(RegistrationOfReferences, LeavesTheParameterThatWasGivenAsItWas) {
+    const BoolParameter parameter =
+        parameterIn(Taxon("group", "Mine"), BoolSpec(SpecCore("bool spec", "Mine", Taxon("x", ""))));
+    engine.getSchema(parameter);
+    engine.registerBoolParameter(parameter);
+    EXPECT_EQ(parameter.getCore().getGroup().getName(), "Mine");
+    EXPECT_EQ(parameter.getSpec().getCore().getName(), "Mine");
+    EXPECT_EQ(engine.getBoolParameter("p").getCore().getGroup().getName(), "Registered");
+}
+
 TEST_F(RegistrationOfReferences, KeepsTheBuiltInSpecThatAParameterWasMadeWith) {
     engine.registerBoolParameter(
         parameterIn(builtInGroup, BoolSpec(SpecCore("norvex.spec:spec.bool-1.7.0", "Mine", Taxon("x", "Also mine")))));

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <deque>
 #include <map>
+#include <memory>
 #include <random>
 #include <string>
 #include <string_view>
@@ -256,7 +257,7 @@ protected:
         const auto place = static_cast<std::uint32_t>(random_());
         const auto kind = static_cast<std::uint8_t>(random_() % 20);
         const bool resolved = random_() % 2 == 0;
-        const auto id = add(directory_, typeIds_.back(), place, kind, resolved);
+        const auto id = add(*directory_, typeIds_.back(), place, kind, resolved);
         if (named != model_.end()) {
             EXPECT_EQ(id, named->second.id);
         }
@@ -264,7 +265,7 @@ protected:
     }
 
     void nameEntry(const std::string& typeId) {
-        const auto id = name(directory_, typeId);
+        const auto id = name(*directory_, typeId);
         const auto [named, isNew] = model_.try_emplace(typeId, Known{id, 0, false, 0, 0, false});
         EXPECT_EQ(named->second.id, id);
         ++named->second.namings;
@@ -272,7 +273,7 @@ protected:
 
     void forgetEntry(const std::string& typeId) {
         const auto named = model_.find(typeId);
-        directory_.forget(named->second.id);
+        directory_->forget(named->second.id);
         --named->second.namings;
         dropUnused(named);
     }
@@ -280,13 +281,13 @@ protected:
     void changeEntry(Known& known) {
         known.place = static_cast<std::uint32_t>(random_());
         known.resolved = !known.resolved;
-        directory_[known.id].subject.place = known.place;
-        directory_[known.id].subject.resolved = known.resolved;
+        (*directory_)[known.id].subject.place = known.place;
+        (*directory_)[known.id].subject.resolved = known.resolved;
     }
 
     void removeEntry(const std::string& typeId) {
         const auto removed = model_.find(typeId);
-        directory_.remove(removed->second.id);
+        directory_->remove(removed->second.id);
         removed->second.isSomething = false;
         dropUnused(removed);
     }
@@ -299,11 +300,11 @@ protected:
 
     void expectEntry(const std::string& typeId) const {
         const auto known = model_.find(typeId);
-        const Directory::Subject* const subject = directory_.find(typeId);
+        const Directory::Subject* const subject = directory_->find(typeId);
         ASSERT_EQ(subject != nullptr, known != model_.end() && known->second.isSomething);
         if (known != model_.end()) {
-            ASSERT_EQ(directory_[known->second.id].typeId(), typeId);
-            ASSERT_EQ(directory_.find(known->second.id), subject);
+            ASSERT_EQ((*directory_)[known->second.id].typeId(), typeId);
+            ASSERT_EQ(directory_->find(known->second.id), subject);
         }
         if (subject != nullptr) {
             ASSERT_EQ(subject->place, known->second.place);
@@ -314,7 +315,7 @@ protected:
 
     std::mt19937 random_{GetParam()};
     std::deque<std::string> typeIds_; // which the entries refer to
-    Directory directory_;
+    std::unique_ptr<Directory> directory_ = std::make_unique<Directory>();
     std::map<std::string, Known> model_;
 };
 
@@ -336,7 +337,7 @@ TEST_P(RandomOperations, GiveWhatAMapGives) {
         }
         ASSERT_NO_FATAL_FAILURE(expectEntry(typeId)) << "operation " << i;
         if (i % 1000 == 0) {
-            directory_ = Directory(directory_); // a copy stands in for the original at any time
+            directory_ = std::make_unique<Directory>(*directory_); // a copy stands in for the original at any time
         }
     }
     for (const std::string& typeId : typeIds_) {

@@ -68,6 +68,15 @@ TEST(JSONWriter, EscapesWhatAStringMustNotHold) {
     EXPECT_EQ(textOfString("\"\\/\b\f\n\r\t\0\x1F\x7F"sv), "\"\\\"\\\\/\\b\\f\\n\\r\\t\\u0000\\u001F\x7F\"");
 }
 
+TEST(JSONWriter, WritesControlCharactersThatHaveNoNameByTheirNumbers) {
+    EXPECT_EQ(textOfString("\1\2\3\4\5\6\7\x0B\x0E\x0F"sv),
+              R"("\u0001\u0002\u0003\u0004\u0005\u0006\u0007\u000B\u000E\u000F")");
+    EXPECT_EQ(textOfString("\x10\x11\x12\x13\x14\x15\x16\x17"sv),
+              R"("\u0010\u0011\u0012\u0013\u0014\u0015\u0016\u0017")");
+    EXPECT_EQ(textOfString("\x18\x19\x1A\x1B\x1C\x1D\x1E\x1F"sv),
+              R"("\u0018\u0019\u001A\u001B\u001C\u001D\u001E\u001F")");
+}
+
 TEST(JSONWriter, EscapesOneCharacterInEveryPlaceOfAString) {
     for (std::size_t before = 0; before < 20; ++before) {
         for (std::size_t behind = 0; behind < 20; ++behind) {

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <new>
 #include <string>
 
 // What takes long only when much is registered is seen in the memory that it asks for, whatever else the machine does.
@@ -70,19 +71,87 @@ TEST_F(Costs, OfRegisteringOneObjectAfterTheOtherGrowWithTheirNumber) {
 /// What is named by what was withdrawn is forgotten, though something else waits all the time.
 TEST_F(Costs, OfWhatWasWithdrawnAreGivenBack) {
     ParametersEngine engine;
-    const auto addAndWithdraw = [&](int count) {
-        for (int number = 0; number < count; ++number) {
+    const auto addAndWithdraw = [&](int begin, int end) {
+        for (int number = begin; number < end; ++number) {
             const std::string group = "a group that is not there " + std::to_string(number);
             engine.registerSchema(Support::boolParameterText("parameter", group, "a spec that is not there"));
             engine.discardPending("parameter");
         }
     };
     engine.registerSchema(Support::boolParameterText("waits", "a group that is not there", "a spec that is not there"));
-    addAndWithdraw(500);
+    addAndWithdraw(0, 500);
     const Ostra::AllocationWatch watch;
-    addAndWithdraw(500);
+    addAndWithdraw(500, 1000);
     EXPECT_EQ(watch.liveBlocks(), 0);
     EXPECT_EQ(engine.findUnresolvable().size(), 1U);
+}
+
+/// As it is, too, when nothing else waits.
+TEST_F(Costs, OfTheLastThatIsNamedAreGivenBack) {
+    ParametersEngine engine;
+    engine.registerGroup(Taxon("group", "Name"));
+    engine.registerBoolSpec(Parameters::BoolSpec(Parameters::SpecCore("spec", "Name")));
+    engine.registerSchema(Support::boolParameterText("parameter", "group", "spec"));
+    engine.discardPending("parameter"); // there is room for what is pending now
+    const Ostra::AllocationWatch watch;
+    engine.registerSchema(Support::boolParameterText("parameter", "a group that is not there", "spec"));
+    engine.discardPending("parameter");
+    EXPECT_EQ(watch.liveBlocks(), 0);
+}
+
+/// Whichever request for memory fails, what was named by then is forgotten.
+TEST_F(Costs, OfWhatWasNotRegisteredAreGivenBack) {
+    ParametersEngine engine;
+    const std::string text =
+        Support::boolParameterText("parameter", "a group that is not there", "a spec that is not there");
+    engine.registerSchema(Support::boolParameterText("waits", "another group", "another spec"));
+    engine.registerSchema(text);
+    engine.discardPending("parameter"); // there is room for it now
+    bool isRegistered = false;
+    for (long failing = 0; !isRegistered; ++failing) {
+        const Ostra::AllocationWatch watch(failing);
+        try {
+            engine.registerSchema(text);
+            isRegistered = true;
+        } catch (const std::bad_alloc&) {
+            EXPECT_EQ(watch.liveBlocks(), 0) << "request " << failing;
+        }
+    }
+}
+
+/// Built-in objects are named as others are, and are forgotten when they are found.
+TEST_F(Costs, OfWhatIsNamedAreGivenBackWhenItIsFound) {
+    const auto blocksOf = [](auto versionOf) {
+        ParametersEngine engine;
+        const Ostra::AllocationWatch watch;
+        for (int number = 100; number < 150; ++number) {
+            const std::string version = std::to_string(versionOf(number));
+            engine.registerSchema(Support::boolParameterText("parameter " + std::to_string(number),
+                                                             "norvex.parameter:group-1.0.0",
+                                                             "norvex.spec:spec.bool-1.0." + version));
+        }
+        engine.resolveSchemas();
+        return watch.liveBlocks();
+    };
+    blocksOf([](int number) { return number; }); // makes what is made once
+    EXPECT_EQ(blocksOf([](int number) { return number; }), blocksOf([](int) { return 100; }));
+}
+
+/// Nothing is left of what was pending: an engine has then what it has of objects.
+TEST_F(Costs, OfWhatWasPendingAreGivenBackWhenItIsResolved) {
+    const auto blocksOf = [](auto add) {
+        ParametersEngine engine;
+        const Ostra::AllocationWatch watch;
+        add(engine);
+        return watch.liveBlocks();
+    };
+    const auto addSchema = [](ParametersEngine& engine) {
+        engine.registerSchema(disciplineText("discipline"));
+        engine.resolveSchemas();
+    };
+    blocksOf(addSchema); // makes what is made once
+    EXPECT_EQ(blocksOf(addSchema),
+              blocksOf([](ParametersEngine& engine) { engine.registerDiscipline(Taxon("discipline", "Name")); }));
 }
 
 class CostsOfACopy : public Costs {
