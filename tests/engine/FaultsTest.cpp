@@ -123,12 +123,12 @@ TEST(FindFaults, TellsEveryConstantThatIsWrongInTheOrderOfReading) {
 }
 
 TEST(FindFaults, TellsOfAConsequenceTheFirstFaultOfWhatIsNamed) {
-    EXPECT_EQ(faultsOf({{"1", schemaText("g", "norvex.parameter:group-1.0.0",
-                                         constant("name", "1") + "," + constant("description", "2") + ",3")},
+    EXPECT_EQ(faultsOf({{"1", schemaText("g", "norvex.parameter:group-1.0.0", constant("name", "1") + ",2")},
                         {"2", boolParameterText("p", "g", "norvex.spec:spec.bool-1.0.0")}}),
-              (Lines{"constant-not-an-object at 1:/constants/2 3", "string-expected name at 1:/constants/0/value 1",
+              (Lines{"definition-object-expected at 1:/constants/1 2",
+                     "non-empty-string-expected name at 1:/constants/0/value 1",
                      "dependency-missing g needs group at 2:/constants/1/typedValue/typeid \"g\" beside 1:/typeid "
-                     "after 1:/constants/2"}));
+                     "after 1:/constants/1"}));
 }
 
 TEST(FindFaults, TellsFaultsOfStructureConstantsAndNamesOfOneText) {
