@@ -23,7 +23,6 @@ using Parameters::SpecCore;
 using Parameters::Taxon;
 using Parameters::ValidationException;
 using Support::messageOf;
-using Support::pictureOf;
 
 template <class Kind>
 struct RegistrationOfEachKind : testing::Test {

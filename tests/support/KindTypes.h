@@ -12,12 +12,12 @@ template <class List>
 struct TestedTypes;
 template <class... Ks>
 struct TestedTypes<Kinds::List<Ks...>> {
-    using type = testing::Types<Ks...>;
+    using Types = testing::Types<Ks...>;
 };
 
 /// The kinds of a list as the types of a typed suite, whose tests are named after them by NameOfKind.
 template <class List>
-using TestedKinds = typename TestedTypes<List>::type;
+using TestedKinds = typename TestedTypes<List>::Types;
 
 struct NameOfKind {
     template <class Kind>

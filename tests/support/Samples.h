@@ -326,7 +326,7 @@ struct Sample<Kinds::Category> : NamedSample {
 /// base where it has no version.
 inline std::string versionPrefixOf(std::string_view base) {
     const std::size_t version = base.rfind('-');
-    return std::string(version == base.npos ? base : base.substr(0, base.find('.', version) + 1));
+    return std::string(version == std::string_view::npos ? base : base.substr(0, base.find('.', version) + 1));
 }
 
 /// Returns the base of another major version; one with a version where it has none.
@@ -531,7 +531,7 @@ inline std::string describe(const Parameters::Category& category) {
                          shown(agreed(category.name(), category.getName()));
     if (const auto major = category.getMajorCategoryComponent()) {
         result += " of " + describe(same(major->domain(), major->getDomain())) + " for";
-        auto shownDiscipline = category.majorCategoryComponent()->disciplines().begin();
+        const auto* shownDiscipline = category.majorCategoryComponent()->disciplines().begin();
         for (const Parameters::Taxon& discipline : major->getDisciplines()) {
             result += " " + describe(same(*shownDiscipline++, discipline));
         }
@@ -554,7 +554,7 @@ inline std::string describe(const Parameters::StringSpec& spec) { return describ
 
 inline std::string describe(const Parameters::MeasurableSpec& spec) {
     std::string result = describe(same(spec.core(), spec.getCore())) + " in";
-    auto shownUnit = spec.applicableUnits().begin();
+    const auto* shownUnit = spec.applicableUnits().begin();
     for (const Units::Unit& unit : spec.getApplicableUnits()) {
         result += " " + describe(same(*shownUnit++, unit));
     }
