@@ -1,12 +1,12 @@
 #pragma once
 
-#include <string_view>
+#include <string>
 
 /// The files of the report's page, as the build found them.
 namespace Tool::Page {
 
-extern const std::string_view html; ///< With the marks @STYLE@, @DATA@ and @SCRIPT@.
-extern const std::string_view css;
-extern const std::string_view js;
+std::string html(); ///< With the marks @STYLE@, @DATA@ and @SCRIPT@.
+std::string css();
+std::string js();
 
 } // namespace Tool::Page

@@ -23,12 +23,12 @@ struct Options {
 };
 
 std::string pageOf(const Json& data) {
-    std::string page(Page::html);
+    std::string page = Page::html();
     const auto fill = [&](std::string_view mark, std::string_view text) {
         page.replace(page.find(mark), mark.size(), text);
     };
-    fill("@STYLE@", Page::css);
-    fill("@SCRIPT@", Page::js);
+    fill("@STYLE@", Page::css());
+    fill("@SCRIPT@", Page::js());
     fill("@DATA@", toTextInHtml(data)); // last, so that no mark is looked for in what schemas say
     return page;
 }
