@@ -68,6 +68,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Include{"OfFormattingInTheHeaderForIt", "include/parameters/Format.h", "#include <fmt/format.h>"},
                     Include{"OfTheSystemInItsRoomOfTheTool", "tools/ostra-params/system/Posix.cpp",
                             "#include <unistd.h>"},
+                    Include{"OfTheReaderOfArgumentsInItsSource", "tools/ostra-params/verbs/CommandLine.cpp",
+                            "#include <CLI/CLI.hpp>"},
                     Include{"OfTheStandardLibraryInAPublicHeader", "include/parameters/Taxon.h", "#include <string>"}),
     Support::nameOfRow);
 
@@ -99,6 +101,7 @@ INSTANTIATE_TEST_SUITE_P(
         Include{"OfAParameterInAPublicHeaderOfTheUnits", "units/include/units/Unit.h", "#include <parameters/Taxon.h>"},
         Include{"OfTheSystemInAVerb", "tools/ostra-params/verbs/List.cpp", "#include <fnmatch.h>"},
         Include{"OfTheSystemsFoldersInAVerb", "tools/ostra-params/verbs/List.cpp", "#include <sys/stat.h>"},
+        Include{"OfTheReaderOfArgumentsInAVerb", "tools/ostra-params/verbs/List.cpp", "#include <CLI/CLI.hpp>"},
         Include{"OfTheLibrarysInternalsInATool", "tools/ostra-params/main.cpp", "#include \"schema/JSON.h\""}),
     Support::nameOfRow);
 

@@ -17,8 +17,8 @@ std::string inOneLine(std::string text) {
     return text;
 }
 
-std::vector<CLI::App*> verbsOf(CLI::App& program) {
-    return program.get_subcommands([](CLI::App*) { return true; });
+std::vector<const CLI::App*> verbsOf(const CLI::App& program) {
+    return program.get_subcommands([](const CLI::App*) { return true; });
 }
 
 ArgumentHelp helpOf(const CLI::Option& option) {
@@ -36,19 +36,19 @@ ArgumentHelp helpOf(const CLI::Option& option) {
 }
 
 /// Returns what to say of a verb that there is not; the library that reads the arguments takes it for a missing one.
-std::string noVerb(CLI::App& program, const std::vector<std::string>& arguments) {
+std::string noVerb(const CLI::App& program, const std::vector<std::string>& arguments) {
     if (arguments.empty() || arguments.front().starts_with('-')) {
         return "a verb is required";
     }
-    std::vector<std::string> names;
+    std::vector<std::string_view> names;
     for (const CLI::App* verb : verbsOf(program)) {
-        names.push_back(verb->get_name());
+        names.emplace_back(verb->get_name());
     }
-    return thereIsNo("verb", arguments.front(), {names.begin(), names.end()});
+    return thereIsNo("verb", arguments.front(), names);
 }
 
 /// Says what is wrong with the arguments.
-void complain(CLI::App& program, const CLI::ParseError& error, const std::vector<std::string>& arguments) {
+void complain(const CLI::App& program, const CLI::ParseError& error, const std::vector<std::string>& arguments) {
     const std::vector<CLI::App*> chosen = program.get_subcommands();
     const bool isMissing = dynamic_cast<const CLI::RequiredError*>(&error) != nullptr && chosen.empty();
     printError("ostra-params: " + (isMissing ? noVerb(program, arguments) : printable(error.what())) +
@@ -106,7 +106,7 @@ void Verb::footer(const std::string& text) const { verb_->footer(text); }
 
 void Verb::afterReading(const std::function<void()>& look) const { verb_->parse_complete_callback(look); }
 
-void refuseWithout(const std::string& argument) { throw CLI::RequiredError(argument); }
+void refuseWithout(const std::string& needed) { throw CLI::RequiredError(needed); }
 
 void refuseExtra(const std::vector<std::string>& arguments) { throw CLI::ExtrasError(arguments); }
 

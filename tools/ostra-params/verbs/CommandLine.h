@@ -34,9 +34,9 @@ public:
     explicit Argument(CLI::Option& option) : option_(&option) {}
 
     Argument required(bool isRequired = true) const;
-    Argument check(const Check& check) const;
+    Argument check(const Check& check) const; ///< Of each value.
     Argument oneOf(const std::vector<std::string>& words) const;
-    Argument separatedByCommas() const;
+    Argument separatedByCommas() const; ///< Its values; a blank ends them.
     Argument excludes(Argument other) const;
 
 private:
@@ -72,11 +72,12 @@ private:
     Action* action_;
 };
 
-/// Each refuses the arguments when they are looked at together.
+/// Each refuses the arguments when they are looked at together: since one is needed, by another one or by the verb, or
+/// since there are more than the verb takes.
 /// @{
-[[noreturn]] void refuseWithout(const std::string& argument);
-[[noreturn]] void refuseExtra(const std::vector<std::string>& arguments);
+[[noreturn]] void refuseWithout(const std::string& needed);
 [[noreturn]] void refuseWithout(const std::string& needed, const std::string& argument);
+[[noreturn]] void refuseExtra(const std::vector<std::string>& arguments);
 /// @}
 
 /// What the help says of an argument.
