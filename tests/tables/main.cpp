@@ -4,7 +4,8 @@
 //     <!-- table: int-parameter without parameters -->
 //     <!-- end of table -->
 //
-// It is that of a form by its id, or of what the forms of a family have in common.
+// It is that of a form by its id, of what the forms of a family have in common, or of what stands beside the bases of
+// ranges ("inline-ranges").
 //
 // usage: tables [--write] PAGE...
 
@@ -110,6 +111,18 @@ public:
                 "`Expected a non-empty string.` |\n";
         }
         return rows;
+    }
+
+    /// Returns the row of what stands beside the base of a range.
+    std::string ofInline(const Form& range) const {
+        std::string members;
+        for (const Definition& constant : range.constants) {
+            members += fmt::format("{}\"{}\" ({}{}, {})", members.empty() ? "" : ", ", constant.id, valueOf(constant),
+                                   constant.type == Type::texts ? ", at least one" : "",
+                                   constant.isRequired ? "required" : defaultOf(constant) + " by default");
+        }
+        return fmt::format("| `{}` | {} | required | {} |\n", prefixOf(range.base), range.label,
+                           members.empty() ? "none: `{}`" : members);
     }
 
 private:
@@ -220,6 +233,18 @@ private:
     std::string page_;
 };
 
+std::string tableOfInlineRanges(const std::string& page) {
+    const Rows rows(page);
+    std::string table = "| \"typeid\" contains | What it is | \"value\" | Its members |\n|---|---|---|---|\n";
+    for (const Form& form : forms()) {
+        const auto kind = Parameters::findKindOfId(form.section->id);
+        if (kind && kind->family() == Parameters::KindFamily::range) {
+            table += rows.ofInline(form);
+        }
+    }
+    return table + "| none of these | a range of the catalogue | `{}` or none | none |\n";
+}
+
 /// Returns the table of a form or family, without what a family has in common, and notes what it shows.
 std::string tableOf(const std::string& page, std::string_view id, std::string_view without, Definitions& shown) {
     const Form* const form = findForm(id);
@@ -263,7 +288,8 @@ std::string withTables(const std::string& page, const std::string& text, Definit
             throw std::runtime_error(fmt::format("{}: a table has no end.", page));
         }
         result.append(rest, match[0].second).append("\n");
-        result += tableOf(page, match.str(1), match.str(3), shown);
+        result += match.str(1) == "inline-ranges" ? tableOfInlineRanges(page)
+                                                  : tableOf(page, match.str(1), match.str(3), shown);
         result.append("\n").append(endMark);
         rest = text.cbegin() + static_cast<std::ptrdiff_t>(end + endMark.size());
     }
