@@ -345,6 +345,39 @@ TEST_F(LspEditing, AddsConstantsThatAreMissing) {
             ",\n  \"constants\": [{\"id\":\"fromBottom\",\"value\":false}, {\"id\":\"fromTop\",\"value\":false}]\n}");
 }
 
+TEST_F(LspEditing, AddsConstantsInTheLayoutThatAFileHas) {
+    const std::string head =
+        "{\n  \"typeid\": \"t:r\",\n  \"inherits\": [\"norvex.range:range.int64.bounded.static-1.0.0\"]";
+    folder.write("range.json", head + "\n}\n");
+    const std::string line = R"({"typeid":"t:g","inherits":["norvex.parameter:group-1.0.0"],"constants":[)";
+    folder.write("lines.ndjson", line + "]}\n");
+    const std::string spec = R"({
+  "typeid": "t:s",
+  "inherits": ["norvex.spec:spec.measurable-2.0.0"],
+  "constants": [
+    { "id": "note", "value": "é" }
+  ]
+}
+)";
+    folder.write("spec.json", spec);
+    begin();
+    editor.open("range.json");
+    Json actions = actionsAt("range.json", "{");
+    EXPECT_EQ(editor.edited(actions[1]["edit"])["range.json"],
+              head + ",\n  \"constants\": [\n    { \"id\": \"fromBottom\", \"value\": false },\n"
+                     "    { \"id\": \"fromTop\", \"value\": false }\n  ]\n}\n");
+    const Json& change = actions[0]["edit"]["documentChanges"][0]["edits"][0];
+    EXPECT_EQ(change["range"]["start"], (Json{{"line", 2}, {"character", 63}}));
+    editor.open("lines.ndjson");
+    actions = actionsAt("lines.ndjson", "[]");
+    EXPECT_EQ(editor.edited(actions[0]["edit"])["lines.ndjson"], line + R"({"id":"name","value":"<name>"}]})" + "\n");
+    editor.open("spec.json");
+    actions = actionsAt("spec.json", "[\n");
+    EXPECT_EQ(editor.edited(actions[0]["edit"])["spec.json"],
+              std::string(spec).insert(spec.find("{ \"id\": \"note\""),
+                                       "{ \"id\": \"name\", \"value\": \"<name>\" },\n    "));
+}
+
 TEST_F(LspEditing, CreatesWhatIsMissing) {
     const std::string text =
         std::string(parameter).replace(std::string(parameter).find("t:group.a-1.0.0\"}}"), 15, "x:quite/other");

@@ -14,6 +14,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -67,6 +68,25 @@ std::string indentationAt(std::string_view text, std::size_t offset) {
     return fmt::format("{}{}", isBlank ? "\n" : " ", isBlank ? before : std::string_view());
 }
 
+/// Returns an edit of a schema as fmt would have it: what was laid out before, is so afterwards.
+Edit laidOut(Edit edit, const File& file, const SchemaText& schema) {
+    const bool isLine = holdsLines(file.name);
+    const auto layOut = isLine ? Layout::ofLine : Layout::ofFile;
+    const std::string_view before = isLine ? schema.text() : *file.text;
+    const std::size_t origin = isLine ? schema.begin() : 0;
+    if (layOut(before) != before) {
+        return edit;
+    }
+    const std::optional<std::string> after =
+        layOut(edited(before, {{edit.begin - origin, edit.end - origin, std::move(edit.text)}}));
+    // What is the same at both ends stays, and with it the place of the cursor.
+    const auto [begin, newBegin] = std::mismatch(before.begin(), before.end(), after->begin(), after->end());
+    const auto [last, newLast] = std::mismatch(before.rbegin(), std::make_reverse_iterator(begin), after->rbegin(),
+                                               std::make_reverse_iterator(newBegin));
+    return {origin + static_cast<std::size_t>(begin - before.begin()),
+            origin + static_cast<std::size_t>(last.base() - before.begin()), std::string(newBegin, newLast.base())};
+}
+
 /// Adds definitions to the constants of a schema.
 void addConstants(WorkspaceEdit& edit, const File& file, const SchemaText& schema,
                   const std::vector<const Language::Definition*>& definitions) {
@@ -85,12 +105,14 @@ void addConstants(WorkspaceEdit& edit, const File& file, const SchemaText& schem
         const Json definition = Language::withValue(*each, Language::placeholderOf(*each));
         text += fmt::format("{}{}", text.empty() ? "" : isThere ? separator : ", ", definition.dump());
     }
-    const std::size_t offset = sibling == Outline::none ? schema[table].begin + 1 : schema[sibling].end;
+    const std::size_t offset =
+        schema.begin() + (sibling == Outline::none ? schema[table].begin + 1 : schema[sibling].end);
     if (!isThere) {
         text = fmt::format("\"constants\": [{}]", text);
     }
-    text = sibling == Outline::none ? text : separator + text;
-    edit.replace(file, schema.begin() + offset, schema.begin() + offset, text);
+    text.insert(0, sibling == Outline::none ? "" : separator);
+    const Edit made = laidOut({offset, offset, std::move(text)}, file, schema);
+    edit.replace(file, made.begin, made.end, made.text);
 }
 
 /// Returns the constants that a schema must have and has not; the library tells but the first of them.
