@@ -4,12 +4,14 @@
 set(headers ${CMAKE_BINARY_DIR}/headers)
 file(MAKE_DIRECTORY ${headers})
 foreach(folder IN ITEMS rapidjson fmt CLI nlohmann fast_float)
-    if(EXISTS /usr/include/${folder})
+    if(EXISTS /usr/include/${folder} AND NOT EXISTS ${headers}/${folder})
         file(CREATE_LINK /usr/include/${folder} ${headers}/${folder} SYMBOLIC)
     endif()
 endforeach()
 # An assignment that nobody asks for is none to compilers that look at templates more closely.
-if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND CMAKE_CXX_COMPILER_VERSION VERSION_GREATER_EQUAL 19)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND CMAKE_CXX_COMPILER_VERSION VERSION_GREATER_EQUAL 19
+   AND IS_SYMLINK ${headers}/rapidjson
+)
     file(REMOVE ${headers}/rapidjson)
     file(COPY /usr/include/rapidjson DESTINATION ${headers})
     file(READ ${headers}/rapidjson/document.h document)
