@@ -6,15 +6,10 @@ namespace Tool::Lsp {
 
 namespace {
 
-/// Returns a file as fmt lays it out; lines that are no JSON stay.
-/// @throws Refusal if all of it is none
+/// Returns a file as fmt lays it out; what is no JSON stays.
 std::string laidOut(const File& file) {
     if (!holdsLines(file.name)) {
-        std::optional<std::string> text = Layout::ofFile(*file.text);
-        if (!text) {
-            throw Refusal(ErrorCode::requestFailed, "What is no JSON cannot be laid out.");
-        }
-        return *std::move(text);
+        return Layout::ofFile(*file.text).value_or(*file.text);
     }
     std::string text;
     for (const Part& part : partsOf(file.name, *file.text)) {
