@@ -2,8 +2,8 @@
 
 /// @file
 /// Lets Clang in MSVC's mode read the standard library of MinGW-w64, for scripts/msvc-mode. That library takes GCC for
-/// granted, so that is what is pretended while it is read here, once and for all. A standard header that a source begins
-/// to use must be on this list.
+/// granted, so that is what is pretended while it is read here, once and for all. A standard header that a source
+/// begins to use must be on this list.
 
 #pragma push_macro("_MSC_VER")
 #undef _MSC_VER
