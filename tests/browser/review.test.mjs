@@ -49,6 +49,7 @@ test("marks the words that differ, in constants and in both texts, and none of i
   assert.deepEqual(await row.locator("del").allTextContents(), ["old"]);
   assert.equal((await row.locator("ins").allTextContents()).join(""), "<b>now</b>");
   await told.getByText("Both texts").click();
+  await told.locator(".sides pre").nth(1).waitFor(); // they are made a moment later
   const [old, now] = await told.locator(".sides pre").allTextContents();
   assert.match(old, /"value": "The depth of the old water"/);
   assert.match(now, /"value": "The depth of the water <b>now<\/b>"/);
