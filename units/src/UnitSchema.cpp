@@ -17,9 +17,9 @@ constexpr Ostra::Identifier unitBase("norvex.unit:unit-1.0.0");
 
 std::optional<Unit> readUnit(const Ostra::Schema& schema) {
     if (!schema.inherits(unitBase)) {
-        schema.view().member("inherits")->forEachElement([](Ostra::JSONView base) {
-            base.report(messages("base-unrecognized"));
-        });
+        if (const auto inherits = schema.view().member("inherits")) { // as has whatever is a schema
+            inherits->forEachElement([](Ostra::JSONView base) { base.report(messages("base-unrecognized")); });
+        }
         return std::nullopt;
     }
     const Ostra::Constants constants(schema);
