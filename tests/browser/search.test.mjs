@@ -59,6 +59,18 @@ test("finds letter by letter what it finds at once", async () => {
   await close(typed);
 });
 
+test("finds what many typeids begin and end with, and what reaches beyond that", async () => {
+  const typeIds = Array.from({ length: 60 }, (_, i) => [`plant.pump:part.n${i}-1.0.0`, `plant.fan:Blade${i}-2.0.0`, `n${i}`][i % 3]);
+  const tab = await open(page("ends", [group("g", "G"), ...typeIds.map((typeId, i) => parameter(typeId, `P${i}x`, "g"))]));
+  for (const words of ["pump", ":part", "part.n1", "art.n4", "-1.0", "fan:bl", "2.0.0", "7-", "lant", "n5", "blade2", "plant p4", "1.0 .n3"]) {
+    const expected = typeIds.flatMap((typeId, i) => (words.split(" ").every((word) => `p${i}x\n${typeId.toLowerCase()}`.includes(word)) ? [`P${i}x`] : []));
+    await tab.fill("#query", words);
+    assert.equal(await tab.textContent("#count"), `${expected.length} of 61`, words);
+    assert.deepEqual((await titles(tab)).every((title) => expected.includes(title)), true, words);
+  }
+  await close(tab);
+});
+
 for (const [slip, word] of [["a wrong letter", "discherge"], ["a letter too few", "dicharge"], ["a letter too many", "disscharge"], ["two the wrong way round", "dischrage"], ["a wrong letter in a word half typed", "dischx"]]) {
   test(`forgives ${slip}, and says so`, async () => {
     const tab = await open(example());

@@ -35,22 +35,23 @@ function row(object, index, height) {
   made.addEventListener("click", () => { active = index; go({ object: object.typeId, view: "" }); });
   return made;
 }
-// The list scrolls where there is room beside the object; else the page does.
+// How far the list was scrolled, how much of it is in sight, and how high a row is. The list scrolls where there is room
+// beside the object; else the page does.
 function sight() {
   if (!isNarrow.matches) {
-    return [list.scrollTop, list.clientHeight];
+    return [list.scrollTop, list.clientHeight, rowHeight()];
   }
   const top = -rows.getBoundingClientRect().top;
-  return [Math.max(0, top), Math.max(0, Math.min(top, 0) + window.innerHeight)];
+  return [Math.max(0, top), Math.max(0, Math.min(top, 0) + window.innerHeight), rowHeight()];
 }
 // Keeps the rows that stay in sight, as one of them may be about to be clicked; all become others when they may differ.
-function render(isOther = false) {
-  if (byId("objects").offsetParent === null && isNarrow.matches) {
+// What is in sight need not be asked for anew where it is known: the answer costs a layout of all that has changed.
+function render(isOther = false, seen = null) {
+  if (isNarrow.matches && byId("objects").offsetParent === null) {
     return;
   }
-  const height = rowHeight();
+  const [top, room, height] = seen ?? sight();
   rows.style.height = found.objects.length * height + "px";
-  const [top, room] = sight();
   const first = Math.max(0, Math.floor(top / height) - 5);
   const last = Math.min(found.objects.length, Math.ceil((top + room) / height) + 5);
   const there = new Map(isOther ? [] : [...rows.children].map((each) => [each.id, each]));
@@ -78,8 +79,7 @@ function reveal(index) {
   if (index < 0) {
     return;
   }
-  const [top, room] = sight();
-  const height = rowHeight();
+  const [top, room, height] = sight();
   const begin = index * height;
   if (begin < top) {
     scrollTo(begin);
@@ -110,7 +110,8 @@ function showFound() {
 }
 
 list.addEventListener("keydown", (event) => {
-  const page = Math.max(1, Math.floor(sight()[1] / rowHeight()) - 1);
+  const [, room, height] = sight();
+  const page = Math.max(1, Math.floor(room / height) - 1);
   const steps = { ArrowDown: active + 1, ArrowUp: active - 1, PageDown: active + page, PageUp: active - page, Home: 0, End: found.objects.length - 1 };
   if (event.key in steps) {
     event.preventDefault();

@@ -26,9 +26,15 @@ function showState(before) {
   const isOther = (parts) => before === null || parts.some((part) => state[part] !== before[part]);
   const pane = paneOf(state);
   const wasPane = document.body.dataset.pane;
-  document.body.dataset.pane = pane;
-
+  let seen = null;
   if (isOther(["q", "kind", "group", "discipline", "file", "only", "sort"])) {
+    if (!isNarrow.matches && !list.hidden) {
+      const [top, ...rest] = sight(); // before anything changes
+      if (top > 0) {
+        list.scrollTop = 0;
+      }
+      seen = [0, ...rest];
+    }
     found = select(state);
     if (query.value !== state.q) {
       query.value = state.q;
@@ -40,8 +46,10 @@ function showState(before) {
     byId("clear").hidden = !["q", "kind", "group", "discipline", "file", "only"].some((part) => state[part]);
     active = -1;
     listTop = 0;
-    list.scrollTop = 0;
     showFound();
+  }
+  if (pane !== wasPane) {
+    document.body.dataset.pane = pane;
   }
   const isSame = before !== null && ["object", "view", "fate", "severity"].every((part) => state[part] === before[part]) && card.childElementCount > 0;
   if (!isSame) {
@@ -57,7 +65,7 @@ function showState(before) {
   } else if (isNarrow.matches && !isSame && pane === "card") {
     window.scrollTo(0, 0);
   }
-  render(true);
+  render(true, seen);
   if (!isNarrow.matches) {
     reveal(active);
   } else if (pane === "list" && wasPane === "card" && before !== null) {

@@ -45,7 +45,8 @@ function readAtLeisure(deadline) {
   if (learnt < objects.length) {
     whenIdle(readAtLeisure);
   } else {
-    whenIdle(sharedColumns);
+    whenIdle(searchedValues);
+    whenIdle(typeIdEnds);
   }
 }
 const whenIdle = window.requestIdleCallback ?? ((act) => setTimeout(act, 20));
@@ -68,66 +69,96 @@ const fileTexts = lazy(() => {
 });
 const searchedColumns = lazy(() => new Map(shapes.map((each) => [each, each.properties.flatMap(({ name }, column) => (
   notSearched.has(name) ? [] : [column]))])));
-// The columns with values that stand elsewhere, too, and have a text: of each, the objects, their cells and which values
-// there are.
-const sharedColumns = lazy(() => shapes.flatMap((each) => searchedColumns().get(each).flatMap((column) => {
-  const cells = each.cells[column];
-  const all = Array.isArray(cells) ? cells : [cells];
-  const values = [...new Set(all)].filter((cell) => typeof cell === "number" && sharedTexts()[cell] !== "");
-  return values.length > 0 ? [{ objects: each.objects, cells: all, values }] : [];
-})));
+// The values that stand in several places and have a text, and for each value which objects have it.
+const holders = lazy(() => {
+  const all = data.values.map(() => []);
+  for (const each of shapes) {
+    for (const column of searchedColumns().get(each)) {
+      const cells = each.cells[column];
+      if (!Array.isArray(cells)) {
+        all[cells]?.push(each.objects);
+        continue;
+      }
+      const numbers = new Map();
+      for (let row = 0; row < cells.length; ++row) {
+        if (typeof cells[row] === "number" && sharedTexts()[cells[row]] !== "") {
+          if (!numbers.has(cells[row])) {
+            numbers.set(cells[row], []);
+            all[cells[row]].push(numbers.get(cells[row]));
+          }
+          numbers.get(cells[row]).push(each.objects[row]);
+        }
+      }
+    }
+  }
+  return all;
+});
+const searchedValues = lazy(() => [...holders().keys()].filter((value) => holders()[value].length > 0 && sharedTexts()[value] !== ""));
+
+// How typeids begin, up to their last part, and end, with their version: few texts, which many have.
+const typeIdEnds = lazy(() => {
+  const numberOf = new Map();
+  const numbered = (text) => numberOf.get(text) ?? numberOf.set(text, numberOf.size).get(text);
+  const begins = new Uint32Array(objects.length);
+  const versions = new Uint32Array(objects.length);
+  for (let number = 0; number < objects.length; ++number) {
+    const typeId = typeIds[number].toLowerCase();
+    const version = typeId.lastIndexOf("-");
+    begins[number] = numbered(typeId.slice(0, Math.max(typeId.lastIndexOf(".", version), typeId.indexOf(":")) + 1));
+    versions[number] = numbered(version < 0 ? "" : typeId.slice(version));
+  }
+  return { texts: numberOf.size < objects.length / 8 ? [...numberOf.keys()] : [], begins, versions };
+});
 
 const nowhere = 0;
 const elsewhere = 1;
 const inHead = 2; // in the name or the typeid
 
-function isAt(all, place, text) {
-  let same = 0;
-  while (same < text.length && all.charCodeAt(place + same) === text.charCodeAt(same)) {
-    ++same;
-  }
-  return same === text.length;
-}
-function placesIn(text, places) {
+// Notes where a text is, among the objects that have its beginning if that was looked for.
+function placesIn(text, places, beginning) {
   const all = allTexts();
-  let offset = 0; // where the typeid before has it: what stands in very many stands in their typeids, at one place
-  for (let number = 0; number < objects.length; ++number) {
-    const guess = typeIdStarts[number] + offset;
-    if (guess + text.length <= heads[number] && isAt(all, guess, text)) {
-      places[number] = inHead;
-      continue;
-    }
-    const found = all.indexOf(text, starts[number]);
-    if (found < 0) {
-      break;
-    }
-    for (let step = 1; step > 0;) { // in larger steps and smaller ones again, to the object that has it
-      if (number + step <= objects.length && starts[number + step] <= found) {
-        number += step;
-        step *= 2;
-      } else {
-        step >>= 1;
+  const { texts, begins, versions } = typeIdEnds();
+  const has = texts.map((each) => each.includes(text));
+  if (has.includes(true)) {
+    for (let number = 0; number < objects.length; ++number) {
+      if (has[begins[number]] || has[versions[number]]) {
+        places[number] = inHead;
       }
     }
-    places[number] = found < heads[number] ? inHead : Math.max(places[number], elsewhere);
-    offset = found < heads[number] && found >= typeIdStarts[number] ? found - typeIdStarts[number] : offset;
+  }
+  const isOpen = (number) => places[number] !== inHead && (!beginning || beginning[number] !== nowhere);
+  for (let number = 0, end = 0; number < objects.length; number = end) {
+    for (end = number + 1; end < objects.length && isOpen(end) === isOpen(number); ++end);
+    if (!isOpen(number)) {
+      continue;
+    }
+    const start = starts[number];
+    const run = all.slice(start, starts[end]);
+    for (let found = run.indexOf(text); found >= 0 && number < end; found = run.indexOf(text, starts[number] - start)) {
+      for (let step = 1; step > 0;) { // in larger steps and smaller ones again, to the object that has it
+        if (number + step < end && starts[number + step] - start <= found) {
+          number += step;
+          step *= 2;
+        } else {
+          step >>= 1;
+        }
+      }
+      places[number] = Math.max(places[number], start + found < heads[number] ? inHead : elsewhere);
+      ++number;
+    }
   }
 }
-function placesAmongValues(texts, places) {
-  const has = sharedTexts().map((shared) => texts.some((text) => shared.includes(text)));
-  if (!has.includes(true)) {
-    return;
-  }
-  for (const { objects: numbers, cells, values } of sharedColumns()) {
-    if (!values.some((value) => has[value])) {
-      continue;
-    }
-    for (let row = 0; row < numbers.length; ++row) {
-      if (has[cells.length > 1 ? cells[row] : cells[0]] && places[numbers[row]] === nowhere) {
-        places[numbers[row]] = elsewhere;
+// Returns which of some values have one of some texts.
+function placesAmongValues(texts, places, values = searchedValues()) {
+  const having = values.filter((value) => texts.some((text) => sharedTexts()[value].includes(text)));
+  for (const value of having) {
+    for (const numbers of holders()[value]) {
+      for (let i = 0; i < numbers.length; ++i) {
+        places[numbers[i]] = places[numbers[i]] || elsewhere;
       }
     }
   }
+  return having;
 }
 function placesInFiles(texts, places) {
   const has = fileTexts().map((file) => texts.some((text) => file.includes(text)));
@@ -147,41 +178,21 @@ function placesOf(texts) {
   placesInFiles(texts, places);
   return places;
 }
-// Returns where a word is whose beginning these objects alone have.
-function placesAmong(numbers, word) {
-  const places = new Uint8Array(objects.length);
-  for (const number of numbers) {
-    const found = ownTexts[number].indexOf(word);
-    if (found >= 0) {
-      places[number] = starts[number] + found < heads[number] ? inHead : elsewhere;
-    }
-  }
-  placesAmongValues([word], places);
-  placesInFiles([word], places);
-  return places;
-}
-// Returns the numbers of objects that have a word, if they are so few that looking at each is quicker than at all texts.
-function fewIn(places) {
-  const numbers = [];
-  for (let number = 0; number < places.length && numbers.length <= places.length / 8; ++number) {
-    if (places[number] !== nowhere) {
-      numbers.push(number);
-    }
-  }
-  return numbers.length <= places.length / 8 ? numbers : null;
-}
 // Returns where a word is, or what may be meant by it if it is nowhere; of the words that were looked for last it knows,
 // and who types a word has just looked for its beginning.
 const lately = new Map();
 function placesOfWord(word) {
   if (!lately.has(word)) {
-    let few = null;
-    for (let end = word.length - 1; end > 0 && few === null; --end) {
-      few = lately.get(word.slice(0, end))?.few() ?? null;
+    let beginning;
+    for (let end = word.length - 1; end > 0 && !beginning; --end) {
+      beginning = lately.get(word.slice(0, end));
     }
-    const places = few !== null ? placesAmong(few, word) : placesOf([word]);
-    const near = places.includes(inHead) || places.includes(elsewhere) ? [] : nearTexts(word);
-    lately.set(word, { near, places: near.length > 0 ? placesOf(near) : places, few: lazy(() => fewIn(places)) });
+    const own = new Uint8Array(objects.length);
+    placesIn(word, own, beginning?.own);
+    const values = placesAmongValues([word], own, beginning?.values);
+    placesInFiles([word], own);
+    const near = own.includes(inHead) || own.includes(elsewhere) ? [] : nearTexts(word);
+    lately.set(word, { own, values, near, places: near.length > 0 ? placesOf(near) : own });
     if (lately.size > 20) {
       lately.delete(lately.keys().next().value);
     }
