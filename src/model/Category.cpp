@@ -132,6 +132,7 @@ CategoryKind::Record CategoryKind::recordOf(const Category& category) {
     }
     const auto& [domain, disciplines] = Access::data(*data.major());
     std::vector<std::string_view> references;
+    references.reserve(disciplines.size() + 1);
     for (const Taxon& discipline : disciplines) {
         references.push_back(typeIdOf(discipline));
     }

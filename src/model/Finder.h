@@ -142,7 +142,7 @@ template <class FindFirst, class FindSecond>
 auto findBoth(const Finder& finder, FindFirst findFirst, FindSecond findSecond) {
     using Found = Both<decltype(findFirst()), decltype(findSecond())>;
     if (finder.binds()) {
-        const auto second = findSecond();
+        auto second = findSecond();
         return Found(findFirst, [&] { return second; });
     }
     return Found(findFirst, findSecond);

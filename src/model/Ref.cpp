@@ -16,6 +16,8 @@ Owners::Owners(Destroy function) noexcept : destroy_(static_cast<std::int32_t>(p
     assert(placeOf(&nothing) + destroy_ == placeOf(function)); // no library is that large
 }
 
-void Owners::destroy() noexcept { reinterpret_cast<Destroy>(placeOf(&nothing) + destroy_)(this); }
+void Owners::destroy() noexcept {
+    reinterpret_cast<Destroy>(placeOf(&nothing) + destroy_)(this); // NOLINT(performance-no-int-to-ptr): a function
+}
 
 } // namespace Parameters::Internal

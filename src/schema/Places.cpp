@@ -100,7 +100,7 @@ private:
                 spot.pointer += character;
             }
         }
-        if (&container == &open_[0] && isTable(container.name) && open_.size() > 2) {
+        if (&container == open_.data() && isTable(container.name) && open_.size() > 2) {
             labelByDefinition(*open_[2].value, spot);
         } else if (!isStructure(container.name)) {
             spot.label = container.name;

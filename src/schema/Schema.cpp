@@ -83,7 +83,7 @@ bool Schema::readHead() {
     return !base_.empty();
 }
 
-void Schema::readDefinitions(const char* name, Definitions& definitions) {
+void Schema::readDefinitions(const char* name, Definitions& definitions) const {
     const auto array = view().member(name);
     if (!array) {
         return;

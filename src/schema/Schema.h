@@ -53,7 +53,7 @@ private:
     bool readHead();
     Nothing failUndefined(const Definitions& definitions, std::string_view name, std::string_view id,
                           const Message& message, std::initializer_list<std::string_view> inserted) const;
-    void readDefinitions(const char* name, Definitions& definitions);
+    void readDefinitions(const char* name, Definitions& definitions) const;
 
     JSON document_;
     bool isReadable_ = false;

@@ -167,6 +167,18 @@ TEST(Format, TellsLikeSchemasApart) { // which were taken for one, as what has n
               after);
 }
 
+TEST(Format, RefusesNumbersThatNoDoubleHolds) { // as the library does, whatever their exponent
+    const std::string most = "17976931348623157" + std::string(292, '0');
+    for (const std::string number : {"1.7976931348623157e308", "17e307", most.c_str(), "1e-999"}) {
+        EXPECT_EQ(Tool::Layout::ofLine(number), number);
+    }
+    const std::string more = "2" + std::string(308, '0');
+    for (const std::string number : {"1.7976931348623159e308", "81e308", more.c_str(), "1E999"}) {
+        EXPECT_EQ(Tool::Layout::ofLine(number), std::nullopt) << number;
+        EXPECT_EQ(Tool::Layout::ofFile(number), std::nullopt) << number;
+    }
+}
+
 TEST(Format, RefusesWhatIsNoJson) {
     for (const std::string& text : {std::string(), std::string("{"), std::string("{} {}"), std::string("{}\0", 3)}) {
         EXPECT_EQ(Tool::Layout::ofFile(text), std::nullopt) << text;

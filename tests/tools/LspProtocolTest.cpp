@@ -46,7 +46,7 @@ struct Stream {
 class Frames : public testing::TestWithParam<Stream> {};
 
 TEST_P(Frames, AreTakenApartHoweverTheyCome) {
-    for (const std::size_t step : {1, 7, 100000}) {
+    for (const std::size_t step : {1U, 7U, 100000U}) {
         EXPECT_EQ(bodiesIn(GetParam().bytes, step), GetParam().bodies) << step;
     }
 }

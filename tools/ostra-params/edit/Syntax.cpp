@@ -1,5 +1,6 @@
 #include "edit/Syntax.h"
 
+#include "output/Json.h"
 #include "output/Text.h"
 
 #include <rapidjson/memorystream.h>
@@ -15,7 +16,12 @@ struct Syntax::Reader : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Reader> 
 
     bool Null() { return addLeaf(Type::other); }
     bool Bool(bool) { return addLeaf(Type::other); }
-    bool RawNumber(const char*, rapidjson::SizeType, bool) { return addLeaf(Type::other); }
+    bool RawNumber(const char* number, rapidjson::SizeType length, bool) {
+        // The parser refuses by the exponent alone what no double can hold.
+        const std::string_view written(number, length);
+        const bool isPlain = length < 300 && written.find_first_of("eE") == std::string_view::npos;
+        return (isPlain || Json::accept(written)) && addLeaf(Type::other);
+    }
     bool String(const char*, rapidjson::SizeType, bool) { return addLeaf(Type::string); }
     bool Key(const char*, rapidjson::SizeType, bool) {
         name = take(stream.Tell());
