@@ -59,6 +59,18 @@ test("finds letter by letter what it finds at once", async () => {
   await close(typed);
 });
 
+test("takes a text that all of one shape have for what it is", async () => {
+  // Of their shapes these are alone: what they say is no number of a value, nor a member of a list.
+  const texts = ["length", "push", ...Array.from({ length: 12 }, (_, i) => String(i))];
+  for (const text of texts) {
+    const range = { typeid: `r:${text}`, inherits: ["norvex.range:range.string.regex-1.0.0"], constants: [{ id: "regex", value: text }] };
+    const tab = await open(page(`alone-${text}`, [group("g", "G"), parameter("a", "North", "g", "Ochre"), parameter("b", "South", "g", "Ochre"), range]));
+    await tab.fill("#query", "ochre");
+    assert.deepEqual((await titles(tab)).sort(), ["North", "South"], text);
+    await close(tab);
+  }
+});
+
 test("finds what many typeids begin and end with, and what reaches beyond that", async () => {
   const typeIds = Array.from({ length: 60 }, (_, i) => [`plant.pump:part.n${i}-1.0.0`, `plant.fan:Blade${i}-2.0.0`, `n${i}`][i % 3]);
   const tab = await open(page("ends", [group("g", "G"), ...typeIds.map((typeId, i) => parameter(typeId, `P${i}x`, "g"))]));

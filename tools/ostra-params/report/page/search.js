@@ -15,14 +15,11 @@ const sharedTexts = lazy(() => data.values.map((value) => (Array.isArray(value) 
 // as searching it takes a fraction of what searching many does. It is made in slices.
 const ownTexts = [];
 const starts = new Uint32Array(objects.length + 1);
-const typeIdStarts = new Uint32Array(objects.length);
 const heads = new Uint32Array(objects.length); // where what is behind name and typeid begins
 function readOn(end) {
   for (let number = ownTexts.length; number < end; ++number) {
     const object = objects[number];
-    let text = object.title.toLowerCase() + separator;
-    typeIdStarts[number] = starts[number] + text.length;
-    text += object.typeId.toLowerCase();
+    let text = object.title.toLowerCase() + separator + object.typeId.toLowerCase();
     heads[number] = starts[number] + text.length;
     for (const column of searchedColumns().get(object.shape)) {
       const cell = object.cell(column);
@@ -69,31 +66,32 @@ const fileTexts = lazy(() => {
 });
 const searchedColumns = lazy(() => new Map(shapes.map((each) => [each, each.properties.flatMap(({ name }, column) => (
   notSearched.has(name) ? [] : [column]))])));
-// The values that stand in several places and have a text, and for each value which objects have it.
+// For each value that stands in several places and has a text, the objects that have it, in lists; of others there are none.
 const holders = lazy(() => {
   const all = data.values.map(() => []);
+  const isSearched = (cell) => typeof cell === "number" && sharedTexts()[cell] !== "";
   for (const each of shapes) {
     for (const column of searchedColumns().get(each)) {
       const cells = each.cells[column];
-      if (!Array.isArray(cells)) {
-        all[cells]?.push(each.objects);
-        continue;
-      }
-      const numbers = new Map();
-      for (let row = 0; row < cells.length; ++row) {
-        if (typeof cells[row] === "number" && sharedTexts()[cells[row]] !== "") {
-          if (!numbers.has(cells[row])) {
-            numbers.set(cells[row], []);
-            all[cells[row]].push(numbers.get(cells[row]));
+      if (isSearched(cells)) { // which all of the shape have
+        all[cells].push(each.objects);
+      } else if (Array.isArray(cells)) {
+        const numbers = new Map();
+        for (let row = 0; row < cells.length; ++row) {
+          if (isSearched(cells[row])) {
+            if (!numbers.has(cells[row])) {
+              numbers.set(cells[row], []);
+              all[cells[row]].push(numbers.get(cells[row]));
+            }
+            numbers.get(cells[row]).push(each.objects[row]);
           }
-          numbers.get(cells[row]).push(each.objects[row]);
         }
       }
     }
   }
   return all;
 });
-const searchedValues = lazy(() => [...holders().keys()].filter((value) => holders()[value].length > 0 && sharedTexts()[value] !== ""));
+const searchedValues = lazy(() => [...holders().keys()].filter((value) => holders()[value].length > 0));
 
 // How typeids begin, up to their last part, and end, with their version: few texts, which many have.
 const typeIdEnds = lazy(() => {
