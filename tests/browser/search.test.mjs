@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { mkdirSync, writeFileSync } from "node:fs";
 import { test } from "node:test";
-import { group, page, parameter } from "./catalogues.mjs";
+import { group, many, page, parameter } from "./catalogues.mjs";
 import { close, example, open, picture } from "./tab.mjs";
 
 const titles = (tab) => tab.locator(".row b > span:first-child").allTextContents();
@@ -59,6 +59,35 @@ test("finds letter by letter what it finds at once", async () => {
   await close(typed);
 });
 
+test("finds the same before the catalogue has been read, while nothing else was to be done, and after", async () => {
+  const descriptions = ["Beside the pump's outlet", "Stra\u00dfe 7, \u00fcber Nacht", "", "na\u00efve cafe\u0301 x_y", "1.0.0 of inlets"];
+  const parameters = Array.from({ length: 50 }, (_, i) => (
+    parameter(`plant.pump:P${i}Outlet-1.0.0`, `${["Inlet", "Outlet", "\u00c4rger"][i % 3]} ${i}`, "g", descriptions[i % 5] + (i % 2 ? ` ${i}` : ""))));
+  const texts = parameters.map(({ typeid, constants: [name, description] }) => `${name.value}\n${typeid}\n${description.value}`.toLowerCase());
+  const address = page("leisure", [group("g", "G"), ...parameters]);
+  const unread = await open(address, "", { neverIdle: true });
+  const read = await open(address);
+  for (let i = 0; i < 3; ++i) { // what is put off puts off more
+    await read.evaluate(() => new Promise((done) => { window.requestIdleCallback(() => done()); }));
+  }
+  for (const words of [
+    "p", "pu", "outlet", "let 1", "p1", "\u00e4rger", "stra\u00dfe", "\u00fcber n", "cafe", "cafe\u0301", "f\u00e9", "x_y", "y", "1.0.0", "1.0.0 of", "0",
+    "inlet", "oulet", "beside p2", "zz",
+  ]) {
+    for (let end = 1; end <= words.length; ++end) {
+      await read.fill("#query", words.slice(0, end));
+    }
+    await unread.fill("#query", words);
+    const meant = words.replace("oulet", "outlet").split(" ");
+    const expected = texts.filter((text) => meant.every((word) => text.includes(word))).length;
+    assert.equal(await read.textContent("#count"), `${expected} of 51`, words);
+    assert.equal(await unread.textContent("#count"), `${expected} of 51`, words);
+    assert.deepEqual((await titles(read)).slice(0, 20), (await titles(unread)).slice(0, 20), words);
+  }
+  await close(unread);
+  await close(read);
+});
+
 test("takes a text that all of one shape have for what it is", async () => {
   // Of their shapes these are alone: what they say is no number of a value, nor a member of a list.
   const texts = ["length", "push", ...Array.from({ length: 12 }, (_, i) => String(i))];
@@ -80,6 +109,21 @@ test("finds what many typeids begin and end with, and what reaches beyond that",
     assert.equal(await tab.textContent("#count"), `${expected.length} of 61`, words);
     assert.deepEqual((await titles(tab)).every((title) => expected.includes(title)), true, words);
   }
+  await close(tab);
+});
+
+test("shows the first of what is found, wherever the list was scrolled to, and as many as there is room for", async () => {
+  const tab = await open(page("scrolled", many(300)));
+  await tab.evaluate(() => { document.getElementById("list").scrollTop = 9000; });
+  await tab.waitForSelector("#row170", { state: "attached" });
+  await tab.fill("#query", "parameter");
+  await tab.waitForSelector("#row0", { state: "attached" });
+  assert.equal(await tab.evaluate(() => document.getElementById("list").scrollTop), 0);
+  assert.equal(await tab.locator("#row30").count(), 0);
+  await tab.setViewportSize({ width: 1280, height: 2400 });
+  await tab.waitForSelector("#row35", { state: "attached" });
+  await tab.fill("#query", "parameter 1");
+  assert.equal(await tab.locator("#row35").count(), 1);
   await close(tab);
 });
 

@@ -17,9 +17,13 @@ export const sizes = {
   desk: { viewport: { width: 1440, height: 900 } },
 };
 
-// Opens a page that must neither complain nor ask the network for anything.
-export async function open(address, hash = "", options = {}) {
+// Opens a page that must neither complain nor ask the network for anything; one that is never idle puts off for ever what
+// can be put off.
+export async function open(address, hash = "", { neverIdle = false, ...options } = {}) {
   const tab = await browser.newPage({ viewport: { width: 1280, height: 860 }, ...options });
+  if (neverIdle) {
+    await tab.addInitScript(() => { window.requestIdleCallback = () => 0; });
+  }
   tab.complaints = [];
   tab.on("pageerror", (error) => tab.complaints.push(String(error)));
   tab.on("console", (message) => message.type() === "error" && tab.complaints.push(message.text()));

@@ -28,8 +28,8 @@ function showState(before) {
   const wasPane = document.body.dataset.pane;
   let seen = null;
   if (isOther(["q", "kind", "group", "discipline", "file", "only", "sort"])) {
-    if (!isNarrow.matches && !list.hidden) {
-      const [top, ...rest] = sight(); // before anything changes
+    if (before !== null && !isNarrow.matches && !list.hidden && seenBeside !== null) {
+      const [top, ...rest] = seenBeside;
       if (top > 0) {
         list.scrollTop = 0;
       }
@@ -39,7 +39,7 @@ function showState(before) {
     if (query.value !== state.q) {
       query.value = state.q;
     }
-    for (const each of selects) {
+    for (const each of selects.filter(({ id }) => isOther([id]))) {
       each.value = state[each.id] && "=" + state[each.id];
       each.classList.toggle("set", each.value !== "");
     }
@@ -59,7 +59,7 @@ function showState(before) {
       card.focus({ preventScroll: true });
     }
   }
-  active = current === null ? -1 : found.objects.indexOf(current);
+  active = current === null ? -1 : found.numbers.indexOf(current.number);
   if (isNarrow.matches && pane !== wasPane) {
     window.scrollTo(0, pane === "list" ? listTop : 0);
   } else if (isNarrow.matches && !isSame && pane === "card") {
@@ -69,7 +69,7 @@ function showState(before) {
   if (!isNarrow.matches) {
     reveal(active);
   } else if (pane === "list" && wasPane === "card" && before !== null) {
-    active = found.objects.findIndex((object) => object.typeId === before.object);
+    active = found.numbers.findIndex((number) => typeIds[number] === before.object);
     reveal(active);
     render(true);
     list.focus({ preventScroll: true });
@@ -90,15 +90,15 @@ function showCard() {
 // The bar below one pane: where one can go from there.
 function showWays(pane) {
   const ways = byId("ways");
-  const index = found.objects.indexOf(current);
+  const index = current === null ? -1 : found.numbers.indexOf(current.number);
   const to = (text, target, attributes) => element("a", { href: addressOf(target), ...attributes }, text);
   const changes = review ? [to(`Changes (${count(review.changes.length)})`, { ...home, view: "review" }, state.view === "review" ? { "aria-current": "page" } : {})] : [];
   if (pane === "card" && state.view !== "review") {
     const beside = (text, other, label) => (other && index >= 0 ? to(text, { ...state, object: other.typeId }, { "aria-label": label }) : element("span"));
-    ways.replaceChildren(to("\u2039 List", { ...state, object: null, view: "list" }), beside("Previous", found.objects[index - 1], "Previous object"), beside("Next", found.objects[index + 1], "Next object"));
+    ways.replaceChildren(to("\u2039 List", { ...state, object: null, view: "list" }), beside("Previous", foundAt(index - 1), "Previous object"), beside("Next", foundAt(index + 1), "Next object"));
   } else {
     ways.replaceChildren(to("Overview", home, pane === "home" ? { "aria-current": "page" } : {}),
-      to(`List (${count(found.objects.length)})`, { ...state, object: null, view: "list" }, pane === "list" ? { "aria-current": "page" } : {}), ...changes);
+      to(`List (${count(found.numbers.length)})`, { ...state, object: null, view: "list" }, pane === "list" ? { "aria-current": "page" } : {}), ...changes);
   }
 }
 function clear() {

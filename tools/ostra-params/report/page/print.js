@@ -7,7 +7,7 @@ window.addEventListener("beforeprint", () => {
     const chosen = [q && `\u201c${q}\u201d`, kindOfId.get(kind)?.plural, group, discipline, file, onlyKinds[only]?.title].filter(Boolean).join(", ");
     byId("print").replaceChildren(element("h2", null, `${byId("count").textContent}${chosen ? `: ${chosen}` : ""}`), element("table", null,
       element("thead", null, element("tr", null, ...["Name", "Kind", "Typeid"].map((title) => element("th", null, title)))),
-      element("tbody", null, ...found.objects.map((object) => element("tr", null, element("td", null, object.title),
+      element("tbody", null, ...Array.from(found.numbers, (number) => objects[number]).map((object) => element("tr", null, element("td", null, object.title),
         element("td", null, object.kind.label), element("td", null, element("code", null, object.typeId)))))));
   }
   drawn?.draw(640); // a sheet is no wider

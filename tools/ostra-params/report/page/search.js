@@ -11,16 +11,43 @@ const sharedTexts = lazy(() => data.values.map((value) => (Array.isArray(value) 
   return named.kind?.id === "unit" ? [named.name, ...named.shape.properties.flatMap((_, i) => named.values(i))].join(separator) : "";
 }).join(separator).toLowerCase()));
 
-// The texts of each object that stand nowhere else, in lower case, its name and typeid first: one text for all objects,
-// as searching it takes a fraction of what searching many does. It is made in slices.
+// Many texts behind one another: searching them takes a fraction of what searching each would.
+class Texts {
+  constructor(texts) {
+    this.texts = texts;
+    this.starts = new Uint32Array(texts.length + 1);
+    texts.forEach((text, number) => { this.starts[number + 1] = this.starts[number] + text.length + separator.length; });
+    this.all = texts.join(separator);
+  }
+  // Calls back with the number of each that has a text, and with how far that is from its beginning.
+  find(text, note, begin = 0, end = this.starts.length - 1) {
+    const { starts } = this;
+    const first = starts[begin];
+    const run = this.all.slice(first, starts[end]);
+    let number = begin;
+    for (let found = run.indexOf(text); found >= 0 && number < end; found = run.indexOf(text, starts[number] - first)) {
+      for (let step = 1; step > 0;) { // in larger steps and smaller ones again, to the text that has it
+        if (number + step < end && starts[number + step] - first <= found) {
+          number += step;
+          step *= 2;
+        } else {
+          step >>= 1;
+        }
+      }
+      note(number, first + found - starts[number]);
+      ++number;
+    }
+  }
+}
+
+// The texts of each object that stand nowhere else, in lower case, its name and typeid first. They are read in slices.
 const ownTexts = [];
-const starts = new Uint32Array(objects.length + 1);
-const heads = new Uint32Array(objects.length); // where what is behind name and typeid begins
+const heads = new Uint32Array(objects.length); // how long name and typeid are
 function readOn(end) {
   for (let number = ownTexts.length; number < end; ++number) {
     const object = objects[number];
     let text = object.title.toLowerCase() + separator + object.typeId.toLowerCase();
-    heads[number] = starts[number] + text.length;
+    heads[number] = text.length;
     for (const column of searchedColumns().get(object.shape)) {
       const cell = object.cell(column);
       if (typeof cell === "string") {
@@ -28,9 +55,43 @@ function readOn(end) {
       }
     }
     ownTexts.push(text);
-    starts[number + 1] = starts[number] + text.length + separator.length;
   }
 }
+const allTexts = lazy(() => {
+  readOn(objects.length);
+  return new Texts(ownTexts);
+});
+
+// Letters and digits are within words, which are few beside the texts; once these have been read, the words are searched.
+const wordsIn = (text) => text.match(/[\p{L}\p{N}]+/gu) ?? [];
+const isWord = (text) => /^[\p{L}\p{N}]+$/u.test(text);
+const numberOfWord = new Map();
+const holdersOfWord = []; // for each the objects that have it, or the one: twice the number, one more where it is in the head
+let learnt = 0;
+function learnOn(end) {
+  for (; learnt < end; ++learnt) {
+    for (const [part, isHead] of [[ownTexts[learnt].slice(0, heads[learnt]), 1], [ownTexts[learnt].slice(heads[learnt]), 0]]) {
+      for (const word of wordsIn(part)) {
+        const number = numberOfWord.get(word) ?? holdersOfWord.length;
+        const known = holdersOfWord[number];
+        if (known === undefined) {
+          numberOfWord.set(word, number);
+          holdersOfWord.push(2 * learnt + isHead);
+        } else if (typeof known === "number") {
+          holdersOfWord[number] = known >> 1 === learnt ? known : [known, 2 * learnt + isHead];
+        } else if (known.at(-1) >> 1 !== learnt) {
+          known.push(2 * learnt + isHead);
+        }
+      }
+    }
+  }
+}
+const allWords = lazy(() => {
+  readOn(objects.length);
+  learnOn(objects.length);
+  return new Texts([...numberOfWord.keys()]);
+});
+
 // Does a part of the work when there is nothing else to do, and comes back for the rest.
 function readAtLeisure(deadline) {
   while (learnt < objects.length && (deadline?.timeRemaining() ?? 5) > 2) {
@@ -42,15 +103,12 @@ function readAtLeisure(deadline) {
   if (learnt < objects.length) {
     whenIdle(readAtLeisure);
   } else {
-    whenIdle(searchedValues);
-    whenIdle(typeIdEnds);
+    [searchedValues, allWords, allTexts, typeIdEnds].forEach((make) => whenIdle(() => make()));
+    // What is typed begins with one of these.
+    "abcdefghijklmnopqrstuvwxyz0123456789".split("").forEach((letter) => whenIdle(() => placesOfWord(letter)));
   }
 }
 const whenIdle = window.requestIdleCallback ?? ((act) => setTimeout(act, 20));
-const allTexts = lazy(() => {
-  readOn(objects.length);
-  return ownTexts.join(separator);
-});
 
 // What all files have in common at the beginnings of their paths tells nothing of any of them.
 const fileTexts = lazy(() => {
@@ -112,9 +170,26 @@ const nowhere = 0;
 const elsewhere = 1;
 const inHead = 2; // in the name or the typeid
 
-// Notes where a text is, among the objects that have its beginning if that was looked for.
-function placesIn(text, places, beginning) {
-  const all = allTexts();
+// Notes where letters and digits are; returns the numbers of the words that have them, if they are few: what has more
+// letters is among these.
+function placesInWords(text, places, among) {
+  const having = among?.filter((number) => allWords().texts[number].includes(text)) ?? [];
+  if (among === undefined) {
+    allWords().find(text, (number) => having.push(number));
+  }
+  const note = (holder) => { places[holder >> 1] = Math.max(places[holder >> 1], holder & 1 ? inHead : elsewhere); };
+  for (const number of having) {
+    const holders = holdersOfWord[number];
+    if (typeof holders === "number") {
+      note(holders);
+    } else {
+      holders.forEach(note);
+    }
+  }
+  return having.length < 1000 ? having : undefined;
+}
+// Notes where any text is, among the objects that have its beginning if that was looked for.
+function placesInTexts(text, places, beginning) {
   const { texts, begins, versions } = typeIdEnds();
   const has = texts.map((each) => each.includes(text));
   if (has.includes(true)) {
@@ -125,26 +200,21 @@ function placesIn(text, places, beginning) {
     }
   }
   const isOpen = (number) => places[number] !== inHead && (!beginning || beginning[number] !== nowhere);
+  const note = (number, place) => { places[number] = Math.max(places[number], place < heads[number] ? inHead : elsewhere); };
   for (let number = 0, end = 0; number < objects.length; number = end) {
-    for (end = number + 1; end < objects.length && isOpen(end) === isOpen(number); ++end);
-    if (!isOpen(number)) {
-      continue;
-    }
-    const start = starts[number];
-    const run = all.slice(start, starts[end]);
-    for (let found = run.indexOf(text); found >= 0 && number < end; found = run.indexOf(text, starts[number] - start)) {
-      for (let step = 1; step > 0;) { // in larger steps and smaller ones again, to the object that has it
-        if (number + step < end && starts[number + step] - start <= found) {
-          number += step;
-          step *= 2;
-        } else {
-          step >>= 1;
-        }
-      }
-      places[number] = Math.max(places[number], start + found < heads[number] ? inHead : elsewhere);
-      ++number;
+    const open = isOpen(number);
+    for (end = number + 1; end < objects.length && isOpen(end) === open; ++end);
+    if (open) {
+      allTexts().find(text, note, number, end);
     }
   }
+}
+function placesIn(text, places, beginning) {
+  if (learnt === objects.length && isWord(text)) {
+    return placesInWords(text, places, beginning?.words);
+  }
+  placesInTexts(text, places, beginning?.own);
+  return undefined;
 }
 // Returns which of some values have one of some texts.
 function placesAmongValues(texts, places, values = searchedValues()) {
@@ -179,6 +249,7 @@ function placesOf(texts) {
 // Returns where a word is, or what may be meant by it if it is nowhere; of the words that were looked for last it knows,
 // and who types a word has just looked for its beginning.
 const lately = new Map();
+const recent = []; // which of them are forgotten again: all but single letters
 function placesOfWord(word) {
   if (!lately.has(word)) {
     let beginning;
@@ -186,36 +257,22 @@ function placesOfWord(word) {
       beginning = lately.get(word.slice(0, end));
     }
     const own = new Uint8Array(objects.length);
-    placesIn(word, own, beginning?.own);
+    const words = placesIn(word, own, beginning);
     const values = placesAmongValues([word], own, beginning?.values);
     placesInFiles([word], own);
     const near = own.includes(inHead) || own.includes(elsewhere) ? [] : nearTexts(word);
-    lately.set(word, { own, values, near, places: near.length > 0 ? placesOf(near) : own });
-    if (lately.size > 20) {
-      lately.delete(lately.keys().next().value);
+    lately.set(word, { own, words, values, near, places: near.length > 0 ? placesOf(near) : own });
+    if (word.length > 1 && recent.push(word) > 20) {
+      lately.delete(recent.shift());
     }
   }
   return lately.get(word);
 }
 
 // ---- one wrong letter is forgiven where a word is found nowhere
-const words = new Set();
-let learnt = 0;
-function learn(text) {
-  for (const word of text.match(/[\p{L}\p{N}]+/gu) ?? []) {
-    words.add(word);
-  }
-}
-function learnOn(end) {
-  for (; learnt < end; ++learnt) {
-    learn(ownTexts[learnt]);
-  }
-}
 const vocabulary = lazy(() => {
-  readOn(objects.length);
-  learnOn(objects.length);
-  sharedTexts().forEach(learn);
-  return [...words];
+  allWords();
+  return [...new Set([...numberOfWord.keys(), ...sharedTexts().flatMap(wordsIn)])];
 });
 // Returns how long the beginning of a text is that a word differs from by one letter, or by two that changed places;
 // 0 if there is none.
@@ -265,16 +322,36 @@ const orders = {
 };
 const compare = (a, b) => (Array.isArray(a) ? a[0] - b[0] || a[1] - b[1] : a < b ? -1 : a > b ? 1 : 0);
 for (const order of Object.values(orders)) {
-  order.objects = lazy(() => objects.map((object) => [order.of(object), object])
-    .sort(([a], [b]) => compare(a, b)).map(([, object]) => object));
+  order.numbers = lazy(() => Uint32Array.from(objects.map((object) => [order.of(object), object.number])
+    .sort(([a], [b]) => compare(a, b)).map(([, number]) => number)));
 }
 
-let found = { objects, words: [], corrected: [] };
+const allNumbers = Uint32Array.from(objects.keys());
+const selection = new Uint32Array(objects.length); // for what is selected, while it is made
+let found = { numbers: allNumbers, words: [], corrected: [] };
+const foundAt = (index) => objects[found.numbers[index]];
 
-// Returns the objects that a state selects, the texts that are looked for, and the words that others stand for.
+// Returns those of some numbers that have a place, first those whose place is not below another one.
+function inOrder(numbers, places, first) {
+  let firsts = 0;
+  let others = selection.length; // which are put at the end, backwards
+  for (let i = 0; i < numbers.length; ++i) {
+    const place = places[numbers[i]];
+    if (place >= first) {
+      selection[firsts++] = numbers[i];
+    } else if (place !== nowhere) {
+      selection[--others] = numbers[i];
+    }
+  }
+  selection.subarray(others).reverse();
+  selection.copyWithin(firsts, others);
+  return selection.slice(0, firsts + selection.length - others);
+}
+// Returns the numbers of the objects that a state selects, the texts that are looked for, and the words that others stand
+// for.
 function select({ q, kind, group, discipline, file, only, sort }) {
-  let selected = orders[sort]?.objects() ?? objects;
-  const keep = (holds) => { selected = selected.filter(holds); };
+  let selected = orders[sort]?.numbers() ?? allNumbers;
+  const keep = (holds) => { selected = selected.filter((number) => holds(objects[number])); };
   if (kind) {
     keep((object) => object.kind.id === kind);
   }
@@ -288,28 +365,12 @@ function select({ q, kind, group, discipline, file, only, sort }) {
   }
   const words = q.toLowerCase().split(/\s+/).filter(Boolean);
   if (words.length === 0) {
-    return { objects: selected, words, corrected: [] };
+    return { numbers: selected, words, corrected: [] };
   }
   const searched = words.map((word) => ({ word, ...placesOfWord(word) }));
-  // Those that have all words in their names come first.
-  const [worst, ...more] = searched.map(({ places }) => places);
-  const isAll = selected === objects;
-  const firsts = [];
-  const others = [];
-  for (let i = 0; i < selected.length; ++i) {
-    const number = isAll ? i : selected[i].number;
-    let place = worst[number];
-    for (let j = 0; j < more.length && place !== nowhere; ++j) {
-      place = Math.min(place, more[j][number]);
-    }
-    if (place === inHead || (place === elsewhere && sort)) {
-      firsts.push(selected[i]);
-    } else if (place === elsewhere) {
-      others.push(selected[i]);
-    }
-  }
+  const places = searched.map((each) => each.places).reduce((all, more) => all.map((place, number) => Math.min(place, more[number])));
   return {
-    objects: others.length > 0 ? firsts.concat(others) : firsts,
+    numbers: inOrder(selected, places, sort ? elsewhere : inHead),
     words: searched.flatMap(({ word, near }) => (near.length > 0 ? near : [word])),
     corrected: searched.filter(({ near }) => near.length > 0).map(({ word, near }) => [word, near]),
   };
