@@ -58,10 +58,12 @@ std::optional<std::size_t> soleKindFor(const Ostra::Schema& schema) {
         return std::nullopt;
     }
     static constexpr auto beginnings = beginningsOf(StoreOrder{});
-    const auto found = std::find_if(beginnings.begin(), beginnings.end(), [&schema](const Beginning& beginning) {
-        return Ostra::Identifier::begins(schema.base(), beginning.prefix);
-    });
-    return found != beginnings.end() ? std::optional(found->kind) : std::nullopt;
+    for (const Beginning& beginning : beginnings) {
+        if (Ostra::Identifier::begins(schema.base(), beginning.prefix)) {
+            return beginning.kind;
+        }
+    }
+    return std::nullopt;
 }
 
 bool isReserved(std::string_view typeId) {

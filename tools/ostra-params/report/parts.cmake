@@ -5,6 +5,7 @@ set(report_js
     model.js
     elements.js
     address.js
+    texts.js
     search.js
     list.js
     schema.js
