@@ -189,6 +189,13 @@ TEST(FindFaults, SaysNothingOfABoundaryOf0OnASideThatHasNoBound) {
         Lines());
 }
 
+TEST(FindFaults, SaysNothingOfARangeOfOneNumber) {
+    EXPECT_EQ(faultsOf({{"1", schemaText("i", "norvex.range:range.int64.bounded.static-1.0.0",
+                                         constant("fromBottom", "true") + "," + constant("fromTop", "true") + "," +
+                                             constant("bottomBoundary", "7") + "," + constant("topBoundary", "7"))}}),
+              Lines());
+}
+
 TEST(FindFaults, TellsNothingOfWhatIsInAValueThatIsWrongAsAWhole) {
     EXPECT_EQ(faultsOf({{"t", schemaText("x", "norvex.parameter:group-1.0.0",
                                          R"({"id":"name","value":{"Value":{"more":1},"id":2}})")}}),

@@ -102,6 +102,34 @@ TEST(Inspection, BeginsAnewWithEachText) {
     EXPECT_THAT(read(with(R"({"id":"name","value":"N"})"), inspection), IsEmpty());
 }
 
+/// Returns the faults of an object of which one member alone is looked for. Values of like texts lie in the same
+/// places.
+Lines lookFor(std::string_view name, const std::string& text, Inspection& inspection) {
+    const JSON json(text, inspection);
+    inspection.noteLooks();
+    static_cast<void>(json.view().member(name));
+    static_cast<void>(json.view().noteReadWhole(0));
+    return linesOf(inspection.faults(), text);
+}
+
+TEST(Inspection, ForgetsWhatWasLookedForInTheTextBefore) {
+    Inspection inspection;
+    EXPECT_EQ(lookFor("colour", R"({"color":1})", inspection), (Lines{"member-unknown color/colour at /color 1"}));
+    EXPECT_EQ(lookFor("size", R"({"color":1})", inspection), (Lines{"member-unknown color/ at /color 1"}));
+}
+
+TEST(Inspection, ForgetsWhatWasPassedOverInTheTextBefore) {
+    Inspection inspection;
+    EXPECT_EQ(read(with(R"({"id":7,"value":"N","x":2})"), inspection).size(), 2U);
+    EXPECT_EQ(read(with(R"({"id":"name","value":"N","x":2})"), inspection),
+              (Lines{"member-unknown x/ at /constants/0/x 2"}));
+}
+
+TEST(Inspection, SaysNothingOfWhatIsInsideOfWhatIsPassedOver) {
+    EXPECT_EQ(read(with(R"({"id":7,"value":{"x":[{"y":1}]}},{"id":"name","value":"N"})")),
+              (Lines{"definition-id-string-expected / at /constants/0/id 7"}));
+}
+
 TEST(Inspection, CountsWarningsForNoErrors) {
     Inspection inspection;
     EXPECT_EQ(
@@ -119,6 +147,17 @@ TEST(Inspection, ExplainsWhatIsLackingByWhatStandsThereMisspelt) {
 TEST(Inspection, ExplainsWhatIsLackingByWhatStandsAmongTheProperties) {
     EXPECT_EQ(read(R"({"typeid":"t","inherits":["b"],"constants":[],"properties":[{"id":"name","value":1}]})"),
               (Lines{R"(constant-undefined name/name at /properties/0/id "name")"}));
+}
+
+TEST(Inspection, ExplainsNothingThatIsLackingByAnotherAmongTheProperties) {
+    EXPECT_EQ(
+        read(R"({"typeid":"t","inherits":["b"],"constants":[],"properties":[{"id":"other","value":1}]})"),
+        (Lines{"constant-undefined name/ at /constants []", R"(property-unknown other/ at /properties/0/id "other")"}));
+}
+
+TEST(Inspection, ExplainsConstantsThatAreLackingByTheirNameMisspelt) {
+    EXPECT_EQ(read(R"({"typeid":"t","inherits":["b"],"constant":[]})"),
+              (Lines{"constant-undefined name/constant at /constant []"}));
 }
 
 TEST(Inspection, ExplainsTwoThatAreLackingByOneEach) {
@@ -139,6 +178,13 @@ TEST(Inspection, TellsOfValuesThatAreNotReadBesideOthers) {
               (Lines{R"(value-ignored typedValue/ at /constants/0/typedValue {"a":1})"}));
 }
 
+TEST(Inspection, TellsOfValuesThatAreNotReadBesideTypedOnes) {
+    Inspection inspection;
+    EXPECT_EQ(lookFor("typedValue", R"({"value":1,"typedValue":2})", inspection),
+              (Lines{"value-ignored value/ at /value 1"}));
+    EXPECT_EQ(lookFor("typedValue", R"({"value":1})", inspection), (Lines{"member-unknown value/ at /value 1"}));
+}
+
 TEST(Inspection, UnescapesNames) {
     EXPECT_EQ(read(with(R"({"\u0069d":"n\u0061me","val\u0075e":"N","\u0078\/~":"\u00e4"})")),
               (Lines{"member-unknown x/~/ at /constants/0/x~1~0 \"\\u00e4\""}));
@@ -148,6 +194,12 @@ TEST(Inspection, PlacesFaultsInTextsWithBlanksAndLineEndsOfAllSorts) {
     const std::string text = "\r\n{ \"typeid\" : \"t\",\r\n\t\"inherits\":[ \"b\" ] ,\r\"constants\" : [\r\n"
                              "{\"id\" : \"name\" , \"value\" :\r\n 5.0 } ] }\r\n";
     EXPECT_EQ(read(text), (Lines{"non-empty-string-expected name/ at /constants/0/value 5.0"}));
+}
+
+TEST(Inspection, HoldsNothingOfWhatIsNoJSON) {
+    Inspection inspection;
+    const std::string text = R"({"a":[1,)";
+    EXPECT_EQ(JSON(text, inspection).toText(), "null");
 }
 
 TEST(Inspection, PlacesWhatIsNoJSONUpToItsEnd) {

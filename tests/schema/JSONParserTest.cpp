@@ -215,6 +215,15 @@ TEST(Parsing, KeepsEveryByteOfAString) {
     EXPECT_EQ(parse("\"a\\u0000b\x7F\xFF\xC0\x80\"").view().string(), "a\0b\x7F\xFF\xC0\x80"sv);
 }
 
+TEST(Parsing, CountsMembersWhoeverReadsThem) {
+    for (const std::string number : {"1", "12345678901234567890"}) { // which not every reader reads
+        const std::string text = R"({"a":)" + number + R"(,"b":{"c":[{"d":2}],"a":{}}})";
+        Arena arena;
+        JSONTape tape(arena);
+        EXPECT_EQ(parseText(text, tape, arena).members, 5U) << text;
+    }
+}
+
 TEST(Parsing, LeavesTheTextAlone) {
     const std::string text = R"({"a\n": ["\u0041", 1.5]})";
     const std::string before = text;

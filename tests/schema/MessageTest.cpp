@@ -32,6 +32,8 @@ constexpr Messages table({
     {"many", "<a>, <b>, <c>, <d>."},
 });
 
+constexpr Messages placed({{"placed", "<schema>:<offset>: <reason> (<typeid>)"}});
+
 TEST(Message, WithoutPlaceholdersIsItsSentence) { EXPECT_EQ(table("plain").with({}), "Nothing is inserted."); }
 
 TEST(Message, HasWhatIsInsertedInPlaceOfItsPlaceholder) {
@@ -52,6 +54,12 @@ TEST(Message, TakesEmptyTexts) { EXPECT_EQ(table("many").with({"", "3", "", ""})
 
 TEST(Message, TakesTextsByteForByte) {
     EXPECT_EQ(table("one-in-the-middle").with({"a\0b\xff\n"sv}), "Schema a\0b\xff\n is odd."s);
+}
+
+TEST(Message, IsAboutWhatIsInsertedFirstUnlessThatOnlyPlacesOrExplains) {
+    EXPECT_EQ(table("both-ends").subjectOf({"left", "right"}), "left");
+    EXPECT_EQ(placed("placed").subjectOf({"t", "7", "Because.", "it"}), "it");
+    EXPECT_EQ(table("plain").subjectOf({}), "");
 }
 
 TEST(Message, DoesNotLookForPlaceholdersInWhatIsInserted) {

@@ -34,10 +34,26 @@ TEST(PlainReader, ReadsAllThatIsInTheExampleCatalogue) {
 }
 
 TEST(PlainReader, ReadsValuesOfEveryType) {
-    for (const std::string& text :
-         {"{}"s, "[]"s, " [ ] "s, "\"\""s, "\"\xC3\xBC\xFF\""s, "0"s, "-0"s, "9223372036854775807"s,
-          "-9223372036854775807"s, "-1.5"s, "1e5"s, "1.25E+10"s, "1e-99"s, "true"s, "false"s, "null"s,
-          "\r\n\t {\"a\" : [ 1 , \"\\u00fc\" ] , \"a\" : { } }\n"s, std::string(64, '[') + std::string(64, ']')}) {
+    for (const std::string& text : {"{}"s,
+                                    "[]"s,
+                                    " [ ] "s,
+                                    "\"\""s,
+                                    "\"\xC3\xBC\xFF\""s,
+                                    "0"s,
+                                    "-0"s,
+                                    "9223372036854775807"s,
+                                    "-9223372036854775807"s,
+                                    "-1.5"s,
+                                    "1e5"s,
+                                    "1.25E+10"s,
+                                    "1e-99"s,
+                                    "1.00000000000000001"s,
+                                    "\"\\ud800\\udc00\\ue000\""s,
+                                    "true"s,
+                                    "false"s,
+                                    "null"s,
+                                    "\r\n\t {\"a\" : [ 1 , \"\\u00fc\" ] , \"a\" : { } }\n"s,
+                                    std::string(64, '[') + std::string(64, ']')}) {
         EXPECT_TRUE(isRead(text)) << text;
         EXPECT_EQ(outcomeOf(text), outcomeByDefaultFlags(text)) << text;
     }
@@ -75,6 +91,7 @@ TEST(PlainReader, GivesUpAtWhateverIsUnusual) {
                                     "\"\\u12g4\""s,
                                     "\"\\ud800\""s,
                                     "\"\\udc00\""s,
+                                    "\"\\udc00\\udc00\""s,
                                     "\"\\ud800\\ud800\""s,
                                     "\"\\ud800x\""s,
                                     "\"a\nb\""s,

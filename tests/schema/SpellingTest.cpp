@@ -22,7 +22,10 @@ TEST(Distance, IsNoneBetweenEqualTexts) {
     EXPECT_EQ(distance("name", "name", 0), 0U);
 }
 
-TEST(Distance, TakesUpperAndLowerCaseForTheSame) { EXPECT_EQ(distance("readOnly", "READonly", 3), 0U); }
+TEST(Distance, TakesUpperAndLowerCaseForTheSame) {
+    EXPECT_EQ(distance("readOnly", "READonly", 3), 0U);
+    EXPECT_EQ(distance("abcdefghijklmnopqrstuvwxyz", "ABCDEFGHIJKLMNOPQRSTUVWXYZ", 3), 0U);
+}
 
 TEST(Distance, TellsOtherLettersApartWhateverTheirBits) {
     EXPECT_EQ(distance("[", "{", 3), 1U);
@@ -113,6 +116,7 @@ TEST(Nearest, MayBeFartherFromLongerTexts) {
 
 TEST(Nearest, IsTheNearestOfSeveral) {
     EXPECT_THAT(nearest("topBoundry", {"topBoundaries", "topBoundary", "toBoundary"}), ElementsAre("topBoundary"));
+    EXPECT_THAT(nearest("size", {"sine", "Size"}), ElementsAre("Size"));
 }
 
 TEST(Nearest, AreAtMostThreeThatAreEquallyNear) {

@@ -68,6 +68,18 @@ TEST_F(Costs, OfRegisteringOneObjectAfterTheOtherGrowWithTheirNumber) {
         [](ParametersEngine& engine, int number) { engine.registerDiscipline(Taxon(nameOf(number), "Name")); });
 }
 
+/// What was in order stays in order.
+TEST_F(Costs, OfAListAreLowWhenOneMoreIsAdded) {
+    ParametersEngine engine;
+    for (int number = 0; number < 2000; ++number) {
+        engine.registerDiscipline(Taxon(nameOf(number), "Name"));
+    }
+    const auto list = [&] { static_cast<void>(engine.allDisciplines()); };
+    const std::size_t ofTheFirst = bytesOf(list);
+    engine.registerDiscipline(Taxon("another", "Name"));
+    EXPECT_LT(2 * bytesOf(list), ofTheFirst);
+}
+
 /// What is named by what was withdrawn is forgotten, though something else waits all the time.
 TEST_F(Costs, OfWhatWasWithdrawnAreGivenBack) {
     ParametersEngine engine;
