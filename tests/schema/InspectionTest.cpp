@@ -130,6 +130,16 @@ TEST(Inspection, SaysNothingOfWhatIsInsideOfWhatIsPassedOver) {
               (Lines{"definition-id-string-expected / at /constants/0/id 7"}));
 }
 
+TEST(Inspection, SaysNothingOfWhatIsInsideOfWhatIsWrongAsAWholeThoughItWasRead) {
+    Inspection inspection;
+    const std::string text = R"({"a":{"b":{"x":1}}})";
+    const JSON json(text, inspection);
+    EXPECT_TRUE(json.view().member("a")->member("b").has_value());
+    json.view().member("a")->report(messages("string-expected"));
+    EXPECT_FALSE(json.view().noteReadWhole(0));
+    EXPECT_EQ(linesOf(inspection.faults(), text), (Lines{R"(string-expected a/ at /a {"b":{"x":1}})"}));
+}
+
 TEST(Inspection, CountsWarningsForNoErrors) {
     Inspection inspection;
     EXPECT_EQ(
@@ -156,8 +166,8 @@ TEST(Inspection, ExplainsNothingThatIsLackingByAnotherAmongTheProperties) {
 }
 
 TEST(Inspection, ExplainsConstantsThatAreLackingByTheirNameMisspelt) {
-    EXPECT_EQ(read(R"({"typeid":"t","inherits":["b"],"constant":[]})"),
-              (Lines{"constant-undefined name/constant at /constant []"}));
+    EXPECT_EQ(read(R"({"typeid":"t","inherits":["b"],"konstant":[]})"),
+              (Lines{"constant-undefined name/konstant at /konstant []"}));
 }
 
 TEST(Inspection, ExplainsTwoThatAreLackingByOneEach) {
