@@ -59,7 +59,7 @@ test("finds letter by letter what it finds at once", async () => {
   await close(typed);
 });
 
-test("finds the same before the catalogue has been read, while nothing else was to be done, and after", async () => {
+test("finds the same before and after the page has read its words at leisure", async () => {
   const descriptions = ["Beside the pump's outlet", "Stra\u00dfe 7, \u00fcber Nacht", "", "na\u00efve cafe\u0301 x_y", "1.0.0 of inlets"];
   const parameters = Array.from({ length: 50 }, (_, i) => (
     parameter(`plant.pump:P${i}Outlet-1.0.0`, `${["Inlet", "Outlet", "\u00c4rger"][i % 3]} ${i}`, "g", descriptions[i % 5] + (i % 2 ? ` ${i}` : ""))));
