@@ -1,4 +1,5 @@
 #include "Fuzz.h"
+#include "ProjectFolder.h"
 #include "support/Catalogue.h"
 
 #include <parameters/Kinds.h>

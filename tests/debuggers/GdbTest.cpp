@@ -1,4 +1,5 @@
 #include "debuggers/Gdb.h"
+#include "ProjectFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

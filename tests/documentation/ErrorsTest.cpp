@@ -1,3 +1,4 @@
+#include "ProjectFolder.h"
 #include "documentation/Pages.h"
 #include "engine/Messages.h"
 #include "units/src/Messages.h"

@@ -1,3 +1,4 @@
+#include "ProjectFolder.h"
 #include "documentation/Pages.h"
 #include "support/Catalogue.h"
 

@@ -1,3 +1,4 @@
+#include "ProjectFolder.h"
 #include "support/Catalogue.h"
 #include "support/Faults.h"
 #include "support/MutatedTexts.h"

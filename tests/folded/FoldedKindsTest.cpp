@@ -1,5 +1,6 @@
 #include <parameters/Kinds.h>
 
+#include "ProjectFolder.h"
 #include "support/Catalogue.h"
 
 #include <gtest/gtest.h>

@@ -3,6 +3,7 @@
 #include "model/ValidationExceptionFactory.h"
 #include "schema/Schema.h"
 
+#include "ProjectFolder.h"
 #include "support/Catalogue.h"
 #include "support/SchemaTexts.h"
 

@@ -1,6 +1,7 @@
 #include "schema/PlainReader.h"
 
 #include "ParseOutcome.h"
+#include "ProjectFolder.h"
 
 #include <gtest/gtest.h>
 

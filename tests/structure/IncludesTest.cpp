@@ -1,5 +1,6 @@
 #include "structure/Includes.h"
 
+#include "ProjectFolder.h"
 #include "support/RowNames.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+#include "ProjectFolder.h"
 #include "catalogue/Sections.h"
 #include "faults/Rules.h"
 #include "tools/Tool.h"

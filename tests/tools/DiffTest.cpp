@@ -1,3 +1,4 @@
+#include "ProjectFolder.h"
 #include "support/RowNames.h"
 #include "tools/Tool.h"
 

@@ -1,3 +1,4 @@
+#include "ProjectFolder.h"
 #include "edit/Layout.h"
 #include "support/RowNames.h"
 #include "tools/Tool.h"

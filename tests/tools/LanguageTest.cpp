@@ -1,5 +1,6 @@
 #include "language/Language.h"
 
+#include "ProjectFolder.h"
 #include "language/Values.h"
 #include "support/Faults.h"
 #include "support/Picture.h"

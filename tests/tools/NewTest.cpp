@@ -1,3 +1,4 @@
+#include "ProjectFolder.h"
 #include "tools/Forms.h"
 #include "tools/Tool.h"
 

@@ -1,3 +1,4 @@
+#include "ProjectFolder.h"
 #include "tools/Tool.h"
 
 #include <gmock/gmock.h>

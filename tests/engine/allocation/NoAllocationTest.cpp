@@ -1,3 +1,4 @@
+#include "ProjectFolder.h"
 #include "schema/AllocationWatch.h"
 #include "support/Catalogue.h"
 
