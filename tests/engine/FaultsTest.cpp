@@ -426,6 +426,18 @@ TEST(FaultsOfNames, PreferAFaultOfItsOwnForTheRoot) {
                      "non-empty-string-expected name at 3:/constants/0/value \"\""}));
 }
 
+TEST(FaultsOfNames, PreferALaterFaultOfItsOwnForTheRoot) {
+    EXPECT_EQ(faultsOf({{"1", subCategoryText("sub", "major")},
+                        {"2", majorCategoryText("major", "faulty", {"no"})},
+                        {"3", domainText("faulty", "")}}),
+              (Lines{"dependency-missing major needs category at 1:/constants/1/typedValue/typeid \"major\" "
+                     "beside 2:/typeid after 2:/constants/2/typedValue/0/typeid",
+                     "dependency-missing faulty needs domain at 2:/constants/1/typedValue/typeid \"faulty\" "
+                     "beside 3:/typeid after 3:/constants/0/value",
+                     "dependency-missing no needs discipline at 2:/constants/2/typedValue/0/typeid \"no\"",
+                     "non-empty-string-expected name at 3:/constants/0/value \"\""}));
+}
+
 TEST(FaultsOfNames, AreFoundInTextsThatHaveOtherFaultsToo) {
     EXPECT_EQ(faultsOf({{"t", schemaText("s", "norvex.spec:spec.bool-1.0.0",
                                          constant("name", "\"\"") + "," + typedConstant("discipline", "d"))}}),
