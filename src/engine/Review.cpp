@@ -363,7 +363,7 @@ void Review::tellMissing(std::span<const Missing> missing) {
         if (const auto named = textOf(each.named)) {
             fault.otherPlace = placeOfTypeId(*named);
             if (isConsequence(each, *named)) {
-                consequences_.push_back({faults_.size(), *named});
+                consequences_.emplace_back(faults_.size(), *named);
             }
         }
         faults_.push_back({id, std::move(fault)});

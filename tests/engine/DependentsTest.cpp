@@ -111,7 +111,7 @@ TYPED_TEST(DependentsOfEachKind, AreWhatNamesIt) {
         EXPECT_THAT(dependentsOf(engine, typeId), Contains(Identity{"x", TypeParam::info})) << typeId;
     }
     Parameters::forEachObject(engine, [&](auto, const auto& object) {
-        if (named.count(std::string(object.typeId())) == 0) {
+        if (!named.contains(std::string(object.typeId()))) {
             EXPECT_THAT(dependentsOf(engine, object.typeId()), Not(Contains(Identity{"x", TypeParam::info})));
         }
     });

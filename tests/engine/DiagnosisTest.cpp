@@ -285,12 +285,12 @@ TEST(DiscardPending, KeepsInStepWhatIsNamedAndWhatNamesIt) {
             const std::string group = "g" + std::to_string(random() % 5);
             if (random() % 2 == 0) {
                 const std::string parameter = "p" + std::to_string(random() % 10);
-                if (parameters.count(parameter) > 0) {
+                if (parameters.contains(parameter)) {
                     ASSERT_TRUE(engine.discardPending(parameter));
                     parameters.erase(parameter);
                 } else if (!engine.isRegistered(parameter)) {
                     const auto missing = engine.registerSchema(boolParameterText(parameter, group, boolSpec)).first;
-                    ASSERT_EQ(missing.count(group), 1 - groups.count(group));
+                    ASSERT_NE(missing.contains(group), groups.contains(group));
                     parameters.emplace(parameter, group);
                 }
             } else if (engine.discardPending(group)) {
@@ -300,7 +300,7 @@ TEST(DiscardPending, KeepsInStepWhatIsNamedAndWhatNamesIt) {
             }
             Faults faults;
             for (const auto& [parameter, named] : parameters) {
-                if (groups.count(named) == 0) {
+                if (!groups.contains(named)) {
                     faults.emplace(parameter, unresolvable(named, parameter));
                 }
             }

@@ -44,7 +44,6 @@ using Support::schemaText;
 using Support::subCategoryText;
 using Support::Texts;
 using Support::typedConstant;
-using Support::typedConstants;
 using Support::unitText;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -157,15 +156,13 @@ TEST(FindFaults, TellsThatNothingReadsAConstantThatStandsTwice) {
 }
 
 TEST(FindFaults, TellsEveryElementOfAListThatIsWrong) {
-    EXPECT_EQ(faultsOf({{"t", schemaText("x", "norvex.talmo.category:majorCategory-1.0.0",
-                                         name + R"(,{"id":"disciplines","typedValue":[1,{"typeid":"d"},{"typeid":""},)"
-                                                R"({"typeid":"norvex.spec:discipline-1.0.0"},{}]})")}}),
+    const std::string disciplines = R"({"id":"disciplines","typedValue":[1,{"typeid":"d"},{"typeid":""},)"
+                                    R"({"typeid":"norvex.spec:discipline-1.0.0"},{}]})";
+    EXPECT_EQ(faultsOf({{"t", schemaText("x", "norvex.talmo.category:majorCategory-1.0.0", name + "," + disciplines)}}),
               (Lines{"typed-value-object-expected disciplines at t:/constants/1/typedValue/0 1",
                      "typed-value-typeid-empty disciplines at t:/constants/1/typedValue/2/typeid \"\"",
                      "typed-value-typeid-only disciplines at t:/constants/1/typedValue/4 {}",
-                     "constant-undefined domain at t:/constants "
-                     R"([{"id":"name","value":"N"},{"id":"disciplines","typedValue":[1,{"typeid":"d"},{"typeid":""},)"
-                     R"({"typeid":"norvex.spec:discipline-1.0.0"},{}]}])",
+                     "constant-undefined domain at t:/constants [" + name + "," + disciplines + "]",
                      "dependency-missing d needs discipline at t:/constants/1/typedValue/1/typeid \"d\""}));
 }
 

@@ -32,7 +32,7 @@ struct Promise {
     std::string_view plural;
     KindFamily family;
     std::vector<std::string_view> bases;
-    std::string_view builtInName = "";
+    std::string_view builtInName{};
 };
 
 const std::vector<Promise> promises{

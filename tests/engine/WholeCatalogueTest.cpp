@@ -163,7 +163,7 @@ TEST_P(WholeCatalogue, IsNamedByWhatDependsOnIt) {
         ASSERT_EQ(std::vector<Parameters::Identity>(shown.begin(), shown.end()), expected) << named;
     }
     Parameters::forEachObject(engine, [&](auto, const auto& object) {
-        EXPECT_EQ(engine.dependentsOf(object.typeId()).empty(), dependents.count(std::string(object.typeId())) == 0)
+        EXPECT_EQ(engine.dependentsOf(object.typeId()).empty(), !dependents.contains(std::string(object.typeId())))
             << object;
     });
 }

@@ -500,7 +500,7 @@ const Missing missingReferences[] = {
 
 /// Returns the message with which an engine refuses a parameter made in code, in whatever way it is asked about.
 std::string refusalOfObject(ParametersEngine& engine, const ReferenceParameter& parameter) {
-    const std::string message = refusalBy(engine, [&] { engine.registerReferenceParameter(parameter); });
+    std::string message = refusalBy(engine, [&] { engine.registerReferenceParameter(parameter); });
     EXPECT_EQ(refusalBy(engine, [&] { engine.getSchema(parameter); }), message);
     EXPECT_EQ(refusalBy(engine, [&] { engine.getDependencies(parameter); }), message);
     return message;

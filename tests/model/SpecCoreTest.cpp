@@ -23,7 +23,6 @@ using Parameters::ParametersEngine;
 using Parameters::SpecCore;
 using Parameters::Taxon;
 using Parameters::ValidationException;
-using Support::constant;
 using Support::disciplineText;
 using Support::engineOf;
 using Support::Fault;

@@ -16,7 +16,6 @@ namespace Ostra {
 
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 using Lines = std::vector<std::string>;

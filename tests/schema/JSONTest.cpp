@@ -3,7 +3,6 @@
 
 #include "AllocationWatch.h"
 #include "Parsed.h"
-#include "schema/ExceptionFactory.h"
 #include "schema/Messages.h"
 #include "support/Messages.h"
 #include "support/RowNames.h"

@@ -97,7 +97,7 @@ private:
         }
     }
 
-    void changeMember(Value& object, Value::MemberIterator member, Pool& pool) {
+    void changeMember(Value& object, const Value::MemberIterator& member, Pool& pool) {
         switch (below(4)) {
         case 0:
             object.EraseMember(member);

@@ -71,7 +71,7 @@ void Editor::goTo(const std::string& name, const std::string& part, std::size_t 
     offset_ = textOf(name).find(part) + further;
 }
 
-Editor::Json Editor::here(const std::string& method, Json more) {
+Editor::Json Editor::here(const std::string& method, const Json& more) {
     Json params{{"textDocument", {{"uri", uriOf(place_)}}}, {"position", positionOf(textOf(place_), offset_)}};
     params.update(more);
     return resultOf(method, std::move(params));

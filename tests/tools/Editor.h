@@ -6,6 +6,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// A client of the language server, in one thread: the server does nothing behind its back.
@@ -20,7 +21,9 @@ public:
     /// Sends a request, and returns the whole answer.
     Json ask(const std::string& method, Json params = Json::object());
     /// Sends a request, and returns its result.
-    Json resultOf(const std::string& method, Json params = Json::object()) { return ask(method, params).at("result"); }
+    Json resultOf(const std::string& method, Json params = Json::object()) {
+        return ask(method, std::move(params)).at("result");
+    }
     void tell(const std::string& method, Json params = Json::object());
     /// Lets the server look at the files and tell what is wrong.
     void look();
@@ -33,7 +36,7 @@ public:
     /// Puts the place of requests before a part of a file, so many bytes further.
     void goTo(const std::string& name, const std::string& part, std::size_t further = 0);
     /// Sends a request about the place.
-    Json here(const std::string& method, Json more = Json::object());
+    Json here(const std::string& method, const Json& more = Json::object());
 
     std::string uriOf(const std::string& name) const;
     /// Returns the name of a URI's file.

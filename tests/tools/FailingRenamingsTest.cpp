@@ -22,7 +22,7 @@ std::string group(const std::string& typeId) {
 /// Runs the tool, of whose renamings some fail: those whose numbers, counted from 1, are among the digits.
 Outcome runFrail(const Folder& folder, const char* failing, const std::vector<std::string>& arguments) {
     ::setenv("OSTRA_FAILING_RENAMINGS", failing, 1);
-    const Outcome outcome = folder.runProgram(OSTRA_FRAIL_TOOL, arguments);
+    Outcome outcome = folder.runProgram(OSTRA_FRAIL_TOOL, arguments);
     ::unsetenv("OSTRA_FAILING_RENAMINGS");
     return outcome;
 }

@@ -44,7 +44,7 @@ TEST_P(Fixed, AsTheHintSays) {
     const Outcome outcome = folder.run({"fix", "f.ndjson"});
     EXPECT_EQ(folder.read("f.ndjson"), GetParam().after);
     EXPECT_EQ(outcome.exitCode, GetParam().exitCode) << outcome.err;
-    EXPECT_EQ(outcome.out == "", GetParam().before == GetParam().after);
+    EXPECT_EQ(outcome.out.empty(), GetParam().before == GetParam().after);
     EXPECT_EQ(dry.out, outcome.out);
     EXPECT_EQ(dry.err, outcome.err);
     EXPECT_EQ(dry.exitCode, outcome.exitCode);

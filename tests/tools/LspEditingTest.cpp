@@ -76,9 +76,8 @@ protected:
 
     Json actionsAt(const std::string& name, const std::string& part) {
         editor.goTo(name, part);
-        const Json place = editor.here("textDocument/codeAction",
-                                       {{"range", rangeAt(name, part)}, {"context", {{"diagnostics", Json::array()}}}});
-        return place;
+        return editor.here("textDocument/codeAction",
+                           {{"range", rangeAt(name, part)}, {"context", {{"diagnostics", Json::array()}}}});
     }
 
     Json rangeAt(const std::string& name, const std::string& part) const {

@@ -16,10 +16,7 @@
 namespace {
 
 using namespace Tool::Lsp;
-using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
 
 /// Returns what a stream is taken for that comes so many bytes at a time: bodies, and "!" for each broken header.
 std::vector<std::string> bodiesIn(const std::string& stream, std::size_t step) {

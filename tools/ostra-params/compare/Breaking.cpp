@@ -2,6 +2,8 @@
 
 #include "catalogue/Catalogue.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -55,8 +57,8 @@ Number limitOf(const Value& value, bool isBottom) {
 template <class Number>
 bool isNarrower(const ConstantChange& limit) {
     const bool isBottom = limit.id == "bottomBoundary";
-    const Number old = limitOf<Number>(limit.before, isBottom);
-    const Number now = limitOf<Number>(limit.after, isBottom);
+    const auto old = limitOf<Number>(limit.before, isBottom);
+    const auto now = limitOf<Number>(limit.after, isBottom);
     return isBottom ? now > old : now < old;
 }
 
@@ -270,10 +272,10 @@ std::vector<Verdict> judge(const std::vector<Change>& changes, const Catalogue& 
         for (const Atom& atom : atomsOf(change)) {
             Verdict verdict{atom, &ruleFor(atom), placeOf(atom)};
             const std::string& typeId = change.object().typeId;
-            const std::string code(verdict.rule->code);
             const std::string& oldTypeId = (change.before != nullptr ? change.before : change.after)->typeId;
-            verdict.isAccepted = accepted.contains(code) || accepted.contains(code + ":" + typeId) ||
-                                 accepted.contains(code + ":" + oldTypeId);
+            const std::string_view code = verdict.rule->code;
+            verdict.isAccepted = accepted.contains(code) || accepted.contains(fmt::format("{}:{}", code, typeId)) ||
+                                 accepted.contains(fmt::format("{}:{}", code, oldTypeId));
             if (verdict.rule->severity != Severity::safe) {
                 if (!std::exchange(isKnown, true)) {
                     dependents =

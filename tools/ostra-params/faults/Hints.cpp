@@ -30,7 +30,7 @@ constexpr std::string_view nameless =
     "typed-value-typeid-empty ";
 
 bool isOneOf(std::string_view code, std::string_view codes) {
-    return codes.find(fmt::format(" {} ", code)) != codes.npos;
+    return codes.find(fmt::format(" {} ", code)) != std::string_view::npos;
 }
 
 /// A question that offers the known names that may be meant by one; certain when there is one alone.
@@ -217,6 +217,7 @@ private:
 std::vector<Hint> hintsFor(const Input& input, const Headings& headings, const std::vector<Fault>& faults) {
     Hints hints(input, headings, faults);
     std::vector<Hint> all;
+    all.reserve(faults.size());
     for (const Fault& fault : faults) {
         all.push_back(hints.hintFor(fault));
     }

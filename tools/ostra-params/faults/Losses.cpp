@@ -81,14 +81,16 @@ public:
 private:
     void compare(const Object& object) {
         const Object* const after = after_.find(object.typeId);
-        if (after != nullptr && object.section == after->section && contentOf(object) == contentOf(*after)) {
+        if (after == nullptr) {
+            addChanged(object);
+            return;
+        }
+        if (object.section == after->section && contentOf(object) == contentOf(*after)) {
             return;
         }
         const std::string_view range = typeIdIn(object, "range");
         const std::string_view spec = typeIdIn(object, "spec");
-        if (after == nullptr) {
-            addChanged(object);
-        } else if (!range.empty() && typeIdIn(*after, "range").empty()) {
+        if (!range.empty() && typeIdIn(*after, "range").empty()) {
             add("range-not-written", object.typeId,
                 fmt::format(" is written without its range {}, which limits nothing.", range));
         } else if (object.section->id == "string-range" && object.properties.front().name == "range") {

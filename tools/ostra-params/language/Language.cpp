@@ -260,7 +260,7 @@ const Form* findFormOfBase(std::string_view base) {
     const auto found = std::find_if(forms().begin(), forms().end(), [base](const Form& form) {
         const std::string_view prefix = prefixOf(form.base);
         const bool hasVersion = prefix != form.base;
-        return hasVersion ? base.find(prefix) != base.npos : base == form.base;
+        return hasVersion ? base.find(prefix) != std::string_view::npos : base == form.base;
     });
     return found == forms().end() ? nullptr : &*found;
 }
@@ -274,7 +274,7 @@ std::span<const Definition> definitionsOf(const Form* form, std::string_view tab
 
 std::string_view prefixOf(std::string_view base) {
     const std::size_t version = base.rfind('-');
-    return version == base.npos ? base : base.substr(0, base.find('.', version) + 1);
+    return version == std::string_view::npos ? base : base.substr(0, base.find('.', version) + 1);
 }
 
 std::vector<std::string_view> reservedPrefixes() {

@@ -12,12 +12,14 @@ struct Graph {
         std::string typeId;
         std::string name;
         std::string kind;
+        // NOLINTNEXTLINE(modernize-use-nullptr): the compiler compares with a null of its own
         std::strong_ordering operator<=>(const Node&) const = default;
     };
     struct Edge {
         std::string from;
         std::string to;
         std::string label;
+        // NOLINTNEXTLINE(modernize-use-nullptr): the compiler compares with a null of its own
         std::strong_ordering operator<=>(const Edge&) const = default;
     };
     std::vector<Node> nodes;

@@ -89,9 +89,10 @@ constexpr std::array capitals{
 } // namespace
 
 char32_t smallOf(char32_t character) {
-    const auto found = std::partition_point(capitals.begin(), capitals.end(),
-                                            [&](const Capitals& some) { return some.last < character; });
-    return found != capitals.end() && found->contain(character) ? shifted(character, found->distance) : character;
+    const Capitals* const end = capitals.data() + capitals.size();
+    const Capitals* const found =
+        std::partition_point(capitals.data(), end, [&](const Capitals& some) { return some.last < character; });
+    return found != end && found->contain(character) ? shifted(character, found->distance) : character;
 }
 
 bool isSmall(char32_t character) {

@@ -69,7 +69,8 @@ std::u32string charactersOf(std::string_view text) {
     while (!text.empty()) {
         unsigned character = 0;
         const std::size_t length = lengthOfCharacter(text, character);
-        characters += length == 0 ? beyondAll + static_cast<unsigned char>(text.front()) : character;
+        const unsigned invalid = beyondAll + static_cast<unsigned char>(text.front());
+        characters += static_cast<char32_t>(length == 0 ? invalid : character);
         text.remove_prefix(std::max<std::size_t>(length, 1));
     }
     return characters;

@@ -217,6 +217,7 @@ private:
         shapeOf_.emplace_back(found->second);
         append(shape.cells, cells);
         std::vector<std::size_t> numbers;
+        numbers.reserve(literals.size());
         for (const std::string_view literal : literals) {
             numbers.push_back(cells_.add(literal));
         }

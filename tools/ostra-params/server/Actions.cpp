@@ -64,7 +64,7 @@ std::string titleOf(const Edit& edit, std::string_view text) {
 std::string indentationAt(std::string_view text, std::size_t offset) {
     const std::size_t line = text.find_last_of("\r\n", offset) + 1; // npos + 1 is 0
     const std::string_view before = text.substr(line, offset - line);
-    const bool isBlank = line > 0 && before.find_first_not_of(" \t") == before.npos;
+    const bool isBlank = line > 0 && before.find_first_not_of(" \t") == std::string_view::npos;
     return fmt::format("{}{}", isBlank ? "\n" : " ", isBlank ? before : std::string_view());
 }
 
@@ -180,6 +180,7 @@ public:
     /// Adds one action for all in the file that one thing alone can be meant by.
     void addForFile(const std::vector<Problem>& problems) {
         std::vector<const Problem*> all;
+        all.reserve(problems.size());
         for (const Problem& problem : problems) {
             all.push_back(&problem);
         }

@@ -18,7 +18,7 @@ namespace Tool::Lsp {
 namespace {
 
 /// What the protocol calls what it completes.
-enum ItemKind { moduleKind = 9, property = 10, value = 12, reference = 18, constant = 21 };
+enum ItemKind { ModuleItem = 9, PropertyItem = 10, ValueItem = 12, ReferenceItem = 18, ConstantItem = 21 };
 
 /// Returns a text as a snippet has it, in which some characters mean something else.
 std::string plain(const std::string& text) {
@@ -35,8 +35,8 @@ std::string snippetOf(const Json& json) {
     std::string snippet;
     int stop = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::size_t end = text.substr(i, 2) == "\"<" ? text.find(">\"", i) : text.npos;
-        if (end != text.npos) {
+        const std::size_t end = text.substr(i, 2) == "\"<" ? text.find(">\"", i) : std::string_view::npos;
+        if (end != std::string_view::npos) {
             snippet += fmt::format("\"${{{}:{}}}\"", ++stop, text.substr(i + 2, end - i - 2));
             i = end + 1;
         } else {
@@ -90,8 +90,8 @@ public:
 private:
     bool isBehindColon() const {
         const std::size_t last =
-            offset_ == 0 ? schema_.text().npos : schema_.text().find_last_not_of(blanks, offset_ - 1);
-        return last != schema_.text().npos && schema_.text()[last] == ':';
+            offset_ == 0 ? std::string_view::npos : schema_.text().find_last_not_of(blanks, offset_ - 1);
+        return last != std::string_view::npos && schema_.text()[last] == ':';
     }
     bool isClosed() const {
         const std::string_view token = schema_.text().substr(begin_, end_ - begin_);
@@ -111,10 +111,10 @@ private:
 
     /// Adds an item that replaces what is typed; more of it is what the client shows besides.
     void add(const std::string& label, int kind, const std::string& text, std::string_view detail,
-             const Json& more = Json::object(), std::string snippet = {}) {
+             const Json& more = Json::object(), const std::string& snippet = {}) {
         constexpr std::size_t most = 500;
         const std::string searched = lower(label + " " + std::string(detail));
-        if (!typed_.empty() && searched.find(typed_) == searched.npos) {
+        if (!typed_.empty() && searched.find(typed_) == std::string_view::npos) {
             return;
         }
         isCut_ = isCut_ || items_.size() >= most;
@@ -142,7 +142,7 @@ private:
             const Json schema = Language::schemaOf(form, "<typeid>", [](const Language::Definition& definition) {
                 return definition.isRequired ? std::optional(Language::placeholderOf(definition)) : std::nullopt;
             });
-            add(std::string(form.label), moduleKind, schema.dump(2), form.meaning, Json::object(), snippetOf(schema));
+            add(std::string(form.label), ModuleItem, schema.dump(2), form.meaning, Json::object(), snippetOf(schema));
         }
     }
 
@@ -166,8 +166,8 @@ private:
                 offerName("value", placeholder.dump(), "What it says.", snippetOf(placeholder));
             }
             if (meaning == nullptr || isTyped) {
-                offerName("typedValue", isTyped ? placeholder.dump() : "{\"typeid\": \"\"}", "Which object it names.",
-                          isTyped ? snippetOf(placeholder) : "{\"typeid\": \"$1\"}");
+                offerName("typedValue", isTyped ? placeholder.dump() : R"({"typeid": ""})", "Which object it names.",
+                          isTyped ? snippetOf(placeholder) : R"({"typeid": "$1"})");
             }
         } else if (const Language::Form* const range = formOfRange()) {
             for (const Language::Definition& each : range->constants) {
@@ -191,7 +191,7 @@ private:
         const bool isReplaced =
             member_ != Outline::none && schema_[member_].type != Outline::Type::nothing; // which has a value
         const std::string head = Tool::quoted(name);
-        add(name, property, isReplaced ? head : head + ": " + text, meaning, Json::object(),
+        add(name, PropertyItem, isReplaced ? head : head + ": " + text, meaning, Json::object(),
             isReplaced ? "" : plain(head) + ": " + snippet);
     }
 
@@ -216,8 +216,8 @@ private:
             offerTypeIds();
         } else if (const Language::Definition* const known = definitionOfValue()) {
             if (known->type == Language::Type::boolean) {
-                add("true", value, "true", known->meaning, {{"filterText", "true"}});
-                add("false", value, "false", known->meaning, {{"filterText", "false"}});
+                add("true", ValueItem, "true", known->meaning, {{"filterText", "true"}});
+                add("false", ValueItem, "false", known->meaning, {{"filterText", "false"}});
             }
         }
     }
@@ -249,7 +249,7 @@ private:
     void offerBases(bool isWithBrackets) {
         for (const Language::Form& form : Language::forms()) {
             const std::string base = Tool::quoted(form.base);
-            add(std::string(form.base), moduleKind, isWithBrackets ? "[" + base + "]" : base, form.label,
+            add(std::string(form.base), ModuleItem, isWithBrackets ? "[" + base + "]" : base, form.label,
                 {{"documentation", form.meaning}});
         }
     }
@@ -276,7 +276,7 @@ private:
     void offerIds() {
         for (const Language::Definition* each : missing()) {
             if (!each->id.empty()) {
-                add(std::string(each->id), constant, Tool::quoted(each->id), each->meaning,
+                add(std::string(each->id), ConstantItem, Tool::quoted(each->id), each->meaning,
                     {{"preselect", each->isRequired}});
             }
         }
@@ -286,7 +286,7 @@ private:
         for (const Language::Definition* each : missing()) {
             const Json definition = Language::withValue(*each, Language::placeholderOf(*each));
             const std::string label = each->id.empty() ? "choice" : std::string(each->id);
-            add(label, constant, definition.dump(), each->meaning,
+            add(label, ConstantItem, definition.dump(), each->meaning,
                 {{"filterText", label}, {"preselect", each->isRequired}}, snippetOf(definition));
         }
     }
@@ -303,7 +303,7 @@ private:
             for (const std::string_view base : expected->bases) {
                 const bool isOffered = kind && (kind->isRange() || !kind->builtInName().empty());
                 if (isOffered) {
-                    add(std::string(base), reference, textOf(base),
+                    add(std::string(base), ReferenceItem, textOf(base),
                         kind->isRange() ? "a range of its own" : kind->builtInName());
                 }
             }
@@ -311,7 +311,7 @@ private:
         const Catalogue& catalogue = session_.latest().catalogue();
         for (const Object& object : catalogue.objects()) {
             if (expected == nullptr || object.section == expected) {
-                add(object.typeId, reference, textOf(object.typeId), object.name,
+                add(object.typeId, ReferenceItem, textOf(object.typeId), object.name,
                     expected == nullptr ? Json{{"documentation", object.section->label}} : Json::object());
             }
         }

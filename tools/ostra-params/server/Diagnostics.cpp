@@ -9,7 +9,7 @@ namespace Tool::Lsp {
 
 namespace {
 
-enum Severity { error = 1, warning = 2 };
+enum Severity { ErrorSeverity = 1, WarningSeverity = 2 };
 
 Json relatedOf(Locations& locations, const Problem& problem) {
     Json related = Json::array();
@@ -42,7 +42,7 @@ Json diagnosticsOf(const Session& session, const File& file, const std::vector<P
         std::string message = printable(finding.message);
         message += finding.hint.empty() ? std::string() : "\nhint: " + printable(finding.hint);
         Json diagnostic{{"range", rangeOf(lines, problem.spot.begin, endOf(problem))},
-                        {"severity", finding.isError ? Severity::error : Severity::warning},
+                        {"severity", finding.isError ? ErrorSeverity : WarningSeverity},
                         {"code", finding.code},
                         {"source", "ostra-params"},
                         {"message", std::move(message)}};

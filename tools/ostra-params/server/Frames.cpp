@@ -68,7 +68,7 @@ std::optional<Frame> FrameReader::next() {
         end = buffer_.find(endOfHeader);
     }
     const auto length = lengthIn(std::string_view(buffer_).substr(0, end));
-    isLost_ = end == std::string::npos || end > longestHeader || !length || *length > longestBody;
+    isLost_ = end > longestHeader || !length || *length > longestBody; // or its end was not found
     if (isLost_) {
         buffer_.erase(0, 1); // so that this header is not found again
         return Frame{{},

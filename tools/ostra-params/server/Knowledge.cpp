@@ -23,10 +23,10 @@ std::size_t lineOf(std::string_view text, std::size_t offset) {
 
 /// Returns whether the text means to be a schema: a folder may have other JSON in it.
 bool isAboutSchemas(std::string_view text) {
-    if (text.find("\"typeid\"") != text.npos) {
+    if (text.find("\"typeid\"") != std::string_view::npos) {
         return true;
     }
-    if (text.find("\"inherits\"") == text.npos) {
+    if (text.find("\"inherits\"") == std::string_view::npos) {
         return false;
     }
     const Outline outline(text);
@@ -100,7 +100,7 @@ private:
         std::vector<std::size_t>& begins = begins_[&text];
         if (begins.empty()) {
             begins.push_back(text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0);
-            for (std::size_t i = text.find('\n'); i != text.npos; i = text.find('\n', i + 1)) {
+            for (std::size_t i = text.find('\n'); i != std::string_view::npos; i = text.find('\n', i + 1)) {
                 begins.push_back(i + 1);
             }
         }

@@ -23,7 +23,7 @@ std::size_t bytesOfCharacter(std::string_view text, std::size_t offset) {
 }
 
 Lines::Lines(std::string_view text, Encoding encoding) : text_(text), encoding_(encoding) {
-    for (std::size_t i = text.find_first_of("\r\n"); i != text.npos; i = text.find_first_of("\r\n", i)) {
+    for (std::size_t i = text.find_first_of("\r\n"); i != std::string_view::npos; i = text.find_first_of("\r\n", i)) {
         i += text.substr(i, 2) == "\r\n" ? 2 : 1;
         begins_.push_back(i);
     }

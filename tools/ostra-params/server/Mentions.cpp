@@ -12,7 +12,7 @@ Mention mentionOf(const File& file, const SchemaText& schema, std::size_t node) 
 
 /// Returns whether the typeid may be in a text, be it with escapes.
 bool mayHave(std::string_view text, const std::string& typeId) {
-    return text.find(typeId) != text.npos || text.find('\\') != text.npos;
+    return text.find(typeId) != std::string_view::npos || text.find('\\') != std::string_view::npos;
 }
 
 } // namespace

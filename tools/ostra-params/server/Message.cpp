@@ -61,7 +61,7 @@ std::string withoutHalves(std::string text) {
     return text;
 }
 
-Json parse(std::string body) {
+Json parse(const std::string& body) {
     if (isDeep(body)) {
         throw Refusal(ErrorCode::invalidRequest, "The message is nested too deeply.");
     }
@@ -79,8 +79,8 @@ std::string written(const Json& json) { return json.dump(-1, ' ', false, Json::e
 
 } // namespace
 
-Message read(std::string body) {
-    Json json = parse(std::move(body));
+Message read(const std::string& body) {
+    Json json = parse(body);
     const auto refuse = [](const char* why) { throw Refusal(ErrorCode::invalidRequest, why); };
     if (!json.is_object()) {
         refuse("The message is no object.");

@@ -40,7 +40,7 @@ struct Message {
 
 /// Reads a message. Text that is no UTF-8, and halves of characters of UTF-16, are mended, as editors may have them.
 /// @throws Refusal
-Message read(std::string body);
+Message read(const std::string& body);
 
 /// Returns the text of what goes to the client. Bytes that are no UTF-8 become replacement characters.
 /// @{

@@ -15,16 +15,23 @@ namespace Tool::Lsp {
 namespace {
 
 /// What the protocol calls the things that there are in programs; these come nearest.
-enum SymbolKind { classKind = 5, property = 7, field = 8, enumKind = 10, constant = 14, object = 19, structKind = 23 };
+enum SymbolKind {
+    ClassSymbol = 5,
+    PropertySymbol = 7,
+    EnumSymbol = 10,
+    ConstantSymbol = 14,
+    ObjectSymbol = 19,
+    StructSymbol = 23
+};
 
 SymbolKind symbolKindOf(const Section* section) {
     if (section == nullptr) {
-        return object;
+        return ObjectSymbol;
     }
-    return section->isParameter           ? constant
-           : section->id == "enumeration" ? enumKind
-           : section->id == "unit"        ? structKind
-                                          : classKind;
+    return section->isParameter           ? ConstantSymbol
+           : section->id == "enumeration" ? EnumSymbol
+           : section->id == "unit"        ? StructSymbol
+                                          : ClassSymbol;
 }
 
 /// Returns what a built-in object or a base is; "" when it is neither.
@@ -78,11 +85,11 @@ std::vector<Json> symbolsIn(const SchemaText& schema, const Lines& lines) {
         return rangeOf(lines, schema.begin() + (place.hasName() ? place.nameBegin : place.begin),
                        schema.begin() + place.end);
     };
-    const auto symbol = [&](const std::string& name, int kind, std::size_t node, std::size_t name_node) {
+    const auto symbol = [&](const std::string& name, int kind, std::size_t node, std::size_t nameNode) {
         return Json{{"name", name.empty() ? "?" : name},
                     {"kind", kind},
                     {"range", rangeOfNode(node)},
-                    {"selectionRange", rangeOfNode(name_node)}};
+                    {"selectionRange", rangeOfNode(nameNode)}};
     };
     const std::size_t root = outline.root();
     if (root == Outline::none || schema[root].type != Outline::Type::object || schema.typeIdNode() == Outline::none) {
@@ -98,7 +105,7 @@ std::vector<Json> symbolsIn(const SchemaText& schema, const Lines& lines) {
         for (const std::size_t definition :
              definitions == Outline::none ? std::vector<std::size_t>() : schema[definitions].children) {
             if (const std::size_t id = outline.find(definition, "id"); id != Outline::none) {
-                all["children"].push_back(symbol(outline.stringOf(id), property, definition, id));
+                all["children"].push_back(symbol(outline.stringOf(id), PropertySymbol, definition, id));
             }
         }
     }

@@ -57,7 +57,7 @@ public:
 private:
     class Reader;
 
-    bool isClosed(std::size_t container) const;
+    bool isClosed(std::size_t node) const;
 
     std::string_view text_;
     std::vector<Node> nodes_;

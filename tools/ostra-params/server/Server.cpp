@@ -36,9 +36,12 @@ constexpr std::array handlers{Handler{"textDocument/hover", hover},
                               Handler{"textDocument/formatting", formatting}};
 
 const Handler* findHandler(std::string_view method) {
-    const auto found =
-        std::find_if(handlers.begin(), handlers.end(), [&](const Handler& each) { return each.method == method; });
-    return found == handlers.end() ? nullptr : &*found;
+    for (const Handler& each : handlers) {
+        if (each.method == method) {
+            return &each;
+        }
+    }
+    return nullptr;
 }
 
 std::string uriIn(const Json& params) { return params.at("textDocument").at("uri").get<std::string>(); }
@@ -97,10 +100,10 @@ void Server::handle(const Message& message) {
 }
 
 Json Server::answer(const Message& message) {
-    if (state_ == State::new_ && message.method == "initialize") {
+    if (state_ == State::created && message.method == "initialize") {
         return initialize(message.params);
     }
-    if (state_ == State::new_) {
+    if (state_ == State::created) {
         throw Refusal(ErrorCode::serverNotInitialized, "The first request must be initialize.");
     }
     if (state_ == State::shutDown || message.method == "initialize") {
@@ -222,7 +225,7 @@ void receive(Bytes input, Mailbox& mailbox) {
             if (!frame->fault.empty()) {
                 throw Refusal(ErrorCode::parseError, frame->fault);
             }
-            Message message = read(std::move(frame->body));
+            Message message = read(frame->body);
             const bool isLast = message.method == "exit";
             if (message.method == "$/cancelRequest") {
                 mailbox.cancel(message.params.value("id", Json()));

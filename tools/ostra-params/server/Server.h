@@ -38,7 +38,7 @@ public:
     void publish();
 
 private:
-    enum class State { new_, running, shutDown };
+    enum class State { created, running, shutDown };
 
     Json answer(const Message& message);
     void obey(const Message& message);
@@ -46,7 +46,7 @@ private:
     void watchFiles();
 
     Send send_;
-    State state_ = State::new_;
+    State state_ = State::created;
     bool isOver_ = false;
     Session session_;
     Diagnostics diagnostics_;

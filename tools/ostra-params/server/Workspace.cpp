@@ -38,7 +38,7 @@ Text contentOf(const std::string& name) {
 }
 
 std::string changed(const std::string& text, const Json& change, Encoding encoding) {
-    const std::string& inserted = change.at("text").get_ref<const std::string&>();
+    const auto& inserted = change.at("text").get_ref<const std::string&>();
     const auto range = change.find("range");
     if (range == change.end()) {
         return inserted;
@@ -62,7 +62,7 @@ std::vector<Part> partsOf(const std::string& name, std::string_view text) {
     std::vector<Part> parts;
     for (std::size_t i = begin; i < text.size();) {
         const std::string_view line = text.substr(i, text.find('\n', i) - i);
-        if (line.find_first_not_of(blanks) != line.npos) {
+        if (line.find_first_not_of(blanks) != std::string_view::npos) {
             parts.push_back({i, line});
         }
         i += line.size() + 1;
@@ -76,7 +76,7 @@ Part partAt(const std::string& name, std::string_view text, std::size_t offset) 
         return {begin, text.substr(begin)};
     }
     const std::size_t before = text.substr(0, offset).rfind('\n');
-    const std::size_t line = before == text.npos ? begin : before + 1;
+    const std::size_t line = before == std::string_view::npos ? begin : before + 1;
     return {line, text.substr(line, text.find('\n', line) - line)};
 }
 
@@ -182,7 +182,8 @@ Snapshot Workspace::snapshot() const {
 
 std::string Workspace::folderOf(const std::string& name) {
     const std::size_t slash = name.rfind('/');
-    return name.find("://") != name.npos || slash == name.npos ? std::string() : name.substr(0, slash);
+    return name.find("://") != std::string_view::npos || slash == std::string_view::npos ? std::string()
+                                                                                         : name.substr(0, slash);
 }
 
 /// A folder may be known by another path than that of the document: through a link, for one.

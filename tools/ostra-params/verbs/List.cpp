@@ -48,6 +48,7 @@ std::string asJson(const std::vector<const Object*>& objects) {
 
 std::string asTable(const std::vector<const Object*>& objects) {
     std::vector<std::vector<std::string>> rows;
+    rows.reserve(objects.size());
     for (const Object* object : objects) {
         rows.push_back({printable(object->typeId), std::string(object->section->label), printable(object->name)});
     }

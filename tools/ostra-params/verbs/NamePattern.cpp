@@ -112,13 +112,14 @@ private:
 
     /// Returns what stands in brackets between two marks: the name of a class, or one character.
     std::optional<std::u32string_view> nextNamed(char32_t mark) {
-        const std::size_t end =
-            rest_.starts_with(std::u32string{U'[', mark}) ? rest_.find(std::u32string{mark, U']'}, 2) : rest_.npos;
-        if (end == rest_.npos) {
+        const std::size_t end = rest_.starts_with(std::u32string{U'[', mark})
+                                    ? rest_.find(std::u32string{mark, U']'}, 2)
+                                    : std::u32string_view::npos;
+        if (end == std::u32string_view::npos) {
             return std::nullopt;
         }
         const std::u32string_view name = rest_.substr(2, end - 2);
-        const bool isWord = name.find_first_not_of(U"abcdefghijklmnopqrstuvwxyz") == name.npos;
+        const bool isWord = name.find_first_not_of(U"abcdefghijklmnopqrstuvwxyz") == std::u32string_view::npos;
         if (mark == U':' ? !isWord : name.size() != 1) {
             return std::nullopt;
         }
