@@ -4,9 +4,9 @@
 
 #include <parameters/Kinds.h>
 
-#include <array>
 #include <cctype>
 #include <cstddef>
+#include <cstdio>
 #include <functional>
 #include <optional>
 #include <sstream>
@@ -446,8 +446,8 @@ inline std::string shown(const std::string& bytes) {
     for (const char* at = plain; at != end; ++at) {
         const auto byte = static_cast<unsigned char>(*at);
         if (byte < 0x20 || byte >= 0x7F || byte == '"' || byte == '\\') {
-            const std::array escape{'\\', 'x', digits[byte / 16], digits[byte % 16]};
-            result.append(plain, static_cast<std::size_t>(at - plain)).append(escape.data(), escape.size());
+            const char escape[] = {'\\', 'x', digits[byte / 16], digits[byte % 16]}; // NOLINT(modernize-avoid-c-arrays)
+            result.append(plain, static_cast<std::size_t>(at - plain)).append(escape, sizeof escape);
             plain = at + 1;
         }
     }
