@@ -6,7 +6,6 @@
 
 #include <cctype>
 #include <cstddef>
-#include <cstdio>
 #include <functional>
 #include <optional>
 #include <sstream>

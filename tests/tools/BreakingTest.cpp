@@ -1,4 +1,5 @@
 #include "compare/Breaking.h"
+
 #include "ProjectFolder.h"
 #include "catalogue/Catalogue.h"
 #include "support/RowNames.h"

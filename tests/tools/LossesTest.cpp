@@ -1,4 +1,5 @@
 #include "faults/Losses.h"
+
 #include "ProjectFolder.h"
 #include "catalogue/Catalogue.h"
 #include "support/RowNames.h"
