@@ -114,7 +114,7 @@ private:
              const Json& more = Json::object(), const std::string& snippet = {}) {
         constexpr std::size_t most = 500;
         const std::string searched = lower(label + " " + std::string(detail));
-        if (!typed_.empty() && searched.find(typed_) == std::string_view::npos) {
+        if (!typed_.empty() && searched.find(typed_) == std::string::npos) {
             return;
         }
         isCut_ = isCut_ || items_.size() >= most;

@@ -182,8 +182,7 @@ Snapshot Workspace::snapshot() const {
 
 std::string Workspace::folderOf(const std::string& name) {
     const std::size_t slash = name.rfind('/');
-    return name.find("://") != std::string_view::npos || slash == std::string_view::npos ? std::string()
-                                                                                         : name.substr(0, slash);
+    return name.find("://") != std::string::npos || slash == std::string::npos ? std::string() : name.substr(0, slash);
 }
 
 /// A folder may be known by another path than that of the document: through a link, for one.
